@@ -1,0 +1,61 @@
+#pragma once
+// Files of equal slots: record n (from 1) starts at byte (n - 1) x slot length, a record may be shorter than
+// its slot. A file is open for the length of one operation only.
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/record.h"
+
+namespace tipline {
+
+class RecordFile {
+ public:
+  RecordFile(std::filesystem::path path, int slotLength) : path_(std::move(path)), slot_(slotLength) {}
+
+  const std::filesystem::path& Path() const { return path_; }
+  bool Exists() const;
+  /// Whole slots in the file, 0 when there is no file.
+  int Count() const;
+
+  /// Slot n filled into `record`; what lies past the end of the file, or of a missing one, reads as zeros.
+  template <Described R>
+  void Read(int n, R& record) const {
+    std::vector<u8> bytes(static_cast<std::size_t>(R::kRecordSize));
+    ReadBytes(n, bytes.data(), R::kRecordSize);
+    ReadRecord(bytes.data(), record);
+  }
+
+  /// Writes the record into slot n and keeps the bytes of the slot behind it; the file is made, and grows
+  /// with zeros, as needed. False when the file could not be written.
+  template <Described R>
+  [[nodiscard]] bool Write(int n, const R& record) const {
+    std::vector<u8> bytes(static_cast<std::size_t>(R::kRecordSize));
+    WriteRecord(record, bytes.data());
+    return WriteBytes(n, bytes.data(), R::kRecordSize);
+  }
+
+  /// One pass over slots 1 to `count` with one buffer; visit(n, bytes) sees whole slots, zeros past the end.
+  void ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
+
+  /// Writes slots 1 to `count` in one pass: fill(n, bytes) gets each slot as it stands (zeros where new) and
+  /// changes it. The new file replaces the old one in one step. False, with the old file kept, when that
+  /// failed.
+  [[nodiscard]] bool RewriteAll(int count, const std::function<void(int, u8*)>& fill) const;
+
+ private:
+  void ReadBytes(int n, u8* bytes, int length) const;
+  bool WriteBytes(int n, const u8* bytes, int length) const;
+
+  std::filesystem::path path_;
+  int slot_;
+};
+
+/// The whole file as bytes; an empty text when it can't be read (then `*ok`, if given, is false).
+std::string ReadWholeFile(const std::filesystem::path& path, bool* ok = nullptr);
+
+/// Writes a temporary file beside `path` and renames it over it: a crash leaves the old file or the new one.
+[[nodiscard]] bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+}  // namespace tipline

@@ -1,0 +1,62 @@
+#pragma once
+// The cycle of a game, and the commands that move it. A game runs inside SetPlayBox: it goes from stop to
+// stop, takes the computer's decision where a side is computer-run, and returns when a human must be asked or
+// the game is over. In bulk play (`program.Autoplaying`) it returns only when the game is over.
+#include <string>
+
+namespace tipline {
+
+/// Clears the running game and gives it its start values; measures both teams and, for league games, the
+/// league's replay against its era. Needs both teams loaded; leaves what the load worked out (`game.loaded`)
+/// alone.
+void PrepareGame();
+
+/// First stop of a prepared game: line-ups in, "JUMPBALL-1", then SetPlayBox. Nothing when the game is over.
+void NewGame();
+
+/// Runs the game to its next stop that asks a human, or to its end. Reads and writes `game`.
+void SetPlayBox();
+
+/// The jump ball: who wins the tip, and the state after it. Writes the sides, the arrow, and charges the
+/// time.
+void JumpBall();
+
+// The commands of a coach. Each ends in SetPlayBox.
+enum class Refusal {
+  kNone,
+  kNotNow,       ///< game over, or no human to ask
+  kRosterLimit,  ///< the coach did not allow a roster over the limit
+  kLineup,       ///< "Invalid Lineup!"
+  kShooterGone,  ///< the free-throw shooter must be in the game
+  kJumperGone,   ///< the jumper must be in the game
+};
+/// Goes on from a stop. When refused it tells the coach why through the dialogs, changes nothing and returns
+/// the reason.
+Refusal ContinueChosen();
+void ShootChosen();
+void DriveChosen();
+void FastBreakChosen();
+void FreeThrowChosen();
+void BurnChosen();
+void PassChosen();
+/// A pass aimed at `game.possession.QuickPassTarget`, a position; a value outside 0 to 5 is drawn.
+void QuickPassChosen();
+/// The coach picks position 1 to 5 from the play grid.
+void PlayGridChosen(int position);
+/// Carries out the call in `game.call`. Refuses, with its message, when there is no time for a play.
+void UsePlayNowRoutine();
+/// The defense's answer to a call, `game.call.DefenseCall` 1 to 6.
+void DefensePlayCallChosen();
+/// The human hands this play to the computer.
+void ComputerChosen();
+/// A timeout of the acting side. Nothing when it has none left or one was just taken.
+void TimeoutChosen();
+
+/// What the acting side is asked at this stop, as the game screen shows it; empty when nobody is asked.
+std::string Prompt();
+
+/// Loads a team and its roster into side 1 or 2 of the game: records, availability, shot mix, today's form,
+/// stints. False when `teamNo` is outside 1..720 or no team holds that slot; the side is then empty.
+bool LoadTeam(int teamNo, int side);
+
+}  // namespace tipline

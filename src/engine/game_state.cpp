@@ -1,0 +1,7 @@
+#include "engine/game_state.h"
+
+namespace tipline {
+
+Game game;
+
+}  // namespace tipline

@@ -1,0 +1,67 @@
+#pragma once
+// The open league in memory. Its files stay the truth: whatever changes a record here is written to them.
+#include <string>
+#include <vector>
+
+#include "base/tables.h"
+#include "league/coach_record.h"
+#include "league/era_record.h"
+#include "league/player_record.h"
+#include "league/rules_record.h"
+#include "league/team_record.h"
+
+namespace tipline {
+
+inline constexpr int kTeams = 720;          ///< team slots that are stored
+inline constexpr int kDivisions = 36;       ///< of 20 slots each
+inline constexpr int kRosterSlots = 30;     ///< players of a team
+inline constexpr int kFreeAgent = 999;      ///< TeamNo of a free agent; team slot of an undecided game
+inline constexpr int kFormerMember = 1000;  ///< TeamNo = team + this: a part of a season with a former team
+inline constexpr int kFirstEraYear = 1946;
+inline constexpr int kLastEraYear = 2050;
+inline constexpr int kTeamSlotBytes = 1500;
+inline constexpr int kPlayerSlotBytes = 1500;
+inline constexpr int kCoachSlotBytes = 15000;
+inline constexpr int kRulesSlotBytes = 10000;
+inline constexpr int kEraSlotBytes = 100;
+
+using EraTable = Table<EraRecord, kFirstEraYear, kLastEraYear>;
+
+struct League {
+  BigTable<TeamRecord, 0, 999> team;    ///< slots 1 to 720 are stored; 0 is scratch, 999 "TBD"
+  BigTable<CoachRecord, 0, 721> coach;  ///< by team; filled team by team
+  std::vector<PlayerRecord> player;     ///< index = RecNo, 0 unused; filled by LoadLeaguePlayers
+  RulesRecord rules;
+  std::vector<u8> tournamentPools;  ///< record 2 of HCRULES as it stands in the file, a whole slot
+  EraTable EraPro, EraCollege;
+
+  std::string LeagueFolderName;  ///< last part of the league folder
+  double PhotoRatio = 1.5;       ///< height to width of player photos
+  Table<std::string, 1, 5> PositionLabel;
+
+  // Lookups, rebuilt by LoadAllTeams.
+  Table<int, 0, 999> Conference{};  ///< 1 or 2 (a college team: its division), 0 in no used division
+  Table<int, 1, kDivisions> DivisionTeams{};  ///< active teams in each division
+  std::vector<int> UsedDivisions;             ///< ascending
+  int ActiveTeams = 0;
+  int LargestDivision = 0;     ///< active teams of the largest division
+  bool EqualDivisions = true;  ///< all used divisions are of one size
+  bool MixedYears = false;     ///< the active teams hold more than one Year
+
+  double FullSeasonScale = 1.0;  ///< 82 / 71 when the rosters hold full seasons of 2019 or later
+};
+
+extern League league;
+
+/// Division 1 to 36 of team slot 1 to 720; 0 for any other number.
+int DivisionOf(int team);
+/// Conference of a team by the lookup; 0 for a number outside 1 to 720.
+int ConferenceOf(int team);
+/// The 20 slots of division 1 to 36, in order.
+Table<int, 1, 20> TeamsOfDivision(int division);
+
+/// Row of the era table for a season. A year below `oldest` or above 2050 counts as `fallback`, the answer of
+/// the place that asks; what is left is held to 1946..2050.
+const EraRecord& EraRow(int year, bool college, int fallback, int oldest = 1);
+
+}  // namespace tipline

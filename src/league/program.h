@@ -1,0 +1,29 @@
+#pragma once
+// Run-time flags and folders of the program.
+#include <filesystem>
+#include <string>
+
+#include "base/words.h"
+
+namespace tipline {
+
+struct GameKindWords {
+  static constexpr std::string_view kTexts[] = {"L", "E"};
+};
+using GameKind =
+    Word<GameKindWords>;  ///< "L" league game, "E" exhibition, scenario, or the bracket screen is open
+
+struct Program {
+  std::filesystem::path Home;           ///< the data home
+  std::filesystem::path ProgramFolder;  ///< era file, name files; serves all leagues
+  std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
+  tipline::GameKind GameKind;
+  bool PlayoffGame = false;
+  bool ScenarioGame = false;
+  bool ReplayLocked = false;  ///< a game, or its set-up, holds the data
+  bool Autoplaying = false;   ///< bulk play: the computer acts at every stop, nothing is shown
+};
+
+extern Program program;
+
+}  // namespace tipline

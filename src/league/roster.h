@@ -1,0 +1,23 @@
+#pragma once
+// One team with its men, as roster screens, rating runs and games take it.
+#include "base/tables.h"
+#include "league/league.h"
+
+namespace tipline {
+
+struct Roster {
+  int TeamNo = 0;
+  TeamRecord team;
+  CoachRecord coach;
+  Table<PlayerRecord, 0, kRosterSlots> player;  ///< by roster slot; 0 stays empty, an unused slot has RecNo 0
+};
+
+/// Reads a team, its coach and its men from the league folder. Roster slots that point at a removed row are
+/// cleared in the copy. False when `teamNo` is outside 1..720 or the slot holds no team.
+bool ReadRoster(int teamNo, Roster& roster);
+
+/// Writes coach, men (each at its RecNo) and team back, in this order. False, after telling the user, when a
+/// file could not be written.
+bool WriteRoster(const Roster& roster);
+
+}  // namespace tipline
