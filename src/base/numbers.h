@@ -20,6 +20,9 @@ inline int Int(double x) {
   return whole - (x < whole ? 1 : 0);
 }
 
+/// A whole-number weight or chance times a factor, rounded at once.
+inline void Scale(int& weight, double factor) { weight = Round(weight * factor); }
+
 template <class T>
 constexpr T Clamp(T value, T low, T high) {
   return value < low ? low : high < value ? high : value;

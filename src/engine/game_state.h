@@ -64,6 +64,10 @@ struct Man {
 
   int UsageLevel = 0;  ///< 0 to 3: how far he has been used beyond his real season
 
+  /// Team events while he was on the floor: shots of his team, twos of the other, baskets of his team,
+  /// rebound chances.
+  int ShareShots = 0, ShareBlocks = 0, ShareAssists = 0, ShareOffReb = 0, ShareDefReb = 0;
+
   ShortLine PeriodStatLine, HalfStatLine, BestPeriodLine, BestHalfLine;
 };
 
@@ -113,7 +117,6 @@ struct Side {
   int LooseBalls = 0;
   int FastbreakPoints = 0, BenchPoints = 0, BiggestLead = 0;
   int ExtraPaintPoints = 0, ExtraSecondChancePoints = 0;
-  int Possessions = 0;
   i32 TimeSinceScore = 0;
   Table<int, 1, 20> TimeoutsByPeriod{};
   Table<int, 0, 20> TimeoutsByMinute{};
@@ -170,12 +173,10 @@ struct Play {
   int BasketInterference = 0, ShotStuck = 0;
   int FlagrantLevel = 0;
   int NoShotEnd = 0;  ///< 1 = the period ran out without a shot
-  int BreakStolenMark = 0, SidesChangedMark = 0;
   int OutOfBoundsChange = 0;
-  int LongRebound = 0, NoPutbackSpot = 0, HeldBall = 0;
-  int TipIn = 0;         ///< 0 none, 1 a tip-in missed, 2 a tip-in scored
-  int ScoreLogOpen = 0;  ///< row of the score log that waits for its time and score, 0 none
-  int PlayLogOpen = 0;   ///< row of the play log that waits for its outcome, 0 none
+  int TipIn = 0;               ///< 0 none, 1 a tip-in missed, 2 a tip-in scored
+  int StolenInbound = 0;       ///< 1 = stolen as the ball was brought in from the backcourt
+  tipline::PlayKind TripOwed;  ///< free throws that a foul away from a shot leads to, "" none
 
   // The defense as this play's shooter meets it, by DefenseRatings.
   double TeamDefense = 0, DefenseFactor = 1;
@@ -216,7 +217,6 @@ struct Possession {
   int PassedThisPossession = 0;
   int PassFirst = 0;      ///< the play starts with a pass away from the man who is guarded
   int PassFirstFrom = 0;  ///< slot that gives it
-  int HadOffensiveRebound = 0;
 };
 
 struct FastBreak {
@@ -246,6 +246,16 @@ struct PlayLogRow {
   i16 VisitorScore = 0, HomeScore = 0;
 };
 enum PlayNote : u8 { kNoNote, kAssistedBy, kBlockedBy, kStolenBy, kFouledBy, kTimeoutNote, kMediaTimeout };
+
+/// The coverage, double teams and help as they stood before a call for one play changed them.
+struct CoverageCopy {
+  bool Taken = false;
+  struct ManCoverage {
+    int Inside = 3, Outside = 3, Three = 3, DoubleInside = 0, DoubleOutside = 0, DoubleThree = 0;
+  };
+  Table2<ManCoverage, 1, 2, 0, kRosterSlots> man{};
+  Table<int, 1, 2> DefenseHelp{};
+};
 
 /// Everything that a new game begins afresh.
 struct GameRun {
@@ -280,7 +290,7 @@ struct GameRun {
   int Tension = 0;
   tipline::PlayKind LastShotKind;
   int UsageOffenseLeft = 0, UsageDefenseLeft = 0;  ///< levels left by the last chance run
-  int HalfwayPrompted = 0;
+  int SecondChance = 0;                            ///< 1 = this possession had an offensive rebound
 
   Table<Side, 1, 2> side;
   Table2<Man, 1, 2, 0, kRosterSlots> man;
@@ -288,6 +298,7 @@ struct GameRun {
   Call call;
   Possession possession;
   FastBreak fastBreak;
+  CoverageCopy coverageCopy;
 
   int RunTeam = 0, RunPoints = 0, RunOffset = 0;  ///< scoring run: side and points; a coach's nerves about it
   int LeadChanges = 0, Ties = 0, LeadSide = 0;

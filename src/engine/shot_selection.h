@@ -30,4 +30,8 @@ void ResetOffensePanel();
 /// The computer's quick pass within a possession: true when it was tried (the cycle then goes round again).
 bool ComputerQuickPass();
 
+/// Keeps coverage, double teams and help of both sides, and puts them back after the play, if they were kept.
+void KeepCoverage();
+void RestoreCoverage();
+
 }  // namespace tipline

@@ -1,0 +1,136 @@
+#include "aftermath/finish_game.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "engine/game_state.h"
+#include "engine/resolution.h"
+#include "league/program.h"
+
+namespace tipline {
+namespace {
+
+/// Adds without leaving the counter's range.
+template <class Counter>
+void Add(Counter& counter, int value) {
+  const int low = std::numeric_limits<Counter>::min();
+  const int high = std::numeric_limits<Counter>::max();
+  counter = static_cast<Counter>(Clamp(counter + value, low, high));
+}
+
+constexpr i16 StatLine::*kCounters[] = {&StatLine::FGA, &StatLine::FGM,  &StatLine::F3A, &StatLine::F3M,
+                                        &StatLine::FTA, &StatLine::FTM,  &StatLine::Reb, &StatLine::Off,
+                                        &StatLine::Ast, &StatLine::St,   &StatLine::Bk,  &StatLine::To,
+                                        &StatLine::Pf,  &StatLine::Dunks};
+
+void AddLine(StatLine& to, const StatLine& from) {
+  for (const auto counter : kCounters) Add(to.*counter, from.*counter);
+  Add(to.Technicals, from.Technicals);
+  Add(to.Flagrant2, from.Flagrant2);
+}
+
+bool FouledOut(const StatLine& line) { return league.rules.DqList > 0 && line.Pf >= league.rules.DqList; }
+
+/// He was on the floor, if only for a free throw.
+bool HasPlayed(int side, int slot) {
+  if (ManAt(side, slot).PlayerGameTime > 0) return true;
+  const StatLine& line = PlayerAt(side, slot).Stats[3];
+  return std::any_of(std::begin(kCounters), std::end(kCounters), [&](const auto c) { return line.*c > 0; });
+}
+
+void CloseGameLine(int side, int slot) {
+  StatLine& line = PlayerAt(side, slot).Stats[3];
+  line.Min = static_cast<i16>(ManAt(side, slot).PlayerGameTime / kMinute);
+  line.G = 1;
+  line.Dq = FouledOut(line) ? 1 : 0;
+}
+
+constexpr Table<i16, 2, 3> PlayerRecord::*kSplits[] = {&PlayerRecord::ShotAttInside,
+                                                       &PlayerRecord::ShotAttOutside,
+                                                       &PlayerRecord::ShotAttThree,
+                                                       &PlayerRecord::ShotAttDrive,
+                                                       &PlayerRecord::ShotAttFastbreak2,
+                                                       &PlayerRecord::ShotAttOffReb2,
+                                                       &PlayerRecord::ShotAttFastbreak3,
+                                                       &PlayerRecord::ShotAttOffReb3,
+                                                       &PlayerRecord::ShotMadeInside,
+                                                       &PlayerRecord::ShotMadeOutside,
+                                                       &PlayerRecord::ShotMadeThree,
+                                                       &PlayerRecord::ShotMadeDrive,
+                                                       &PlayerRecord::ShotMadeFastbreak2,
+                                                       &PlayerRecord::ShotMadeOffReb2,
+                                                       &PlayerRecord::ShotMadeFastbreak3,
+                                                       &PlayerRecord::ShotMadeOffReb3,
+                                                       &PlayerRecord::OppFGA,
+                                                       &PlayerRecord::OppFGM};
+
+void AddToSeason(int side, int slot) {
+  PlayerRecord& p = PlayerAt(side, slot);
+  const Man& man = ManAt(side, slot);
+  const StatLine& line = p.Stats[3];
+  StatLine& season = p.Stats[2];
+  if (line.GS == 1) Add(season.GS, 1);
+  Add(season.G, 1);
+  Add(season.Min, line.Min);
+  AddLine(season, line);
+  Add(season.Ejections, man.Ejected);
+  Add(season.Dq, line.Dq);
+  Add(p.Flagrants[2], p.Flagrants[3]);
+  for (const auto split : kSplits) Add((p.*split)[2], (p.*split)[3]);
+  for (int period = 1; period <= 5; ++period) Add(p.QuarterPoints[period][2], p.QuarterPoints[period][3]);
+  Add(p.PlusMinus, man.PlusMinus);
+  Add(p.ShareShots, man.ShareShots);
+  Add(p.ShareBlocks, man.ShareBlocks);
+  Add(p.ShareAssists, man.ShareAssists);
+  Add(p.ShareOffReb, man.ShareOffReb);
+  Add(p.ShareDefReb, man.ShareDefReb);
+  for (int position = 1; position <= kPositions; ++position) {
+    if (man.PositionTime[position] == 0) continue;
+    Add(p.GamesAtPosition[position], 1);
+    Add(p.MinutesAtPosition[position], Int(man.PositionTime[position] / 600.0 + 0.5));
+    Add(p.PointsAtPosition[position], man.PositionPoints[position]);
+  }
+}
+
+/// Both teams' lines of the season: their own and their opponents'.
+void AddTeamLines() {
+  for (int s = 1; s <= 2; ++s) {
+    TeamRecord& team = game.team[s];
+    const int other = 3 - s;
+    for (int slot = 1; slot <= kRosterSlots; ++slot) {
+      if (OnTeam(s, slot)) AddLine(team.TeamStats[1], PlayerAt(s, slot).Stats[3]);
+      if (OnTeam(other, slot)) AddLine(team.TeamStats[2], PlayerAt(other, slot).Stats[3]);
+    }
+    Add(team.TeamStats[1].G, 1);
+    Add(team.TeamStats[2].G, 1);
+    Add(team.TeamRebounds[2], game.side[s].GameTeamRebounds);
+    Add(team.OppTeamRebounds, game.side[other].GameTeamRebounds);
+    Add(team.TeamTurnovers[1], game.side[s].GameTeamTurnovers);
+    Add(team.TeamTurnovers[2], game.side[other].GameTeamTurnovers);
+    Add(team.Possessions[2], team.Possessions[3]);
+    Add(team.OppPossessions[2], team.OppPossessions[3]);
+    for (int period = 1; period <= 10; ++period) {
+      Add(team.PeriodPoints[period][1], game.side[s].PeriodScore[period]);
+      Add(team.PeriodPoints[period][2], game.side[other].PeriodScore[period]);
+    }
+    const bool won = game.side[s].Score > game.side[other].Score;
+    Add(won ? team.Wins : team.Losses, 1);
+  }
+}
+
+}  // namespace
+
+void FinishGame() {
+  for (int s = 1; s <= 2; ++s) {
+    const int left = CountEligible(s);
+    game.side[s].ShortHanded = left < kPositions ? left : 0;
+    for (int slot = 1; slot <= kRosterSlots; ++slot) {
+      if (!OnTeam(s, slot) || !HasPlayed(s, slot)) continue;
+      CloseGameLine(s, slot);
+      if (program.GameKind == "L") AddToSeason(s, slot);
+    }
+  }
+  if (program.GameKind == "L") AddTeamLines();
+}
+
+}  // namespace tipline

@@ -1,0 +1,115 @@
+// A game is set up: teams loaded, tables cleared, start values given.
+#include <algorithm>
+
+#include "coach/substitutions.h"
+#include "engine/chances.h"
+#include "engine/engine.h"
+#include "engine/fatigue.h"
+#include "engine/game_state.h"
+#include "engine/weights.h"
+#include "league/program.h"
+#include "league/roster.h"
+
+namespace tipline {
+namespace {
+
+void ClearGameLine(PlayerRecord& p) {
+  p.Stats[3] = {};
+  for (int period = 1; period <= 5; ++period) p.QuarterPoints[period][3] = 0;
+  for (auto* pair : {&p.ShotAttInside,
+                     &p.ShotAttOutside,
+                     &p.ShotAttThree,
+                     &p.ShotAttDrive,
+                     &p.ShotAttFastbreak2,
+                     &p.ShotAttOffReb2,
+                     &p.ShotAttFastbreak3,
+                     &p.ShotAttOffReb3,
+                     &p.ShotMadeInside,
+                     &p.ShotMadeOutside,
+                     &p.ShotMadeThree,
+                     &p.ShotMadeDrive,
+                     &p.ShotMadeFastbreak2,
+                     &p.ShotMadeOffReb2,
+                     &p.ShotMadeFastbreak3,
+                     &p.ShotMadeOffReb3,
+                     &p.OppFGA,
+                     &p.OppFGM,
+                     &p.CarriedTotal1,
+                     &p.CarriedTotal2,
+                     &p.CarriedTotal3,
+                     &p.CarriedTotal4}) {
+    (*pair)[3] = 0;
+  }
+  p.Flagrants[3] = 0;
+}
+
+/// The plan of the side's coach against this opponent; the lowest number wins, 0 when there is none.
+int PlanAgainst(const CoachRecord& coach, int opponent) {
+  for (int plan = 1; plan <= 10; ++plan) {
+    if (coach.PlanOpponent[plan] == opponent && opponent != 0) return plan;
+  }
+  return 0;
+}
+
+void Available(int side, int slot) {
+  const PlayerRecord& p = PlayerAt(side, slot);
+  LoadedMan& man = LoadedAt(side, slot);
+  const bool suspended = program.ReplayLocked && program.GameKind == "L" && p.SuspensionGames > 0;
+  man.PlayerOut = !OnTeam(side, slot) || p.Status == 99 || suspended ? 1 : 0;
+}
+
+}  // namespace
+
+bool LoadTeam(int teamNo, int side) {
+  Roster roster;
+  const bool found = ReadRoster(teamNo, roster);
+  game.GameTeam[side] = found ? teamNo : 0;
+  game.team[side] = roster.team;
+  game.coach[side] = roster.coach;
+  for (int slot = 0; slot <= kRosterSlots; ++slot) {
+    game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
+    game.loaded[side][slot] = {};
+  }
+  if (!found) return false;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(side, slot)) game.player[side][slot] = {};
+    Available(side, slot);
+    LoadedAt(side, slot).HotHand = DrawHotHand();
+  }
+  ShotMix(side);
+  SetStints(side);
+  return true;
+}
+
+void PrepareGame() {
+  Table<CoachMode, 1, 2> mode;
+  for (int s = 1; s <= 2; ++s) mode[s] = game.side[s].CoachMode;
+  static_cast<GameRun&>(game) = GameRun{};
+  game.GameClock = FullPeriod();
+  game.ShotClock = FullShotClock();
+  for (int s = 1; s <= 2; ++s) {
+    Side& side = game.side[s];
+    side.CoachMode = mode[s];
+    side.TimeoutsLeft = league.rules.TimeoutList;
+    side.GamePlanIndex = PlanAgainst(game.coach[s], game.GameTeam[3 - s]);
+    game.team[s].Possessions[3] = game.team[s].OppPossessions[3] = 0;
+    game.team[s].TeamRebounds[3] = 0;
+    for (int slot = 1; slot <= kRosterSlots; ++slot) ClearGameLine(PlayerAt(s, slot));
+  }
+  const int nerve = Rnd(4);
+  game.RunOffset = nerve - Rnd(4);
+  CalibrateLeague();
+}
+
+void NewGame() {
+  if (game.GameOver) return;
+  game.GameDone = false;
+  game.OffenseSide = 2;
+  game.DefenseSide = 1;
+  game.ActingSide = 1;
+  LoadLineups();
+  game.GameState = "JUMPBALL-1";
+  SetPlayBox();
+}
+
+}  // namespace tipline
