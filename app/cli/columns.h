@@ -1,0 +1,34 @@
+#pragma once
+// A table for people, in aligned columns, or for programs, as comma-separated text.
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tipline::cli {
+
+class Columns {
+ public:
+  /// Headings; one that begins with '<' is a column of texts, set to the left.
+  explicit Columns(std::vector<std::string> headings);
+
+  void Row(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+  /// A rule across the table, for people only.
+  void Rule() { rows_.emplace_back(); }
+
+  void Print(std::ostream& out, bool csv) const;
+
+ private:
+  void PrintLine(std::ostream& out, const std::vector<std::string>& cells,
+                 const std::vector<std::size_t>& widths) const;
+
+  std::vector<std::string> headings_;
+  std::vector<bool> left_;
+  std::vector<std::vector<std::string>> rows_;
+};
+
+/// `value` with that many places behind the point.
+std::string Fixed(double value, int places);
+/// A percentage as it is written on a box: ".487", "1.000"; ".000" without attempts.
+std::string Share(int made, int tried);
+
+}  // namespace tipline::cli

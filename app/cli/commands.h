@@ -1,0 +1,40 @@
+#pragma once
+// What each command does. A command gives the program's exit code: 0 done, 1 refused with one line on
+// standard error.
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "frontoffice/league_maker.h"
+
+namespace tipline::cli {
+
+struct Common {
+  std::string League;  ///< name, "" the current one
+  std::optional<std::uint64_t> Seed;
+  bool Quiet = false;
+  bool Csv = false;
+};
+
+int NewLeague(LeagueRequest request, const Common& common);
+int ShowTeams(const Common& common);
+/// `view`: "stats" (this season), "real" or "ratings".
+int ShowRoster(const std::string& team, const std::string& view, const Common& common);
+int RateTeams(const std::string& team, bool all, const Common& common);
+int PlayExhibition(const std::string& visitor, const std::string& home, const Common& common);
+int Dump(const std::string& file, int record, const Common& common);
+/// What ./run does without arguments: a league is made where there is none, then the menu or one game.
+int Start(const Common& common);
+
+/// Opens the league of the command, or tells why not. True when it is open.
+bool OpenTheLeague(const Common& common);
+/// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no
+/// team or more than one.
+int FindTeam(const std::string& text);
+/// City and nickname, the city alone where both are the same.
+std::string TeamName(const TeamRecord& team);
+
+/// The game just played, as a fan reads it: periods, every man's line, what else there is to tell.
+void PrintBox(std::ostream& out);
+
+}  // namespace tipline::cli

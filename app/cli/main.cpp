@@ -1,0 +1,124 @@
+// The command line: options and commands, each with the program's exit codes.
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <chrono>
+#include <iostream>
+
+#include "base/random.h"
+#include "cli/commands.h"
+#include "cli/terminal.h"
+#include "league/program.h"
+#include "platform/folders.h"
+
+namespace {
+
+using namespace tipline;
+using cli::Common;
+
+constexpr int kWrongUsage = 2;
+
+struct Arguments {
+  Common common;
+  std::string home;
+  std::uint64_t seed = 0;
+  bool yes = false;
+  LeagueRequest request;
+  std::string visitor, homeTeam, team, view = "ratings", file;
+  int record = 1;
+  bool all = false;
+};
+
+/// Options that every command takes, in front of it or behind it.
+void AddCommon(CLI::App& app, Arguments& a) {
+  app.add_option("--home", a.home, "data home (default: TIPLINE_HOME, else the user's data folder)");
+  app.add_option("--league", a.common.League, "league to work on (default: the one used last)");
+  app.add_option("--seed", a.seed, "seed of the random numbers: the run then repeats exactly");
+  app.add_flag("--quiet", a.common.Quiet, "print results only");
+  app.fallthrough();
+}
+
+void AddLeagueNew(CLI::App& app, Arguments& a) {
+  auto* group = app.add_subcommand("league", "leagues");
+  group->require_subcommand(1);
+  auto* make = group->add_subcommand("new", "make a league of made-up teams and players");
+  make->add_option("name", a.request.Name, "name of the league")->required();
+  make->add_option("--preset", a.request.Preset, "pro, college, women or historic")->capture_default_str();
+  make->add_option("--year", a.request.Year, "season year, 1946 to 2050");
+  make->add_option("--divisions", a.request.Divisions, "number of divisions");
+  make->add_option("--teams", a.request.Teams, "number of teams");
+  make->add_option("--games", a.request.Games, "games of a season");
+}
+
+void AddLists(CLI::App& app, Arguments& a) {
+  auto* teams = app.add_subcommand("teams", "the teams of the league");
+  teams->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  auto* roster = app.add_subcommand("roster", "the players of a team");
+  roster->add_option("team", a.team, "number, abbreviation, city or nickname")->required();
+  roster->add_option("--view", a.view, "stats, real or ratings")
+      ->check(CLI::IsMember({"stats", "real", "ratings"}))
+      ->capture_default_str();
+  roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
+  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES or Basketball-Era.dat")
+      ->required();
+  dump->add_option("record", a.record, "record number")->capture_default_str();
+}
+
+void AddPlay(CLI::App& app, Arguments& a) {
+  auto* play = app.add_subcommand("play", "an exhibition game between two teams");
+  play->add_option("visitor", a.visitor, "number, abbreviation, city or nickname")->required();
+  play->add_option("hometeam", a.homeTeam, "the team at home")->required();
+  auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
+  ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
+  ratings->add_flag("--all", a.all, "every team of the league");
+  ratings->add_flag("--yes", a.yes, "without asking");
+  app.add_subcommand("start", "the menu; without a terminal one exhibition game");
+}
+
+int RunCommand(CLI::App& app, Arguments& a) {
+  if (app.got_subcommand("league")) return cli::NewLeague(a.request, a.common);
+  if (app.got_subcommand("teams")) return cli::ShowTeams(a.common);
+  if (app.got_subcommand("roster")) return cli::ShowRoster(a.team, a.view, a.common);
+  if (app.got_subcommand("ratings")) {
+    if (a.team.empty() == !a.all) {
+      std::cerr << "tipline: name one team, or say --all\n";
+      return kWrongUsage;
+    }
+    return cli::RateTeams(a.team, a.all, a.common);
+  }
+  if (app.got_subcommand("play")) return cli::PlayExhibition(a.visitor, a.homeTeam, a.common);
+  if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
+  if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
+  std::cout << app.help();
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Tipline: a simulation and coaching game of league basketball");
+  Arguments a;
+  AddCommon(app, a);
+  AddLeagueNew(app, a);
+  AddLists(app, a);
+  AddPlay(app, a);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : kWrongUsage;
+  }
+  if (app.count("--seed") > 0) a.common.Seed = a.seed;
+  random.Seed(a.common.Seed
+                  ? *a.common.Seed
+                  : static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
+  cli::Terminal terminal;
+  terminal.AssumeYes = a.yes;
+  program.Home = platform::DataHome(a.home);
+  program.ProgramFolder = program.Home / "program";
+  try {
+    return RunCommand(app, a);
+  } catch (const std::exception& error) {
+    return cli::Refuse(error.what());
+  }
+}
