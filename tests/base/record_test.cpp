@@ -46,13 +46,14 @@ TEST(Record, SizesAreThoseOfTheFiles) {
 }
 
 TEST(Record, TheFirstIndexRunsFastest) {
-  std::vector<u8> team(TeamRecord::kRecordSize), player(PlayerRecord::kRecordSize), coach(CoachRecord::kRecordSize);
-  team[1143 + 2 * (2 - 1 + 10)] = 7;                                // points of period 2, opponents
-  team[706 + 2 * (3 - 1 + 3 * 4 + 33 * (6 - 1))] = 8;               // zone 3, rating 4, coverage 6
-  player[745 + 2 * (5 - 1 + 5 * (3 - 1))] = 9;                      // overtime points of the game
-  player[1327 + (2 - 1 + 5 * (20 - 1))] = 4;                        // second period, minute 20
-  coach[56 + (4 - 1 + 5 * (19 - 1) + 100 * (2 - 1))] = 30;          // position 4, minute 19, period 2
-  coach[901 + (10 + 11 * (30 - 1))] = 6;                            // plan 10, slot 30
+  std::vector<u8> team(TeamRecord::kRecordSize), player(PlayerRecord::kRecordSize),
+      coach(CoachRecord::kRecordSize);
+  team[1143 + 2 * (2 - 1 + 10)] = 7;                        // points of period 2, opponents
+  team[706 + 2 * (3 - 1 + 3 * 4 + 33 * (6 - 1))] = 8;       // zone 3, rating 4, coverage 6
+  player[745 + 2 * (5 - 1 + 5 * (3 - 1))] = 9;              // overtime points of the game
+  player[1327 + (2 - 1 + 5 * (20 - 1))] = 4;                // second period, minute 20
+  coach[56 + (4 - 1 + 5 * (19 - 1) + 100 * (2 - 1))] = 30;  // position 4, minute 19, period 2
+  coach[901 + (10 + 11 * (30 - 1))] = 6;                    // plan 10, slot 30
   TeamRecord t;
   PlayerRecord p;
   CoachRecord c;
@@ -69,9 +70,9 @@ TEST(Record, TheFirstIndexRunsFastest) {
 
 TEST(Record, NumbersAreLittleEndianAndSigned) {
   std::vector<u8> bytes(TeamRecord::kRecordSize);
-  bytes[372] = 0xFD, bytes[373] = 0xFF;                     // a streak of -3
-  bytes[65] = 0x33, bytes[66] = 0x22, bytes[67] = 0x11;     // 0x00112233
-  bytes[1197] = 0xF0, bytes[1198] = 0x3F;                   // 1.0
+  bytes[372] = 0xFD, bytes[373] = 0xFF;                  // a streak of -3
+  bytes[65] = 0x33, bytes[66] = 0x22, bytes[67] = 0x11;  // 0x00112233
+  bytes[1197] = 0xF0, bytes[1198] = 0x3F;                // 1.0
   TeamRecord team;
   ReadRecord(bytes.data(), team);
   EXPECT_EQ(team.Streak, -3);

@@ -37,18 +37,42 @@ TEST(SeasonReset, ATeamKeepsWhatIsNotOfTheSeason) {
   const TeamRecord& team = league.team[720];
   const auto cleared = Cleared(team);
   for (const char* kept :
-       {"TeamActive", "City", "Abbrev", "Year", "TeamType", "RealTotals", "Roster", "HomeForeColor", "LogoFile",
-        "ScheduleStrength", "PlanMark", "HighLowMark", "LastTenMark", "SavedWins", "SavedPowerRating",
-        "ConferenceMark", "SplitsMark", "ArenaAge", "RealWins", "RealLosses", "TeamTotalsMark", "ReservedFlagA",
-        "ReservedText"}) {
+       {"TeamActive",     "City",          "Abbrev",        "Year",      "TeamType",
+        "RealTotals",     "Roster",        "HomeForeColor", "LogoFile",  "ScheduleStrength",
+        "PlanMark",       "HighLowMark",   "LastTenMark",   "SavedWins", "SavedPowerRating",
+        "ConferenceMark", "SplitsMark",    "ArenaAge",      "RealWins",  "RealLosses",
+        "TeamTotalsMark", "ReservedFlagA", "ReservedText"}) {
     EXPECT_FALSE(cleared.contains(kept)) << kept;
   }
-  for (const char* gone :
-       {"TeamStats", "Wins", "Losses", "Streak", "HomeLosses", "DivisionWins", "HomeStats", "ReservedLine",
-        "ReservedWord", "NeutralLosses", "ScoutOffense", "ScoutCoverage", "PeriodPoints", "PowerRating",
-        "Possessions", "OppPossessions", "PossessionMark", "HighPoints", "HighPf", "LowPoints", "LowPf", "LastTen",
-        "ConferenceLosses", "ShotAttInside", "ShotMadeThree", "OvertimeWins", "LossesAllowing100",
-        "TeamTurnovers", "OppTeamRebounds"}) {
+  for (const char* gone : {"TeamStats",
+                           "Wins",
+                           "Losses",
+                           "Streak",
+                           "HomeLosses",
+                           "DivisionWins",
+                           "HomeStats",
+                           "ReservedLine",
+                           "ReservedWord",
+                           "NeutralLosses",
+                           "ScoutOffense",
+                           "ScoutCoverage",
+                           "PeriodPoints",
+                           "PowerRating",
+                           "Possessions",
+                           "OppPossessions",
+                           "PossessionMark",
+                           "HighPoints",
+                           "HighPf",
+                           "LowPoints",
+                           "LowPf",
+                           "LastTen",
+                           "ConferenceLosses",
+                           "ShotAttInside",
+                           "ShotMadeThree",
+                           "OvertimeWins",
+                           "LossesAllowing100",
+                           "TeamTurnovers",
+                           "OppTeamRebounds"}) {
     EXPECT_TRUE(cleared.contains(gone)) << gone;
   }
   EXPECT_EQ(cleared.size(), 94u);
@@ -77,8 +101,9 @@ TEST(SeasonReset, APlayerLosesOneBlock) {
   EXPECT_EQ(replay.SeriesStats.FGA, 0);
   const auto cleared = Cleared(replay);
   EXPECT_EQ(cleared.size(), 53u);
-  for (const char* kept : {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
-                           "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"}) {
+  for (const char* kept :
+       {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
+        "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"}) {
     EXPECT_FALSE(cleared.contains(kept)) << kept;
   }
 

@@ -29,9 +29,15 @@ TEST(Division, FollowsTheSlotNumber) {
     const char* why;
     int slot, division;
   } cases[] = {
-      {"first slot of the first block", 1, 1}, {"last slot of division 1", 12, 1}, {"next division", 13, 2},
-      {"last of the first block", 432, 36},    {"first of the second block", 433, 1}, {"its eighth", 440, 1},
-      {"its ninth", 441, 2},                   {"last slot of all", 720, 36},      {"scratch", 0, 0},
+      {"first slot of the first block", 1, 1},
+      {"last slot of division 1", 12, 1},
+      {"next division", 13, 2},
+      {"last of the first block", 432, 36},
+      {"first of the second block", 433, 1},
+      {"its eighth", 440, 1},
+      {"its ninth", 441, 2},
+      {"last slot of all", 720, 36},
+      {"scratch", 0, 0},
       {"undecided", 999, 0},
   };
   for (const auto& c : cases) EXPECT_EQ(DivisionOf(c.slot), c.division) << c.why;
@@ -137,7 +143,8 @@ TEST_F(Teams, AnyBytesOpenWithoutHarm) {
   random.Seed(3);
   std::string bytes(700 * 1500 + 77, '\0');
   for (char& c : bytes) c = static_cast<char>(Rnd(256) - 1);
-  for (int slot = 0; slot < 700; slot += 3) bytes[static_cast<std::size_t>(slot) * 1500] = 1, bytes[static_cast<std::size_t>(slot) * 1500 + 1] = 0;
+  for (int slot = 0; slot < 700; slot += 3)
+    bytes[static_cast<std::size_t>(slot) * 1500] = 1, bytes[static_cast<std::size_t>(slot) * 1500 + 1] = 0;
   ASSERT_TRUE(WriteWholeFile(TeamsFile(), bytes));
   LoadAllTeams();
   EXPECT_EQ(league.ActiveTeams, 234);
@@ -167,9 +174,9 @@ TEST_F(Teams, AWriteThatFailsIsToldWithTheFilesName) {
   EXPECT_FALSE(SaveAllTeams());
   EXPECT_FALSE(WriteCoach(1));
   EXPECT_FALSE(WritePlayer(player));
-  EXPECT_EQ(dialogs.told, (std::vector<std::string>{"HCTEAMS could not be written!", "HCTEAMS could not be written!",
-                                                    "HCgameplan could not be written!",
-                                                    "HCPLAYER could not be written!"}));
+  EXPECT_EQ(dialogs.told,
+            (std::vector<std::string>{"HCTEAMS could not be written!", "HCTEAMS could not be written!",
+                                      "HCgameplan could not be written!", "HCPLAYER could not be written!"}));
 }
 
 }  // namespace
