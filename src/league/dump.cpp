@@ -17,7 +17,7 @@ struct FileFormat {
   std::filesystem::path (*path)();
   int slot;
   std::string_view records;
-  void (*dump)(const u8* bytes, std::ostream& out);
+  void (*dump)(const RecordFile& file, int n, std::ostream& out);
   void (*document)(std::string& text);
 };
 
@@ -119,9 +119,9 @@ class Dump {
 };
 
 template <class Record>
-void DumpBytes(const u8* bytes, std::ostream& out) {
+void DumpSlot(const RecordFile& file, int n, std::ostream& out) {
   const auto record = std::make_unique<Record>();
-  ReadRecord(bytes, *record);
+  file.Read(n, *record);
   Describe(std::as_const(*record), Dump(out, 0, 0));
 }
 
@@ -224,7 +224,7 @@ A marker is a byte beside a field that older layouts did not have: it holds its 
 template <class Record>
 constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)(), int slot,
                             std::string_view records) {
-  return {name, path, slot, records, DumpBytes<Record>, DocumentFile<Record>};
+  return {name, path, slot, records, DumpSlot<Record>, DocumentFile<Record>};
 }
 
 const FileFormat kFormats[] = {
@@ -253,12 +253,11 @@ bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
   const FileFormat* format = FormatOf(given.filename().string());
   const bool hasFormat = format && n >= 1 && (n == 1 || format->name != "HCRULES");
   if (!hasFormat) return false;
-  const auto bytes = ReadWholeFile(given.has_parent_path() ? given : format->path());
-  const auto start = static_cast<std::size_t>(n - 1) * static_cast<std::size_t>(format->slot);
-  if (start >= bytes.size()) return false;
-  std::string slot = bytes.substr(start, static_cast<std::size_t>(format->slot));
-  slot.resize(static_cast<std::size_t>(format->slot), '\0');
-  format->dump(reinterpret_cast<const u8*>(slot.data()), out);
+  const RecordFile file(given.has_parent_path() ? given : format->path(), format->slot);
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file.Path(), error);
+  if (error || size <= static_cast<std::uintmax_t>(n - 1) * static_cast<unsigned>(format->slot)) return false;
+  format->dump(file, n, out);
   return true;
 }
 

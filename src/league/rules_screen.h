@@ -21,6 +21,7 @@ struct RuleControl {
   u8& (*Field)(RulesRecord& rules);
   std::vector<RuleChoice> (*Choices)() = nullptr;
   u8 Ticked = 1, Unticked = 0;
+  std::string_view Tip = "";
 };
 
 /// All lists and checks of the screen, tab by tab.

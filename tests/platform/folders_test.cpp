@@ -37,6 +37,7 @@ TEST(Folders, TheDataHomeIsTheFirstThatIsNamed) {
       {"an empty variable is none", "", "", "/c", "/d", "/c/tipline"},
       {"the user's folder", "", "", "", "/d", "/d/.local/share/tipline"},
   };
+  const std::string user = std::getenv("HOME") ? std::getenv("HOME") : "";
   for (const auto& c : cases) {
     ::setenv("TIPLINE_HOME", c.own, 1);
     ::setenv("XDG_DATA_HOME", c.data, 1);
@@ -45,6 +46,7 @@ TEST(Folders, TheDataHomeIsTheFirstThatIsNamed) {
   }
   ::unsetenv("TIPLINE_HOME");
   ::unsetenv("XDG_DATA_HOME");
+  ::setenv("HOME", user.c_str(), 1);
 }
 
 TEST(Folders, ShippedDataIsTheFolderNotedAtTheBuildUnlessAnotherIsNamed) {
