@@ -13,6 +13,7 @@
 #include <span>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "base/tables.h"
 #include "base/text.h"
@@ -110,6 +111,14 @@ void WriteRecord(const R& record, u8* bytes) {
   Describe(record, [bytes](int offset, const char*, const auto& member, const char*) {
     PutValue(bytes + offset, member);
   });
+}
+
+/// The record as the file holds it.
+template <Described R>
+std::vector<u8> RecordBytes(const R& record) {
+  std::vector<u8> bytes(static_cast<std::size_t>(R::kRecordSize));
+  WriteRecord(record, bytes.data());
+  return bytes;
 }
 
 template <class T>

@@ -40,16 +40,16 @@ void RecordFile::ReadBytes(int n, u8* bytes, int length) const {
 
 bool RecordFile::WriteBytes(int n, const u8* bytes, int length) const {
   if (n < 1) return false;
+  const long start = static_cast<long>(n - 1) * slot_;
   File file = OpenFile(path_, "r+b");
-  if (!file) file = OpenFile(path_, "w+b");
-  if (!file || std::fseek(file.get(), static_cast<long>(n - 1) * slot_, SEEK_SET) != 0) return false;
-  if (std::fwrite(bytes, 1, static_cast<std::size_t>(length), file.get()) !=
-      static_cast<std::size_t>(length)) {
-    return false;
-  }
+  if (!file) file = OpenFile(path_, "w+bx");  // x: a file that is there is never emptied
+  if (!file || std::fseek(file.get(), start, SEEK_SET) != 0) return false;
+  const auto size = static_cast<std::size_t>(length);
+  if (std::fwrite(bytes, 1, size, file.get()) != size) return false;
   // A new slot at the end is filled up, so that the file's length stays a whole number of slots.
   if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
-  for (long end = std::ftell(file.get()); end < static_cast<long>(n) * slot_; ++end) {
+  if (std::ftell(file.get()) < start + slot_) {
+    if (std::fseek(file.get(), start + slot_ - 1, SEEK_SET) != 0) return false;
     if (std::fputc(0, file.get()) == EOF) return false;
   }
   return std::fclose(file.release()) == 0;
@@ -71,7 +71,10 @@ void RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& v
 
 bool RecordFile::RewriteAll(int count, const std::function<void(int, u8*)>& fill) const {
   const auto slot = static_cast<std::size_t>(slot_);
-  std::string bytes = ReadWholeFile(path_);
+  bool read = false;
+  std::string bytes = ReadWholeFile(path_, &read);
+  std::error_code error;
+  if (!read && std::filesystem::exists(path_, error)) return false;
   bytes.resize(slot * static_cast<std::size_t>(count), '\0');
   for (int n = 1; n <= count; ++n) {
     fill(n, reinterpret_cast<u8*>(bytes.data()) + slot * static_cast<std::size_t>(n - 1));
@@ -80,29 +83,36 @@ bool RecordFile::RewriteAll(int count, const std::function<void(int, u8*)>& fill
 }
 
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok) {
-  std::ifstream in(path, std::ios::binary);
   std::string bytes;
-  if (in) bytes.assign(std::istreambuf_iterator<char>(in), {});
-  if (ok) *ok = static_cast<bool>(in);
+  const File file = OpenFile(path, "rb");
+  std::size_t got = file ? 1 : 0;
+  while (got > 0) {
+    constexpr std::size_t kAtOnce = 1 << 16;
+    const std::size_t before = bytes.size();
+    bytes.resize(before + kAtOnce);
+    got = std::fread(bytes.data() + before, 1, kAtOnce, file.get());
+    bytes.resize(before + got);
+  }
+  const bool read = file && std::ferror(file.get()) == 0;
+  if (!read) bytes.clear();
+  if (ok) *ok = read;
   return bytes;
 }
 
 bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
   auto temporary = path;
   temporary += ".new";
+  std::error_code error;
   {
     std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
+    if (!out) return false;
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     out.close();
-    if (!out) {
-      std::error_code ignored;
-      std::filesystem::remove(temporary, ignored);
-      return false;
-    }
+    if (out) std::filesystem::rename(temporary, path, error);
+    if (out && !error) return true;
   }
-  std::error_code error;
-  std::filesystem::rename(temporary, path, error);
-  return !error;
+  std::filesystem::remove(temporary, error);
+  return false;
 }
 
 }  // namespace tipline

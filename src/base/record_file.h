@@ -31,17 +31,15 @@ class RecordFile {
   /// with zeros, as needed. False when the file could not be written.
   template <Described R>
   [[nodiscard]] bool Write(int n, const R& record) const {
-    std::vector<u8> bytes(static_cast<std::size_t>(R::kRecordSize));
-    WriteRecord(record, bytes.data());
-    return WriteBytes(n, bytes.data(), R::kRecordSize);
+    return WriteBytes(n, RecordBytes(record).data(), R::kRecordSize);
   }
 
   /// One pass over slots 1 to `count` with one buffer; visit(n, bytes) sees whole slots, zeros past the end.
   void ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
 
   /// Writes slots 1 to `count` in one pass: fill(n, bytes) gets each slot as it stands (zeros where new) and
-  /// changes it. The new file replaces the old one in one step. False, with the old file kept, when that
-  /// failed.
+  /// changes it. The new file, which ends behind slot `count`, replaces the old one in one step. False, with
+  /// the old file kept, when that failed or an old file is there and can't be read.
   [[nodiscard]] bool RewriteAll(int count, const std::function<void(int, u8*)>& fill) const;
 
  private:

@@ -51,14 +51,15 @@ requires std::same_as<std::remove_const_t<Record>, CoachRecord>
 void Describe(Record& r, Visitor&& field) {
   field(0, "PlanVersion", r.PlanVersion, "120 for a team of Year 2020 or later, 123 otherwise");
   field(2, "TeamNo", r.TeamNo, "team number of this record; rewritten on each save");
-  field(4, "SavedStatus", r.SavedStatus, "status of each player slot at the time of the last save");
+  field(4, "SavedStatus", r.SavedStatus, "Status of each player slot at the last save");
   field(34, "PlanOpponent", r.PlanOpponent,
-        "team number each plan is written against; index 0 stays 0 (all opponents)");
+        "opponent of each plan; index 0, the general plan, stays 0; 0 else: plan not used");
   field(56, "RotationByRank", r.RotationByRank,
         "rotation grid by (position, minute, period): the player slot that stands there");
-  field(556, "DepthChart", r.DepthChart, "depth chart by (position, rank): the player slot");
+  field(556, "DepthChart", r.DepthChart,
+        "depth chart by (position, rank 1 first choice to 6): the player slot");
   field(586, "SavedShotSelection", r.SavedShotSelection, "ShotSelection of each player slot");
-  field(736, "OffAdjust1", r.OffAdjust1, "slider 0..4, 2 neutral: cover off");
+  field(736, "OffAdjust1", r.OffAdjust1, "slider by plan, 0 least to 4 most, 2 neutral: cover off");
   field(747, "OffAdjust2", r.OffAdjust2, "slider: cover loose");
   field(758, "OffAdjust3", r.OffAdjust3, "slider: cover tight");
   field(769, "OffAdjust4", r.OffAdjust4, "slider: deny");
@@ -68,20 +69,19 @@ void Describe(Record& r, Visitor&& field) {
   field(813, "DefAdjust2", r.DefAdjust2, "slider: outside help");
   field(824, "DefAdjust3", r.DefAdjust3, "slider: use zones");
   field(835, "DefAdjust4", r.DefAdjust4, "slider: double");
-  field(846, "Coverage1", r.Coverage1, "slider fast break");
-  field(857, "Coverage2", r.Coverage2, "slider drive");
-  field(868, "Coverage3", r.Coverage3, "slider inside");
-  field(879, "Coverage4", r.Coverage4, "slider outside");
-  field(890, "Coverage5", r.Coverage5, "slider three");
+  field(846, "Coverage1", r.Coverage1, "slider: fast break");
+  field(857, "Coverage2", r.Coverage2, "slider: drive");
+  field(868, "Coverage3", r.Coverage3, "slider: inside");
+  field(879, "Coverage4", r.Coverage4, "slider: outside");
+  field(890, "Coverage5", r.Coverage5, "slider: three");
   field(901, "DefendInside", r.DefendInside,
-        "how each player of the next opponent is covered inside: 1 off, 2 loose, 3 normal, 4 tight, 5 deny, "
-        "6 foul");
-  field(1231, "DefendOutside", r.DefendOutside, "same, outside");
-  field(1561, "DefendThree", r.DefendThree, "same, beyond the three-point line");
-  field(1891, "DoubleInside", r.DoubleInside,
-        "per plan and player slot: double-team him inside, 0 no, 1 'Yes'");
-  field(2221, "DoubleOutside", r.DoubleOutside, "same, outside");
-  field(2551, "DoubleThree", r.DoubleThree, "same, beyond the three-point line");
+        "how each man of the opponent is covered inside, by (plan, slot): 1 off, 2 loose, 3 normal, 4 tight, "
+        "5 deny, 6 foul");
+  field(1231, "DefendOutside", r.DefendOutside, "the same, outside");
+  field(1561, "DefendThree", r.DefendThree, "the same, beyond the three-point line");
+  field(1891, "DoubleInside", r.DoubleInside, "1: the man is doubled inside, by (plan, slot)");
+  field(2221, "DoubleOutside", r.DoubleOutside, "the same, outside");
+  field(2551, "DoubleThree", r.DoubleThree, "the same, beyond the three-point line");
   field(2881, "DefendUsage", r.DefendUsage,
         "share of plays on which the coverage applies: 0 to 3 for 25 to 100 per cent");
   field(3211, "DefAdjust5", r.DefAdjust5, "slider: crash boards on offense");
@@ -90,36 +90,34 @@ void Describe(Record& r, Visitor&& field) {
         "marker 99: Coverage1..Coverage5 have been set to 2 for all plans");
   field(3523, "SavedPositionAllowed", r.SavedPositionAllowed, "PositionAllowed of each player slot");
   field(3673, "SavedOnlyBlowouts", r.SavedOnlyBlowouts, "OnlyPlayInBlowouts of each player slot");
-  field(3703, "SavedNeverBlowouts", r.SavedNeverBlowouts, "NeverPlayInBlowouts");
-  field(3733, "SavedTargetMinutes", r.SavedTargetMinutes, "TargetMinutes");
+  field(3703, "SavedNeverBlowouts", r.SavedNeverBlowouts, "NeverPlayInBlowouts of each player slot");
+  field(3733, "SavedTargetMinutes", r.SavedTargetMinutes, "TargetMinutes of each player slot");
   field(3763, "DefAdjust6", r.DefAdjust6, "slider: crash boards on defense");
   field(3774, "DefAdjust6Mark", r.DefAdjust6Mark,
         "marker 99: DefAdjust6 has been set to 2 for plans 1 to 10");
   field(3775, "SavedNeverBlowouts2", r.SavedNeverBlowouts2,
-        "NeverPlayInBlowouts again, where a later layout reads it");
-  field(3805, "SavedDontPlayCrunch", r.SavedDontPlayCrunch, "DontPlayCrunchTime");
-  field(3835, "SavedDontPlayTired", r.SavedDontPlayTired, "DontPlayWhenTired");
+        "NeverPlayInBlowouts again, where the later layout reads it");
+  field(3805, "SavedDontPlayCrunch", r.SavedDontPlayCrunch, "DontPlayCrunchTime of each player slot");
+  field(3835, "SavedDontPlayTired", r.SavedDontPlayTired, "DontPlayWhenTired of each player slot");
   field(3865, "ComputerMatchupMark", r.ComputerMatchupMark, "marker 11: ComputerMatchups has been cleared");
-  field(3866, "ComputerMatchups", r.ComputerMatchups,
-        "1: the computer sets the man-to-man matchups ('Computer Set Matchups')");
+  field(3866, "ComputerMatchups", r.ComputerMatchups, "1: the computer sets the matchups of this team");
   field(3867, "PaceMark", r.PaceMark, "marker 99: OverallPace has been set");
-  field(3868, "OverallPace", r.OverallPace,
-        "index into 'Very Slow', 'Slow', 'Average', 'Fast', 'Very Fast'; default 2");
+  field(3868, "OverallPace", r.OverallPace, "0 'Very Slow', 1 'Slow', 2 'Average', 3 'Fast', 4 'Very Fast'");
   field(3869, "CoachPhotoMark", r.CoachPhotoMark, "marker 99: CoachPhoto has been set to <CoachName>.jpg");
   field(3870, "CoachPhoto", r.CoachPhoto, "coach photo file");
   field(3910, "UniformMark", r.UniformMark, "marker 99: UniformFiles have been set");
-  field(3911, "UniformFiles", r.UniformFiles, "index 1 road uniform image, default Uni-Road-<City>.jpg");
+  field(3911, "UniformFiles", r.UniformFiles,
+        "uniform images: index 1 road, 2 home; default Uni-Road-<City>.jpg, Uni-Home-<City>.jpg");
   field(4011, "DailyMark", r.DailyMark, "marker 99: the two daily settings have been set (0 and 1)");
-  field(4012, "UseDailyInactive", r.UseDailyInactive,
-        "1: the daily table InactiveDates of HcDaily decides who sits out");
+  field(4012, "UseDailyInactive", r.UseDailyInactive, "1: the dates of HcDaily decide who sits out");
   field(4013, "DailyLineupMode", r.DailyLineupMode, "1: the computer manager may activate players as needed");
-  field(4014, "SavedDailyDates", r.SavedDailyDates, "copy of each player slot's HcDaily dates, for export");
+  field(4014, "SavedDailyDates", r.SavedDailyDates, "HcDaily dates by (player slot, entry), for export");
   field(10014, "ColorNameMark", r.ColorNameMark, "marker 99: ColorNames have been cleared");
-  field(10015, "ColorNames", r.ColorNames, "three short team sound or colour codes set on the team screen");
+  field(10015, "ColorNames", r.ColorNames, "three short codes of sounds or colours of the team");
   field(10024, "FightSongMark", r.FightSongMark, "marker 199: FightSong has been checked");
   field(10025, "FightSong", r.FightSong, "fight song file; 'NONE' for none");
   field(10075, "SoundListMark", r.SoundListMark, "marker 222: the three sound lists have been filled");
-  field(10076, "OrganMusic", r.OrganMusic, "ten files of organ music, each default <name>.mp3");
+  field(10076, "OrganMusic", r.OrganMusic, "ten files of organ music");
   field(10576, "TimeoutMusic", r.TimeoutMusic, "ten files of time-out music");
   field(11076, "DefenseChant", r.DefenseChant, "ten files of defence chants");
   field(11576, "FontMark", r.FontMark, "marker 99: TeamFont has been set to 'Arial'");

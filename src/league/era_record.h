@@ -17,15 +17,22 @@ struct EraRecord {
   f32 Ast = 0, St = 0, Bk = 0, TO = 0, PF = 0;
 };
 
+/// The per-game fields, in the order of OldTotals.
+inline constexpr f32 EraRecord::*kEraFigures[13] = {
+    &EraRecord::FGA, &EraRecord::FGM, &EraRecord::F3A,    &EraRecord::F3M, &EraRecord::FTA,
+    &EraRecord::FTM, &EraRecord::Reb, &EraRecord::OffReb, &EraRecord::Ast, &EraRecord::St,
+    &EraRecord::Bk,  &EraRecord::TO,  &EraRecord::PF,
+};
+
 template <class Record, class Visitor>
 requires std::same_as<std::remove_const_t<Record>, EraRecord>
 void Describe(Record& r, Visitor&& field) {
   field(0, "Games", r.Games, "games per team in that season");
   field(2, "OldTotals", r.OldTotals,
-        "season totals of the older layout, in the order FGA, FGM, F3A, F3M, FTA, FTM, Reb");
+        "season totals of the older layout: FGA, FGM, F3A, F3M, FTA, FTM, Reb, OffReb, Ast, St, Bk, TO, PF");
   field(28, "EraMark", r.EraMark, "marker 99: the per-game fields hold");
   field(29, "FGA", r.FGA, "field-goal attempts per team per game");
-  field(33, "FGM", r.FGM, "made");
+  field(33, "FGM", r.FGM, "field goals made");
   field(37, "F3A", r.F3A, "three-point attempts");
   field(41, "F3M", r.F3M, "three-pointers made");
   field(45, "FTA", r.FTA, "free-throw attempts");

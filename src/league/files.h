@@ -1,21 +1,33 @@
 #pragma once
 // The fixed-record files of a league folder: single records, whole tables, season reset of a record.
 #include <filesystem>
+#include <string>
+#include <string_view>
 
 #include "league/league.h"
 
 namespace tipline {
 
+/// A file of the open league; an empty path, which nothing can be read from or written to, when none is open.
+std::filesystem::path LeagueFile(std::string_view name);
 std::filesystem::path TeamsFile();    ///< HCTEAMS of the open league
 std::filesystem::path PlayersFile();  ///< HCPLAYER
 std::filesystem::path CoachesFile();  ///< HCgameplan
 std::filesystem::path RulesFile();    ///< HCRULES
+std::filesystem::path EraFile();      ///< Basketball-Era.dat of the program folder, shared by all leagues
 
-/// Record n of HCTEAMS into, or out of, `league.team[n]`. A number outside 1..720 changes nothing and gives
-/// false.
+/// The team's city as a part of a file name: without / \ + * ? and zero bytes.
+std::string CityInFileName(int team);
+
+/// Gives `written` back, after telling the user the file's name when it is false. Every write below goes
+/// through it, so a caller only stops.
+bool Written(bool written, const std::filesystem::path& file);
+
+/// Record n of HCTEAMS into, or out of, `league.team[n]`. A number outside 1..720, or a missing file, changes
+/// nothing and gives false.
 bool ReadTeam(int team);
 bool WriteTeam(int team);
-/// The same for `league.coach[n]`. A write renews `TeamNo`.
+/// The same for `league.coach[n]`; what is not in the file reads as zeros. A write renews `TeamNo`.
 bool ReadCoach(int team);
 bool WriteCoach(int team);
 /// Row `recNo` of HCPLAYER. Past the end it reads as an empty row.
@@ -27,23 +39,25 @@ bool WritePlayer(const PlayerRecord& player);
 void LoadLeaguePlayers();
 int PlayerRows();
 
-/// All 720 slots, with the repairs of a league load; rebuilds the lookups. Slots that a repair changed are
-/// written back.
+/// All 720 slots, with the repairs of a league load; rebuilds the lookups. Teams that a repair changed are
+/// written back; free slots are repaired in memory only.
 void LoadAllTeams();
 bool SaveAllTeams();
 /// Rebuilds division, conference and year lookups from `league.team`.
 void RebuildLookups();
 
-/// Season reset of a team: results, counters, season lines. Names, files, roster and real-life totals stay.
+/// Season reset of `league.team[team]`: results, counters, season lines. Names, files, roster, real-life
+/// totals and markers stay.
 void ZeroTeam(int team);
-/// Clears block 1 (real life) or 2 (replay season) of a player; block 2 clears the season's counters with it.
+/// Clears block 1 (real life) or 2 (replay season) of a player; block 2 clears the season's counters with it,
+/// and outside a game those of the playoff series. Any other block clears nothing. Markers stay.
 void ZeroPlayer(PlayerRecord& player, int block);
 
-/// The coach's plan of a team as a file of its own, `<City> Coach.coa` in the league folder. False when it
-/// could not be written.
+/// The coach's plan of a team, as HCgameplan holds it, in a file of its own: `<City> Coach.coa` in the league
+/// folder. False when it could not be written.
 bool ExportCoach(int team);
-/// Reads such a file over the team's record. Refused, with its message, when the file belongs to another
-/// team.
+/// Reads such a file over the team's record, in memory and in HCgameplan. Refused, with its message, when the
+/// file is missing or belongs to another team.
 bool ImportCoach(int team);
 
 }  // namespace tipline

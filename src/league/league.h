@@ -1,5 +1,6 @@
 #pragma once
 // The open league in memory. Its files stay the truth: whatever changes a record here is written to them.
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -35,8 +36,9 @@ struct League {
   std::vector<u8> tournamentPools;  ///< record 2 of HCRULES as it stands in the file, a whole slot
   EraTable EraPro, EraCollege;
 
-  std::string LeagueFolderName;  ///< last part of the league folder
-  double PhotoRatio = 1.5;       ///< height to width of player photos
+  std::string LeagueFolderName;       ///< last part of the league folder
+  std::filesystem::path PhotoFolder;  ///< where this league's player photos lie
+  double PhotoRatio = 1.5;            ///< height to width of player photos
   Table<std::string, 1, 5> PositionLabel;
 
   // Lookups, rebuilt by LoadAllTeams.

@@ -7,6 +7,8 @@
 
 namespace tipline {
 
+inline constexpr int kEditionYear = 2026;  ///< edition of the program: its last season, and its setup file
+
 struct GameKindWords {
   static constexpr std::string_view kTexts[] = {"L", "E"};
 };

@@ -16,8 +16,9 @@ struct Roster {
 /// cleared in the copy. False when `teamNo` is outside 1..720 or the slot holds no team.
 bool ReadRoster(int teamNo, Roster& roster);
 
-/// Writes coach, men (each at its RecNo) and team back, in this order. False, after telling the user, when a
-/// file could not be written.
+/// Writes coach, men (each at its RecNo) and team back, in this order; `league.coach` and `league.team`
+/// follow. A slot without a man is cleared. False, after telling the user, when a file could not be written;
+/// what comes after it is then left alone.
 bool WriteRoster(const Roster& roster);
 
 }  // namespace tipline

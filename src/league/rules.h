@@ -7,9 +7,11 @@
 
 namespace tipline {
 
-/// Reads HCRULES of the open league, repairs what no marker covers yet, derives position labels and photo
-/// ratio, and writes the file back when something changed. False when the file can't be read; an all-zero
-/// record is then repaired.
+/// Reads HCRULES of the open league with team 1, whose year and type drive the repairs, repairs what no
+/// marker covers yet, derives league name of the folder, position labels, photo ratio and photo folder, and
+/// writes the file back when something changed. False when the league has no rules that can be read: those of
+/// the folder above all leagues then stand in where it has some, else an all-zero record, repaired in memory
+/// and written nowhere.
 bool LoadRules();
 /// Keeps the foul limits ascending and writes both records. False, after telling the user, when the write
 /// failed.
@@ -19,12 +21,17 @@ bool RepairRules(int year, char teamType);
 /// Fouls and penalties ascending: a lower step takes limit and penalty of the step before it.
 void RaiseFoulLimits(RulesRecord& rules);
 void DerivePositionLabels();
+void DerivePhotoRatio();
+/// Sets `league.PhotoFolder`: the photo folder of all leagues, or, by the rule, one of this league's own in
+/// it, which is then made.
+void FindPhotoFolder();
 
 /// The whole era file, with its fills. A missing file reads as zeros. True when it was there.
 bool LoadEra();
+/// False, after telling the user, when the write failed.
 bool SaveEra();
 /// Makes the era file from the era tables that ship with the program; seasons beyond the last known take its
-/// row. False, with a message, when the tables can't be read.
+/// row. False, with a message, when a table can't be read or the file can't be written.
 bool MakeEraFile();
 
 }  // namespace tipline

@@ -79,7 +79,7 @@ template <class Record, class Visitor>
 requires std::same_as<std::remove_const_t<Record>, RulesRecord>
 void Describe(Record& r, Visitor&& field) {
   field(0, "DivisionName", r.DivisionName, "division names");
-  field(540, "LeagueName", r.LeagueName, "the league's name on the main screen");
+  field(540, "LeagueName", r.LeagueName, "the league's name");
   field(570, "PeriodList", r.PeriodList, "periods per game: 2 ('2 Per Game') or 4 ('4 Per Game')");
   field(571, "MinuteList", r.MinuteList, "minutes per period, 1 to 20");
   field(572, "OverTimeList", r.OverTimeList, "minutes of an overtime period, 1 to 20");
@@ -171,7 +171,7 @@ void Describe(Record& r, Visitor&& field) {
   field(1662, "SeasonUsagePenaltiesCheck", r.SeasonUsagePenaltiesCheck, "1: 'Season Usage Penalties'");
   field(1663, "SeasonUsageGamesList", r.SeasonUsageGamesList,
         "levels mild, moderate, major: i means over 100 + i per cent of the real games");
-  field(1666, "SeasonUsageMinutesList", r.SeasonUsageMinutesList, "the same for minutes");
+  field(1666, "SeasonUsageMinutesList", r.SeasonUsageMinutesList, "the same levels for minutes");
   field(1669, "SeasonUsageGamesExemptionList", r.SeasonUsageGamesExemptionList,
         "players with at least this many real games are exempt; 0 nobody");
   field(1670, "SeasonUsageMinutesExemptionList", r.SeasonUsageMinutesExemptionList,
@@ -180,9 +180,9 @@ void Describe(Record& r, Visitor&& field) {
   field(1672, "TickerCheck", r.TickerCheck, "1: 'Game Score Ticker' while a game is played");
   field(1673, "AnalysisMark", r.AnalysisMark, "marker 99");
   field(1674, "AnalysisOffenseTeam", r.AnalysisOffenseTeam,
-        "remembered pick of the offence list on HcPlayAnalysis");
+        "remembered pick of the offence list of HcPlayAnalysis");
   field(1676, "AnalysisDefenseTeam", r.AnalysisDefenseTeam,
-        "remembered pick of the defence list on HcPlayAnalysis");
+        "remembered pick of the defence list of HcPlayAnalysis");
   field(1678, "GameFilmMark", r.GameFilmMark, "marker 99");
   field(1679, "PauseMark", r.PauseMark, "marker 77");
   field(1680, "PauseTeamList", r.PauseTeamList,
@@ -195,7 +195,7 @@ void Describe(Record& r, Visitor&& field) {
   field(2405, "Pause4thQuarterScoreList", r.Pause4thQuarterScoreList,
         "last period 'Score Within': 0 'Tied', n 'Within <n>', up to 30");
   field(2406, "Pause4thQuarterTimeList", r.Pause4thQuarterTimeList,
-        "last period 'Time Remaining': 0 none (a dashed line), 1 '1 Minute'");
+        "last period 'Time Remaining': 0 none, else minutes, up to 14");
   field(2407, "PlayerReachesList", r.PlayerReachesList,
         "pause when a player reaches this many points, rebounds, assists, blocks, steals, turnovers");
   field(2413, "DoubleDoubleAchievedCheck", r.DoubleDoubleAchievedCheck,
@@ -208,14 +208,14 @@ void Describe(Record& r, Visitor&& field) {
   field(2418, "MinutesPerGameExemptionList", r.MinutesPerGameExemptionList,
         "players at or below this many replay minutes a game are exempt; 0 nobody");
   field(2419, "DraftRangeMark", r.DraftRangeMark, "marker 33");
-  field(2420, "MMinText", r.MMinText, "draft eligibility: least real minutes; default 0");
-  field(2422, "MMaxText", r.MMaxText, "most real minutes; default 9999");
-  field(2424, "GMinText", r.GMinText, "least real games; default 0");
-  field(2426, "GMaxText", r.GMaxText, "most real games; default 999");
-  field(2428, "AgeMinText", r.AgeMinText, "least age; default 0");
-  field(2430, "AgeMaxText", r.AgeMaxText, "most age; default 99");
-  field(2432, "YearMinText", r.YearMinText, "earliest Year; default 0");
-  field(2434, "YearMaxText", r.YearMaxText, "latest Year; default 9999");
+  field(2420, "MMinText", r.MMinText, "draft limits: least real minutes");
+  field(2422, "MMaxText", r.MMaxText, "most real minutes");
+  field(2424, "GMinText", r.GMinText, "least real games");
+  field(2426, "GMaxText", r.GMaxText, "most real games");
+  field(2428, "AgeMinText", r.AgeMinText, "least age");
+  field(2430, "AgeMaxText", r.AgeMaxText, "most age");
+  field(2432, "YearMinText", r.YearMinText, "earliest Year");
+  field(2434, "YearMaxText", r.YearMaxText, "latest Year");
   field(2436, "SuspensionMark", r.SuspensionMark, "marker 99");
   field(2437, "SuspensionsCheck", r.SuspensionsCheck, "1: 'Suspensions' follow ejections and flagrant fouls");
   field(2438, "FreeAgentBlendMark", r.FreeAgentBlendMark, "marker 99: the free agents have been blended in");
@@ -260,7 +260,8 @@ void Describe(Record& r, Visitor&& field) {
   field(2575, "NotUsed2575", r.NotUsed2575, "not used");
   field(2577, "PhotoShapeMark", r.PhotoShapeMark, "marker 99");
   field(2578, "PlayerHeigtToWidthList", r.PlayerHeigtToWidthList,
-        "'Player Photo Dimensions', an index of height-to-width ratios");
+        "'Player Photo Dimensions', height to width: 0 1.1, 1 3.5 to 2.5, 2 square, 3 10 to 8, 4 7 to 5, 5 3 "
+        "to 2, 6 2.5 to 3.5");
   field(2579, "NotUsed2579", r.NotUsed2579, "not used");
   field(2580, "NotUsed2580", r.NotUsed2580, "not used");
 }

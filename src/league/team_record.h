@@ -88,36 +88,31 @@ void Describe(Record& r, Visitor&& field) {
   field(2, "City", r.City, "city or school name, the main label of the team");
   field(22, "Nickname", r.Nickname, "team nickname");
   field(42, "CoachName", r.CoachName,
-        "head coach's name as displayed; the stem of the default coach photo <CoachName>.jpg");
+        "head coach's name; the stem of the default coach photo <CoachName>.jpg");
   field(62, "Abbrev", r.Abbrev, "three-letter abbreviation used in every report column");
   field(65, "HomeForeColor", r.HomeForeColor, "home uniform foreground colour, a 24-bit value 0x00BBGGRR");
   field(69, "HomeBackColor", r.HomeBackColor, "home uniform background colour, same form");
   field(73, "Year", r.Year, "season year of this team");
   field(75, "TeamType", r.TeamType, "'P' pro, 'C' college, 'A' alternate pro league, 'O' international");
   field(76, "RealTotals", r.RealTotals,
-        "two RealTotals records: index 1 the team's own real-life season totals");
+        "real-life season totals, index 1 the team, 2 its opponents; a figure of 0 is not known");
   field(180, "Roster", r.Roster, "record numbers of the players, 0 for an empty slot");
-  field(240, "TeamStats", r.TeamStats,
-        "two StatLine records: index 1 the team's replay totals, index 2 its opponents'");
+  field(240, "TeamStats", r.TeamStats, "replay totals, index 1 the team, 2 its opponents");
   field(368, "Wins", r.Wins, "games won in the replay season");
   field(370, "Losses", r.Losses, "games lost in the replay season");
   field(372, "Streak", r.Streak, "wins in a row, losses below zero");
-  field(374, "HomeWins", r.HomeWins,
-        "wins in games where the team was side 2 (the home side), not counted at neutral sites");
-  field(375, "HomeLosses", r.HomeLosses,
-        "losses in games where the team was side 2, not counted at neutral sites");
+  field(374, "HomeWins", r.HomeWins, "wins as home side, neutral courts left out");
+  field(375, "HomeLosses", r.HomeLosses, "losses as home side, neutral courts left out");
   field(376, "DivisionWins", r.DivisionWins, "wins against a team of the same division");
   field(377, "DivisionLosses", r.DivisionLosses, "losses against a team of the same division");
-  field(378, "ReservedLine", r.ReservedLine,
-        "one StatLine, zeroed at season reset and not otherwise written");
-  field(442, "ReservedWord", r.ReservedWord, "zeroed at season reset and not otherwise written");
-  field(444, "OldArenaName", r.OldArenaName,
-        "arena name of the older layout; copied into ArenaName by a marker repair");
+  field(378, "ReservedLine", r.ReservedLine, "not used; cleared at the season reset");
+  field(442, "ReservedWord", r.ReservedWord, "not used; cleared at the season reset");
+  field(444, "OldArenaName", r.OldArenaName, "arena name of the older layout; ArenaName takes it once");
   field(474, "ScheduleStrength", r.ScheduleStrength, "strength of schedule of the team");
   field(475, "HomeStats", r.HomeStats,
-        "two StatLine records; index 1 accumulates the team's totals of games played as side 2");
+        "replay totals of the games as home side in index 1; index 2 is spare");
   field(603, "LogoFile", r.LogoFile, "logo image file name, in the league's logo folder");
-  field(643, "ReservedFlagA", r.ReservedFlagA, "not read by this system");
+  field(643, "ReservedFlagA", r.ReservedFlagA, "not used");
   field(644, "RoadForeColor", r.RoadForeColor, "road uniform foreground colour");
   field(648, "RoadBackColor", r.RoadBackColor, "road uniform background colour");
   field(652, "NeutralWins", r.NeutralWins, "wins at neutral sites");
@@ -126,13 +121,16 @@ void Describe(Record& r, Visitor&& field) {
         "times each kind was run: 1 inside, 2 outside, 3 three, 4 fastbreak, 5 drive, 6 hold ball; held at "
         "32000");
   field(676, "ScoutHelp", r.ScoutHelp,
-        "times each defensive help was played: 0 normal, 1 inside, 2 outside, 3 and 4 the strong ones");
+        "times each defensive help was played: 0 normal, 1 inside, 2 outside, 3 strong inside, 4 strong "
+        "outside");
   field(686, "ScoutPressure", r.ScoutPressure,
-        "times each pressure was played: 0 none, 1, 2 halfcourt trap, press, 3, 4 fullcourt");
+        "times each pressure was played: 0 normal, 1 and 2 halfcourt trap and press, 3 and 4 fullcourt trap "
+        "and press");
   field(696, "ScoutDefenseType", r.ScoutDefenseType,
         "times each defence was played: 0 man, 1 2-1-2 zone, 2 2-3 zone, 3 3-2 zone");
   field(706, "ScoutCoverage", r.ScoutCoverage,
-        "times each coverage was played, by (zone, rating of the shooter, coverage)");
+        "times each coverage was played, by (zone 1 inside, 2 outside, 3 three; shooter's rating; coverage 1 "
+        "off, 2 loose, 3 normal, 4 tight, 5 deny, 6 foul)");
   field(1102, "CourtFile", r.CourtFile, "court image file name for road-style display");
   field(1142, "CourtMark", r.CourtMark, "marker 11: CourtFile has been assigned");
   field(1143, "PeriodPoints", r.PeriodPoints, "points by (period, 1 the team or 2 its opponents)");
@@ -142,11 +140,11 @@ void Describe(Record& r, Visitor&& field) {
   field(1189, "RotationMark", r.RotationMark, "marker 2: rotation defaults have been generated");
   field(1190, "RotationMark2", r.RotationMark2, "marker 99: the second rotation default step has run");
   field(1191, "PowerRating", r.PowerRating, "power rating; 0 until worked out");
-  field(1199, "ReservedFlagB", r.ReservedFlagB, "zeroed at season reset");
+  field(1199, "ReservedFlagB", r.ReservedFlagB, "not used; cleared at the season reset");
   field(1200, "Possessions", r.Possessions, "team possessions; index 2 replay total, index 3 current game");
-  field(1204, "OppPossessions", r.OppPossessions,
-        "opponent possessions, same indexes; each total is kept within 0..25000 at game load");
-  field(1208, "PossessionMark", r.PossessionMark, "99 once the team has played under possession counting");
+  field(1204, "OppPossessions", r.OppPossessions, "opponents' possessions, same indexes");
+  field(1208, "PossessionMark", r.PossessionMark,
+        "marker 99: every game of the season was played with possessions counted");
   field(1209, "HighLowMark", r.HighLowMark, "marker 33: game highs and lows have been cleared");
   field(1210, "HighPoints", r.HighPoints, "game-high points: index 1 the team, 2 its opponents");
   field(1212, "HighFGA", r.HighFGA, "game-high field-goal attempts");
@@ -176,21 +174,22 @@ void Describe(Record& r, Visitor&& field) {
   field(1260, "LowTo", r.LowTo, "game-low turnovers");
   field(1262, "LowSt", r.LowSt, "game-low steals");
   field(1264, "LowPf", r.LowPf, "game-low personal fouls");
-  field(1266, "TeamRebounds", r.TeamRebounds, "rebounds credited to the team and to no player");
-  field(1272, "LastTen", r.LastTen,
-        "results of the last ten games, newest at index 1, each 'W', 'L' or blank");
+  field(1266, "TeamRebounds", r.TeamRebounds,
+        "rebounds of the team and of no player: index 1 real life, 2 replay, 3 current game");
+  field(1272, "LastTen", r.LastTen, "results of the last ten games, newest first: 'W', 'L' or blank");
   field(1282, "LastTenMark", r.LastTenMark, "marker 99: LastTen has been cleared");
   field(1283, "SavedWins", r.SavedWins, "regular-season wins saved at playoff creation");
   field(1284, "SavedLosses", r.SavedLosses, "regular-season losses saved at playoff creation");
-  field(1285, "SavedPowerRating", r.SavedPowerRating, "PowerRating saved at playoff creation");
+  field(1285, "SavedPowerRating", r.SavedPowerRating, "power rating saved at playoff creation");
   field(1293, "SavedDivisionLosses", r.SavedDivisionLosses,
-        "DivisionLosses saved at playoff creation (seeding tie-break)");
+        "division losses saved at playoff creation, a tie-break of the seeding");
   field(1294, "DurabilityMark", r.DurabilityMark,
-        "marker 99: college players' RateDurability have been derived from games played");
-  field(1295, "ConferenceMark", r.ConferenceMark, "marker 99: the conference counters have been filled");
+        "marker 99: durability of college players has been worked out from their games");
+  field(1295, "ConferenceMark", r.ConferenceMark,
+        "marker 99: the conference counters took those of the division once");
   field(1296, "ConferenceWins", r.ConferenceWins, "wins against a team of the same conference");
   field(1297, "ConferenceLosses", r.ConferenceLosses, "losses against a team of the same conference");
-  field(1298, "ShotTableMark", r.ShotTableMark, "marker 99: the shot table below has been cleared");
+  field(1298, "ShotTableMark", r.ShotTableMark, "marker 99: the shot table has been cleared");
   field(1299, "ShotAttInside", r.ShotAttInside, "team shot table, attempts: Inside");
   field(1301, "ShotAttOutside", r.ShotAttOutside, "attempts: Outside");
   field(1303, "ShotAttSpare1", r.ShotAttSpare1, "spare, cleared with the table");
@@ -215,11 +214,11 @@ void Describe(Record& r, Visitor&& field) {
   field(1337, "ArenaName", r.ArenaName, "arena name");
   field(1377, "ArenaSizeMark", r.ArenaSizeMark, "marker 99: ArenaAge has been assigned from the city table");
   field(1378, "ArenaAge", r.ArenaAge, "index of the time zone of the city");
-  field(1379, "SplitsMark", r.SplitsMark, "marker 99: the win-loss splits below have been cleared");
+  field(1379, "SplitsMark", r.SplitsMark, "marker 99: the splits of wins and losses have been cleared");
   field(1380, "OvertimeWins", r.OvertimeWins, "wins in overtime games");
   field(1381, "OvertimeLosses", r.OvertimeLosses, "losses in overtime games");
   field(1382, "WinsVsWinning", r.WinsVsWinning,
-        "wins against teams with at least as many wins as losses (counted before this game is");
+        "wins against teams with at least as many wins as losses before the game");
   field(1383, "LossesVsWinning", r.LossesVsWinning, "losses against such teams");
   field(1384, "WinsVsLosing", r.WinsVsLosing, "wins against teams with fewer wins than losses");
   field(1385, "LossesVsLosing", r.LossesVsLosing, "losses against such teams");
@@ -245,7 +244,7 @@ void Describe(Record& r, Visitor&& field) {
   field(1483, "LogoYearMark", r.LogoYearMark,
         "marker 99: the logo file of the 2016 layout has been assigned");
   field(1484, "TeamTotalsMark", r.TeamTotalsMark,
-        "marker 99: TeamTurnovers, OppTeamTurnovers and OppTeamRebounds have been cleared");
+        "marker 99: TeamTurnovers and OppTeamRebounds have been cleared");
   field(1485, "TeamTurnovers", r.TeamTurnovers,
         "turnovers of the team and of no player; index 2 of its opponents");
   field(1489, "OppTeamRebounds", r.OppTeamRebounds,

@@ -8,17 +8,16 @@
 namespace tipline::platform {
 
 /// The data home, which is drive `C:`: `given` when not empty, else TIPLINE_HOME, else
-/// $XDG_DATA_HOME/tipline, else
-/// ~/.local/share/tipline, else tipline under the temporary folder.
+/// $XDG_DATA_HOME/tipline, else ~/.local/share/tipline, else tipline under the temporary folder.
 std::filesystem::path DataHome(std::string_view given = "");
 
 /// `tree` (`C:\orvex-data\Basketball\seasons\Demo\`, either slash) as a path under `home`. Another drive
 /// letter is a folder of that letter beside the tree (`drive-d`). No part of the text can lead out of `home`:
-/// "." and ".." fall out.
+/// "." and ".." fall out, with blanks around a name and zero bytes.
 std::filesystem::path RealPath(const std::filesystem::path& home, std::string_view tree);
 
 /// The folder with the files that ship with the program (names, era figures): TIPLINE_DATA, else the folder
-/// noted when the program was built, else `data` beside the program.
+/// noted when the program was built while it is there, else `data` beside the program.
 std::filesystem::path ShippedData();
 
 }  // namespace tipline::platform

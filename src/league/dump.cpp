@@ -1,0 +1,278 @@
+#include "league/dump.h"
+
+#include <cstdio>
+#include <iomanip>
+#include <memory>
+#include <utility>
+
+#include "base/record_file.h"
+#include "league/files.h"
+
+namespace tipline {
+namespace {
+
+/// A file of records, by the record type that describes it.
+struct FileFormat {
+  std::string_view name;
+  std::filesystem::path (*path)();
+  int slot;
+  std::string_view records;
+  void (*dump)(const RecordFile& file, int n, std::ostream& out);
+  void (*document)(std::string& text);
+};
+
+// Values ------------------------------------------------------------------------------------------------
+
+/// In quotes, without the blanks and zeros at its end; a byte that can't be printed as \xNN.
+std::string Quoted(std::string_view text) {
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\0')) text.remove_suffix(1);
+  std::string quoted = "\"";
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 32 || byte > 126 || c == '"' || c == '\\') {
+      char escaped[8];
+      std::snprintf(escaped, sizeof escaped, "\\x%02X", byte);
+      quoted += escaped;
+    } else {
+      quoted += c;
+    }
+  }
+  return quoted + '"';
+}
+
+template <class T>
+std::string Value(const T& value) {
+  if constexpr (kIsText<T>) {
+    return Quoted({value.bytes.data(), value.bytes.size()});
+  } else if constexpr (std::is_floating_point_v<T>) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.*g", std::is_same_v<T, f32> ? 7 : 15, static_cast<double>(value));
+    return text;
+  } else {
+    return std::to_string(value);
+  }
+}
+
+// Dump --------------------------------------------------------------------------------------------------
+
+constexpr std::size_t kLineWidth = 100;
+
+class Dump {
+ public:
+  Dump(std::ostream& out, int start, int indent) : out_(out), start_(start), indent_(indent) {}
+
+  template <class T>
+  void operator()(int offset, const char* name, const T& member, const char* meaning) const {
+    if constexpr (TableShape<T>::kDepth > 0) {
+      Line(offset, name, "", meaning);
+      Cells(offset, member, "");
+    } else if constexpr (Described<const T>) {
+      Line(offset, name, "", meaning);
+      Describe(member, Dump(out_, start_ + offset, indent_ + 2));
+    } else {
+      Line(offset, name, Value(member), meaning);
+    }
+  }
+
+ private:
+  void Line(int offset, std::string_view name, const std::string& value, std::string_view meaning) const {
+    out_ << std::setw(6) << start_ + offset << "  " << std::string(static_cast<std::size_t>(indent_), ' ')
+         << std::left << std::setw(24) << name << ' ' << std::setw(12) << value << std::right << ' '
+         << meaning << '\n';
+  }
+
+  /// The cells of a table; `index` names those of the outer tables.
+  template <class T, int First, int Last>
+  void Cells(int offset, const Table<T, First, Last>& table, const std::string& index) const {
+    if constexpr (TableShape<T>::kDepth > 0) {
+      for (int i = First; i <= Last; ++i) Cells(offset, table[i], index + std::to_string(i) + ", ");
+    } else if constexpr (Described<const T>) {
+      for (int i = First; i <= Last; ++i) {
+        const int at = offset + (i - First) * T::kRecordSize;
+        Line(at, "[" + std::to_string(i) + "]", "", "");
+        Describe(table[i], Dump(out_, start_ + at, indent_ + 2));
+      }
+    } else {
+      Row(table, index);
+    }
+  }
+
+  /// Cells in lines of one width, each line with the index that it begins with.
+  template <class T, int First, int Last>
+  void Row(const Table<T, First, Last>& table, const std::string& index) const {
+    const std::string margin(static_cast<std::size_t>(indent_ + 10), ' ');
+    std::string line;
+    for (int i = First; i <= Last; ++i) {
+      const std::string value = Value(table[i]);
+      if (!line.empty() && line.size() + 1 + value.size() > kLineWidth) {
+        out_ << line << '\n';
+        line.clear();
+      }
+      if (line.empty()) line = margin + "[" + index + std::to_string(i) + "]";
+      line += ' ' + value;
+    }
+    out_ << line << '\n';
+  }
+
+  std::ostream& out_;
+  int start_, indent_;
+};
+
+template <class Record>
+void DumpSlot(const RecordFile& file, int n, std::ostream& out) {
+  const auto record = std::make_unique<Record>();
+  file.Read(n, *record);
+  Describe(std::as_const(*record), Dump(out, 0, 0));
+}
+
+// Document ----------------------------------------------------------------------------------------------
+
+template <class T>
+inline constexpr std::string_view kTypeName = "";
+template <>
+inline constexpr std::string_view kTypeName<u8> = "u8";
+template <>
+inline constexpr std::string_view kTypeName<i16> = "i16";
+template <>
+inline constexpr std::string_view kTypeName<i32> = "i32";
+template <>
+inline constexpr std::string_view kTypeName<f32> = "f32";
+template <>
+inline constexpr std::string_view kTypeName<f64> = "f64";
+template <>
+inline constexpr std::string_view kTypeName<StatLine> = "StatLine";
+template <>
+inline constexpr std::string_view kTypeName<RealTotalsLine> = "RealTotalsLine";
+template <>
+inline constexpr std::string_view kTypeName<SeriesLine> = "SeriesLine";
+
+template <class T>
+std::string Bounds() {
+  std::string bounds = std::to_string(T::kFirst) + ".." + std::to_string(T::kLast);
+  if constexpr (TableShape<typename T::value_type>::kDepth > 0) {
+    bounds += ", " + Bounds<typename T::value_type>();
+  }
+  return bounds;
+}
+
+template <class T>
+std::string TypeName() {
+  if constexpr (TableShape<T>::kDepth > 0) {
+    return TypeName<typename TableShape<T>::Cell>() + '[' + Bounds<T>() + ']';
+  } else if constexpr (kIsText<T>) {
+    return "text(" + std::to_string(T::kLength) + ')';
+  } else {
+    static_assert(!kTypeName<T>.empty());
+    return std::string(kTypeName<T>);
+  }
+}
+
+/// Characters that Markdown would take for its own.
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    if (c == '<' || c == '|' || c == '\\' || c == '*') escaped += '\\';
+    escaped += c;
+  }
+  return escaped;
+}
+
+template <class Record>
+void DocumentRecord(std::string& text) {
+  text += "| Offset | Type | Field | Meaning |\n|---:|---|---|---|\n";
+  const auto record = std::make_unique<Record>();
+  Describe(std::as_const(*record),
+           [&text](int offset, const char* name, const auto& member, const char* meaning) {
+             using Member = std::remove_cvref_t<decltype(member)>;
+             text += "| " + std::to_string(offset) + " | " + TypeName<Member>() + " | `" + name + "` | " +
+                     Escaped(meaning) + " |\n";
+           });
+  text += '\n';
+}
+
+template <class Record>
+void DocumentFile(std::string& text) {
+  text += "Record of " + std::to_string(Record::kRecordSize) + " bytes.\n\n";
+  DocumentRecord<Record>(text);
+}
+
+template <class Line>
+void DocumentLine(std::string& text) {
+  text +=
+      "## " + TypeName<Line>() + "\n\nPart of a record, " + std::to_string(Line::kRecordSize) + " bytes.\n\n";
+  DocumentRecord<Line>(text);
+}
+
+constexpr std::string_view kPreface =
+    R"(# File formats
+
+Printed from the descriptions that read and write the files; `tests/league/dump_test.cpp` keeps it so.
+
+A file is an array of slots of one length: record n, from 1, begins at byte (n - 1) x slot length. A record may be
+shorter than its slot; the bytes behind it stay as they are. What lies past the end of a file reads as zeros.
+
+Numbers are little-endian: `u8` unsigned byte, `i16` and `i32` signed, `f32` and `f64` floating point. Fields follow
+one another without gaps. `text(n)` is n characters of one byte, left-justified, padded with blanks. `X[a..b]` is a
+table with the indexes a to b; with two or three indexes the first one runs fastest.
+
+A marker is a byte beside a field that older layouts did not have: it holds its value once the field has been set.
+
+)";
+
+// Files -------------------------------------------------------------------------------------------------
+
+template <class Record>
+constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)(), int slot,
+                            std::string_view records) {
+  return {name, path, slot, records, DumpSlot<Record>, DocumentFile<Record>};
+}
+
+const FileFormat kFormats[] = {
+    Format<TeamRecord>("HCTEAMS", TeamsFile, kTeamSlotBytes, "720 records; record number = team number"),
+    Format<PlayerRecord>("HCPLAYER", PlayersFile, kPlayerSlotBytes,
+                         "as many records as it holds; record number = RecNo"),
+    Format<CoachRecord>("HCgameplan", CoachesFile, kCoachSlotBytes,
+                        "720 records; record number = team number"),
+    Format<RulesRecord>("HCRULES", RulesFile, kRulesSlotBytes,
+                        "2 records: 1 the rules, below; 2 the pools of the tournament"),
+    Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
+                      "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
+};
+
+const FileFormat* FormatOf(std::string_view name) {
+  for (const auto& format : kFormats) {
+    if (SameText(format.name, name)) return &format;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
+  const std::filesystem::path given(fileName);
+  const FileFormat* format = FormatOf(given.filename().string());
+  const bool hasFormat = format && n >= 1 && (n == 1 || format->name != "HCRULES");
+  if (!hasFormat) return false;
+  const RecordFile file(given.has_parent_path() ? given : format->path(), format->slot);
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file.Path(), error);
+  if (error || size <= static_cast<std::uintmax_t>(n - 1) * static_cast<unsigned>(format->slot)) return false;
+  format->dump(file, n, out);
+  return true;
+}
+
+std::string FormatDocument() {
+  std::string text(kPreface);
+  for (const auto& format : kFormats) {
+    text += "## " + std::string(format.name) + "\n\nSlots of " + std::to_string(format.slot) + " bytes, " +
+            std::string(format.records) + ". ";
+    format.document(text);
+  }
+  DocumentLine<StatLine>(text);
+  DocumentLine<RealTotalsLine>(text);
+  DocumentLine<SeriesLine>(text);
+  while (text.ends_with("\n\n")) text.pop_back();
+  return text;
+}
+
+}  // namespace tipline

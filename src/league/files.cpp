@@ -1,0 +1,120 @@
+#include "league/files.h"
+
+#include "base/record_file.h"
+#include "league/program.h"
+#include "platform/dialogs.h"
+
+namespace tipline {
+namespace {
+
+bool IsTeamSlot(int team) { return team >= 1 && team <= kTeams; }
+
+RecordFile Teams() { return {TeamsFile(), kTeamSlotBytes}; }
+RecordFile Coaches() { return {CoachesFile(), kCoachSlotBytes}; }
+RecordFile Players() { return {PlayersFile(), kPlayerSlotBytes}; }
+
+RecordFile CoachExport(int team) {
+  return {LeagueFile(CityInFileName(team) + " Coach.coa"), kCoachSlotBytes};
+}
+
+}  // namespace
+
+std::filesystem::path LeagueFile(std::string_view name) {
+  return program.LeagueFolder.empty() ? std::filesystem::path() : program.LeagueFolder / name;
+}
+
+std::filesystem::path TeamsFile() { return LeagueFile("HCTEAMS"); }
+std::filesystem::path PlayersFile() { return LeagueFile("HCPLAYER"); }
+std::filesystem::path CoachesFile() { return LeagueFile("HCgameplan"); }
+std::filesystem::path RulesFile() { return LeagueFile("HCRULES"); }
+
+std::filesystem::path EraFile() {
+  if (program.ProgramFolder.empty()) return {};
+  return program.ProgramFolder / "Basketball-Era.dat";
+}
+
+std::string CityInFileName(int team) {
+  std::string name = league.team[team].City.Str();
+  std::erase_if(name,
+                [](char c) { return c == '\0' || std::string_view("/\\+*?").find(c) != std::string::npos; });
+  return name;
+}
+
+bool Written(bool written, const std::filesystem::path& file) {
+  if (!written) platform::dialogs().Tell(file.filename().string() + " could not be written!");
+  return written;
+}
+
+bool ReadTeam(int team) {
+  const auto file = Teams();
+  if (!IsTeamSlot(team) || !file.Exists()) return false;
+  file.Read(team, league.team[team]);
+  return true;
+}
+
+bool WriteTeam(int team) {
+  return IsTeamSlot(team) && Written(Teams().Write(team, league.team[team]), TeamsFile());
+}
+
+bool ReadCoach(int team) {
+  if (!IsTeamSlot(team)) return false;
+  Coaches().Read(team, league.coach[team]);
+  return true;
+}
+
+bool WriteCoach(int team) {
+  if (!IsTeamSlot(team)) return false;
+  league.coach[team].TeamNo = static_cast<i16>(team);
+  return Written(Coaches().Write(team, league.coach[team]), CoachesFile());
+}
+
+void ReadPlayer(int recNo, PlayerRecord& player) { Players().Read(recNo, player); }
+
+bool WritePlayer(const PlayerRecord& player) {
+  return player.RecNo >= 1 && Written(Players().Write(player.RecNo, player), PlayersFile());
+}
+
+int PlayerRows() { return Players().Count(); }
+
+void LoadLeaguePlayers() {
+  const auto file = Players();
+  const int rows = file.Count();
+  league.player.resize(static_cast<std::size_t>(rows) + 1);
+  league.player[0] = {};
+  file.ReadAll(rows, [](int row, const u8* bytes) {
+    ReadRecord(bytes, league.player[static_cast<std::size_t>(row)]);
+  });
+}
+
+bool SaveAllTeams() {
+  const auto file = Teams();
+  const int slots = std::max(kTeams, file.Count());
+  const bool written = file.RewriteAll(slots, [](int team, u8* bytes) {
+    if (IsTeamSlot(team)) WriteRecord(league.team[team], bytes);
+  });
+  return Written(written, TeamsFile());
+}
+
+bool ExportCoach(int team) {
+  if (!IsTeamSlot(team)) return false;
+  CoachRecord coach;
+  Coaches().Read(team, coach);
+  coach.TeamNo = static_cast<i16>(team);
+  const auto file = CoachExport(team);
+  return Written(file.Write(1, coach), file.Path());
+}
+
+bool ImportCoach(int team) {
+  if (!IsTeamSlot(team)) return false;
+  CoachRecord coach;
+  CoachExport(team).Read(1, coach);
+  if (coach.TeamNo != team) {
+    platform::dialogs().Tell("You may only import a game plan for " + league.team[team].City.Str() + "!");
+    return false;
+  }
+  if (!Written(Coaches().Write(team, coach), CoachesFile())) return false;
+  league.coach[team] = coach;
+  return true;
+}
+
+}  // namespace tipline

@@ -1,0 +1,124 @@
+// Opening a league's teams: the repairs that every opening makes, and the lookups over all slots.
+#include <set>
+
+#include "base/record_file.h"
+#include "league/files.h"
+#include "league/markers.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kMostRealGames = 100;  // more real wins or losses are rubbish
+
+void ClearSplits(TeamRecord& t) {
+  t.OvertimeWins = t.OvertimeLosses = t.WinsVsWinning = t.LossesVsWinning = t.WinsVsLosing =
+      t.LossesVsLosing = 0;
+  t.CloseWins = t.CloseLosses = t.BlowoutWins = t.BlowoutLosses = 0;
+  t.WinsLeadingAtHalf = t.LossesLeadingAtHalf = t.WinsTrailingAtHalf = t.LossesTrailingAtHalf = 0;
+  t.WinsScoring100 = t.LossesScoring100 = t.WinsAllowing100 = t.LossesAllowing100 = 0;
+}
+
+/// Fields that an older layout did not have.
+void FillNewFields(TeamRecord& t) {
+  if (TakeMark(t.TeamTotalsMark, 99)) {
+    t.TeamTurnovers = {};
+    t.OppTeamRebounds = 0;
+  }
+  TakeMark(t.NameMark, 37);  // no table of cities ships with the program: the names stay as they are
+  const bool tooMany = t.RealWins > kMostRealGames || t.RealLosses > kMostRealGames;
+  if (TakeMark(t.RealRecordMark, 99) || tooMany) t.RealWins = t.RealLosses = 0;
+  if (TakeMark(t.ConferenceMark, 99)) {
+    t.ConferenceWins = t.DivisionWins;
+    t.ConferenceLosses = t.DivisionLosses;
+  }
+  if (TakeMark(t.SplitsMark, 99)) ClearSplits(t);
+}
+
+/// What every slot must have, whether it holds a team or not.
+void RepairSlot(TeamRecord& t) {
+  if (t.Abbrev.Empty()) t.Abbrev = t.City.View().substr(0, 3);
+  if (t.Year < kFirstEraYear) t.Year = 2013;
+  if (t.HomeForeColor == 0 && t.HomeBackColor == 0) t.HomeForeColor = 0x00FFFFFF;
+  if (t.TeamType == 'D') t.RosterKind = "D";
+  if (t.TeamType != 'A' && t.TeamType != 'C' && t.TeamType != 'O') t.TeamType = "P";
+  if (t.Wins + t.Losses == 0) {
+    t.NeutralWins = t.NeutralLosses = t.DivisionWins = t.DivisionLosses = t.HomeWins = t.HomeLosses = 0;
+    t.Streak = 0;
+  }
+}
+
+bool WriteTeams(const std::set<int>& teams) {
+  const RecordFile file(TeamsFile(), kTeamSlotBytes);
+  const int slots = std::max(file.Count(), *teams.rbegin());
+  const bool written = file.RewriteAll(slots, [&teams](int team, u8* bytes) {
+    if (teams.contains(team)) WriteRecord(league.team[team], bytes);
+  });
+  return Written(written, file.Path());
+}
+
+void CountDivisions() {
+  league.DivisionTeams.Fill(0);
+  league.UsedDivisions.clear();
+  league.ActiveTeams = league.LargestDivision = 0;
+  for (int team = 1; team <= kTeams; ++team) {
+    if (league.team[team].TeamActive != 1) continue;
+    ++league.ActiveTeams;
+    ++league.DivisionTeams[DivisionOf(team)];
+  }
+  league.EqualDivisions = true;
+  for (int division = 1; division <= kDivisions; ++division) {
+    const int teams = league.DivisionTeams[division];
+    if (teams == 0) continue;
+    league.UsedDivisions.push_back(division);
+    league.EqualDivisions = league.EqualDivisions && teams == league.DivisionTeams[league.UsedDivisions[0]];
+    league.LargestDivision = std::max(league.LargestDivision, teams);
+  }
+}
+
+/// The first half of the used divisions, the middle one included, is conference 1; one division alone is
+/// conference 1. A college team's conference is its division.
+void SetConferences() {
+  league.Conference.Fill(0);
+  const auto used = static_cast<int>(league.UsedDivisions.size());
+  for (int k = 0; k < used; ++k) {
+    const int division = league.UsedDivisions[static_cast<std::size_t>(k)];
+    const int half = k < (used + 1) / 2 ? 1 : 2;
+    for (const int team : TeamsOfDivision(division)) {
+      league.Conference[team] = league.team[team].TeamType == 'C' ? division : half;
+    }
+  }
+}
+
+void CompareYears() {
+  std::set<int> years;
+  for (int team = 1; team <= kTeams; ++team) {
+    const TeamRecord& t = league.team[team];
+    if (t.TeamActive == 1 && t.Year >= 1850 && t.Year <= 2100) years.insert(t.Year);
+  }
+  league.MixedYears = years.size() > 1;
+}
+
+}  // namespace
+
+void LoadAllTeams() {
+  std::set<int> repaired;
+  RecordFile(TeamsFile(), kTeamSlotBytes).ReadAll(kTeams, [&repaired](int slot, const u8* bytes) {
+    TeamRecord& team = league.team[slot];
+    ReadRecord(bytes, team);
+    const bool active = team.TeamActive == 1;
+    if (active) FillNewFields(team);
+    RepairSlot(team);
+    const auto now = RecordBytes(team);
+    if (active && !std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
+  });
+  if (!repaired.empty()) WriteTeams(repaired);
+  RebuildLookups();
+}
+
+void RebuildLookups() {
+  CountDivisions();
+  SetConferences();
+  CompareYears();
+}
+
+}  // namespace tipline

@@ -1,0 +1,108 @@
+// A new season for a team or a player: what the season counted goes, who they are stays.
+#include "league/files.h"
+#include "league/program.h"
+
+namespace tipline {
+namespace {
+
+/// The counts of a line; its markers and spare bytes are no counts.
+void ClearLine(StatLine& line) {
+  StatLine clear;
+  clear.DunkMark = line.DunkMark;
+  clear.EjectionMark = line.EjectionMark;
+  clear.Spare = line.Spare;
+  line = clear;
+}
+
+void ClearLine(SeriesLine& line) {
+  SeriesLine clear;
+  clear.SeriesMark = line.SeriesMark;
+  clear.Spare = line.Spare;
+  line = clear;
+}
+
+template <class... Fields>
+void Clear(Fields&... fields) {
+  ((fields = {}), ...);
+}
+
+void ClearResults(TeamRecord& t) {
+  t.LastTen.Fill(Text<1>(" "));
+  Clear(t.Wins, t.Losses, t.Streak, t.HomeWins, t.HomeLosses, t.NeutralWins, t.NeutralLosses);
+  Clear(t.DivisionWins, t.DivisionLosses, t.ConferenceWins, t.ConferenceLosses);
+  Clear(t.OvertimeWins, t.OvertimeLosses, t.WinsVsWinning, t.LossesVsWinning, t.WinsVsLosing,
+        t.LossesVsLosing);
+  Clear(t.CloseWins, t.CloseLosses, t.BlowoutWins, t.BlowoutLosses);
+  Clear(t.WinsLeadingAtHalf, t.LossesLeadingAtHalf, t.WinsTrailingAtHalf, t.LossesTrailingAtHalf);
+  Clear(t.WinsScoring100, t.LossesScoring100, t.WinsAllowing100, t.LossesAllowing100);
+  Clear(t.PowerRating, t.ReservedWord, t.ReservedFlagB);
+}
+
+void ClearShotTable(TeamRecord& t) {
+  Clear(t.ShotAttInside, t.ShotAttOutside, t.ShotAttSpare1, t.ShotAttDrive, t.ShotAttFastbreak2);
+  Clear(t.ShotAttOffReb2, t.ShotAttFastbreak3, t.ShotAttOffReb3, t.ShotAttThree);
+  Clear(t.ShotMadeInside, t.ShotMadeOutside, t.ShotMadeSpare1, t.ShotMadeDrive, t.ShotMadeFastbreak2);
+  Clear(t.ShotMadeOffReb2, t.ShotMadeFastbreak3, t.ShotMadeOffReb3, t.ShotMadeThree);
+}
+
+void ClearHighsAndLows(TeamRecord& t) {
+  Clear(t.HighPoints, t.HighFGA, t.HighFGM, t.HighF3A, t.HighF3M, t.HighFTA, t.HighFTM);
+  Clear(t.HighReb, t.HighOff, t.HighAst, t.HighBk, t.HighTo, t.HighSt, t.HighPf);
+  Clear(t.LowPoints, t.LowFGA, t.LowFGM, t.LowF3A, t.LowF3M, t.LowFTA, t.LowFTM);
+  Clear(t.LowReb, t.LowOff, t.LowAst, t.LowBk, t.LowTo, t.LowSt, t.LowPf);
+}
+
+void ClearTotals(TeamRecord& t) {
+  for (auto& line : t.TeamStats) ClearLine(line);
+  for (auto& line : t.HomeStats) ClearLine(line);
+  ClearLine(t.ReservedLine);
+  Clear(t.TeamTurnovers, t.OppTeamRebounds, t.PeriodPoints);
+  Clear(t.TeamRebounds[2], t.TeamRebounds[3]);  // index 1 is real life
+  Clear(t.Possessions, t.OppPossessions, t.PossessionMark);
+  Clear(t.ScoutOffense, t.ScoutHelp, t.ScoutPressure, t.ScoutDefenseType, t.ScoutCoverage);
+}
+
+void ClearShotTable(PlayerRecord& p) {
+  Clear(p.ShotAttInside, p.ShotAttOutside, p.ShotAttThree, p.ShotAttDrive, p.ShotAttFastbreak2);
+  Clear(p.ShotAttOffReb2, p.ShotAttFastbreak3, p.ShotAttOffReb3);
+  Clear(p.ShotMadeInside, p.ShotMadeOutside, p.ShotMadeThree, p.ShotMadeDrive, p.ShotMadeFastbreak2);
+  Clear(p.ShotMadeOffReb2, p.ShotMadeFastbreak3, p.ShotMadeOffReb3);
+}
+
+void ClearSeasonCounters(PlayerRecord& p) {
+  Clear(p.TeamWinsPlayed, p.TeamLossesPlayed, p.TeamWinsByPosition, p.TeamLossesByPosition);
+  Clear(p.GamesAtPosition, p.MinutesAtPosition, p.PointsAtPosition, p.PlusMinus);
+  Clear(p.LastGamePoints, p.LastGameRebounds, p.LastGameAssists);
+  p.LastGameOpponent = "";
+  Clear(p.LastInjuryMonth, p.LastInjuryDay, p.RestGames);
+  Clear(p.ShareShots, p.ShareBlocks, p.ShareAssists, p.ShareOffReb, p.ShareDefReb);
+  Clear(p.DoubleDoubles, p.TripleDoubles, p.QuadDoubles);
+  Clear(p.FreeThrowStreak, p.LongestFreeThrowStreak, p.FieldGoalStreak, p.LongestFieldGoalStreak);
+  Clear(p.OppFGA, p.OppFGM, p.ReservedK, p.ReservedL);
+}
+
+}  // namespace
+
+void ZeroTeam(int team) {
+  if (team < 1 || team > kTeams) return;
+  TeamRecord& t = league.team[team];
+  ClearResults(t);
+  ClearTotals(t);
+  ClearShotTable(t);
+  ClearHighsAndLows(t);
+}
+
+void ZeroPlayer(PlayerRecord& player, int block) {
+  if (block != 1 && block != 2) return;
+  ClearLine(player.Stats[block]);
+  ClearLine(player.HomeStats[block]);
+  ClearLine(player.RoadStats[block]);
+  for (auto& period : player.QuarterPoints) period[block] = 0;
+  if (block == 1) return;
+  player.Flagrants[2] = 0;
+  ClearShotTable(player);
+  ClearSeasonCounters(player);
+  if (!program.ReplayLocked) ClearLine(player.SeriesStats);
+}
+
+}  // namespace tipline

@@ -1,0 +1,68 @@
+#include "base/record_file.h"
+
+#include <gtest/gtest.h>
+
+#include "league/player_record.h"
+#include "support/temporary_league.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kSlot = 1500;
+
+class RecordFiles : public testing::Test {
+ protected:
+  TemporaryLeague folder;
+  std::filesystem::path path = program.LeagueFolder / "F";
+  RecordFile file{path, kSlot};
+};
+
+TEST_F(RecordFiles, AWriteKeepsTheBytesOfTheSlotBehindTheRecord) {
+  ASSERT_TRUE(WriteWholeFile(path, std::string(3 * kSlot, '\xA5')));
+  PlayerRecord player;
+  player.Age = 30;
+  ASSERT_TRUE(file.Write(2, player));
+  const auto bytes = ReadWholeFile(path);
+  ASSERT_EQ(bytes.size(), 3u * kSlot);
+  EXPECT_EQ(bytes[kSlot - 1], '\xA5') << "the slot before";
+  EXPECT_EQ(bytes[kSlot + 948], 30);
+  EXPECT_EQ(bytes[2 * kSlot - 1], '\xA5') << "byte 1500 of the slot";
+  EXPECT_EQ(bytes[2 * kSlot], '\xA5') << "the slot behind";
+}
+
+TEST_F(RecordFiles, AFileGrowsByWholeSlotsOfZeros) {
+  PlayerRecord player;
+  ASSERT_TRUE(file.Write(3, player));
+  EXPECT_EQ(file.Count(), 3);
+  EXPECT_EQ(ReadWholeFile(path), std::string(3 * kSlot, '\0'));
+  EXPECT_FALSE(file.Write(0, player));
+}
+
+TEST_F(RecordFiles, WhatIsNotThereReadsAsZeros) {
+  PlayerRecord player;
+  player.Age = 9;
+  file.Read(1, player);
+  EXPECT_EQ(player.Age, 0) << "no file";
+  ASSERT_TRUE(WriteWholeFile(path, std::string(kSlot + 950, '\x07')));
+  file.Read(2, player);
+  EXPECT_EQ(player.Age, 7) << "the last bytes of a short file";
+  EXPECT_EQ(player.PrimaryPosition, 0) << "behind them";
+  EXPECT_EQ(file.Count(), 1) << "whole slots";
+  int sum = 0;
+  file.ReadAll(3, [&sum](int, const u8* slot) { sum += slot[0] + slot[949] + slot[1499]; });
+  EXPECT_EQ(sum, 3 * 7 + 2 * 7);
+}
+
+TEST_F(RecordFiles, AFolderInTheFilesPlaceIsRefused) {
+  TemporaryLeague::Block(path);
+  bool read = true;
+  EXPECT_EQ(ReadWholeFile(path, &read), "");
+  EXPECT_FALSE(read);
+  EXPECT_FALSE(file.Write(1, PlayerRecord{}));
+  EXPECT_FALSE(file.RewriteAll(1, [](int, u8*) {}));
+  EXPECT_FALSE(WriteWholeFile(path, "x"));
+  EXPECT_FALSE(std::filesystem::exists(path.string() + ".new")) << "nothing is left behind";
+}
+
+}  // namespace
+}  // namespace tipline

@@ -1,0 +1,110 @@
+#include "league/roster.h"
+
+#include <gtest/gtest.h>
+
+#include "base/record_file.h"
+#include "league/files.h"
+#include "platform/dialogs.h"
+#include "support/temporary_league.h"
+
+namespace tipline {
+namespace {
+
+class Rosters : public testing::Test {
+ protected:
+  TemporaryLeague folder;
+  platform::ScriptedDialogs dialogs;
+  Roster roster;
+
+  void SetUp() override {
+    TeamRecord& team = league.team[5];
+    team.TeamActive = 1;
+    team.City = "Salem/West";
+    team.Roster[1] = 2;
+    team.Roster[4] = 3;
+    team.Roster[5] = 1;
+    team.Roster[6] = 99;
+    team.Roster[7] = -8;
+    ASSERT_TRUE(WriteTeam(5));
+    PutMan(1, 0, "Gone");
+    PutMan(2, 5, "Ames");
+    PutMan(3, 1005, "Traded");
+  }
+
+  static void PutMan(int recNo, int team, const char* name) {
+    PlayerRecord man;
+    man.RecNo = static_cast<i16>(recNo);
+    man.TeamNo = static_cast<i16>(team);
+    man.LastName = name;
+    ASSERT_TRUE(WritePlayer(man));
+  }
+};
+
+TEST_F(Rosters, MenStandInTheirSlotsAndRemovedOnesLeave) {
+  ASSERT_TRUE(ReadRoster(5, roster));
+  EXPECT_EQ(roster.player[1].LastName, "Ames");
+  EXPECT_EQ(roster.player[4].LastName, "Traded") << "a former member keeps his slot";
+  EXPECT_EQ(roster.player[5].RecNo, 0);
+  EXPECT_EQ(roster.team.Roster[5], 0) << "an erased row";
+  EXPECT_EQ(roster.team.Roster[6], 0) << "a row behind the end of the file";
+  EXPECT_EQ(roster.player[0].RecNo + roster.player[7].RecNo, 0);
+  EXPECT_EQ(league.team[5].Roster[5], 1) << "only the copy is repaired";
+  for (const int team : {0, 4, 721}) EXPECT_FALSE(ReadRoster(team, roster)) << team;
+}
+
+TEST_F(Rosters, CoachMenAndTeamAreWrittenBack) {
+  ASSERT_TRUE(ReadRoster(5, roster));
+  roster.player[1].Age = 31;
+  roster.player[4].RecNo = 0;
+  roster.coach.OverallPace = 4;
+  roster.team.Wins = 12;
+  ASSERT_TRUE(WriteRoster(roster));
+  EXPECT_EQ(league.team[5].Wins, 12) << "the league's table follows";
+  Roster again;
+  ASSERT_TRUE(ReadRoster(5, again));
+  EXPECT_EQ(again.player[1].Age, 31);
+  EXPECT_EQ(again.team.Roster[4], 0) << "a man without a record leaves his slot";
+  EXPECT_EQ(again.coach.OverallPace, 4);
+  EXPECT_EQ(again.coach.TeamNo, 5);
+}
+
+TEST_F(Rosters, AFailedWriteStopsAndKeepsTheTable) {
+  ASSERT_TRUE(ReadRoster(5, roster));
+  TemporaryLeague::Block(PlayersFile());
+  roster.team.Wins = 12;
+  EXPECT_FALSE(WriteRoster(roster));
+  EXPECT_EQ(dialogs.told, std::vector<std::string>{"HCPLAYER could not be written!"});
+  EXPECT_EQ(league.team[5].Wins, 0);
+}
+
+TEST_F(Rosters, AllRowsAreLoadedByRecordNumber) {
+  LoadLeaguePlayers();
+  ASSERT_EQ(league.player.size(), 4u);
+  EXPECT_EQ(PlayerRows(), 3);
+  EXPECT_EQ(league.player[3].LastName, "Traded");
+  EXPECT_EQ(league.player[0].RecNo, 0);
+}
+
+TEST_F(Rosters, APlanTravelsOnlyToItsOwnTeam) {
+  league.coach[5].OverallPace = 3;
+  ASSERT_TRUE(WriteCoach(5));
+  ASSERT_TRUE(ExportCoach(5));
+  const auto file = program.LeagueFolder / "SalemWest Coach.coa";
+  EXPECT_EQ(std::filesystem::file_size(file), 15000u);
+  league.coach[5].OverallPace = 1;
+  ASSERT_TRUE(WriteCoach(5));
+  ASSERT_TRUE(ImportCoach(5));
+  EXPECT_EQ(league.coach[5].OverallPace, 3);
+  league.coach[5] = {};
+  ASSERT_TRUE(ReadCoach(5));
+  EXPECT_EQ(league.coach[5].OverallPace, 3) << "in the file, too";
+
+  league.team[6].City = "Aston";
+  std::filesystem::rename(file, program.LeagueFolder / "Aston Coach.coa");
+  EXPECT_FALSE(ImportCoach(6));
+  EXPECT_EQ(dialogs.told, std::vector<std::string>{"You may only import a game plan for Aston!"});
+  EXPECT_EQ(league.coach[6].OverallPace, 0);
+}
+
+}  // namespace
+}  // namespace tipline

@@ -1,0 +1,199 @@
+#include "league/rules_screen.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "base/record_file.h"
+#include "league/files.h"
+#include "league/rules.h"
+#include "platform/dialogs.h"
+#include "support/temporary_league.h"
+
+namespace tipline {
+namespace {
+
+class RulesScreen : public testing::Test {
+ protected:
+  TemporaryLeague folder;
+  platform::ScriptedDialogs dialogs;
+  HCRULESFORM screen;
+
+  void SetUp() override {
+    PutTeam(1, "Salem");
+    PutTeam(2, "aston");
+    ASSERT_TRUE(WriteTeam(1));
+    ASSERT_TRUE(SaveRules());
+    ASSERT_TRUE(LoadRules());
+    screen.Open();
+  }
+
+  static void PutTeam(int slot, const char* city) {
+    league.team[slot].TeamActive = 1;
+    league.team[slot].City = city;
+    league.team[slot].Year = 1985;
+    league.team[slot].TeamType = "P";
+  }
+
+  std::string Text(const char* list, int index) {
+    return HCRULESFORM::Find(list)->Choices()[static_cast<std::size_t>(index)].text;
+  }
+};
+
+TEST_F(RulesScreen, EveryControlHasItsOwnByte) {
+  std::set<const u8*> fields;
+  std::set<std::string_view> names;
+  for (const auto& control : RuleControls()) {
+    EXPECT_TRUE(fields.insert(&control.Field(league.rules)).second) << control.Name;
+    EXPECT_TRUE(names.insert(control.Name).second) << control.Name;
+    std::set<u8> values;
+    if (!control.Choices) continue;
+    for (const auto& choice : control.Choices())
+      EXPECT_TRUE(values.insert(choice.value).second) << control.Name;
+    EXPECT_GE(screen.ListIndex(control), control.Name == "OverTimeList" ? -1 : 0)
+        << control.Name << ": a repaired value has its line";
+  }
+}
+
+TEST_F(RulesScreen, AListWritesTheValueOfItsLineAtOnce) {
+  const struct {
+    const char *why, *name;
+    int index, value;
+    const char* text;
+  } cases[] = {
+      {"periods are 2 or 4", "PeriodList", 0, 2, "2 Per Game"},
+      {"periods are 2 or 4", "PeriodList", 1, 4, "4 Per Game"},
+      {"minutes begin at 1", "MinuteList", 19, 20, "20 Minutes"},
+      {"technicals begin at 1", "TechnicalFTslist", 1, 2, "2 Shots"},
+      {"no shot clock", "ShotClockList", 0, 0, "No Shot Clock"},
+      {"overtime adds", "OvertimeTimeoutList", 5, 5, "+2"},
+      {"hundreds of minutes", "SeasonUsageMinutesExemptionList", 40, 40, "4000 Minutes"},
+      {"highest durability", "UniversalDurabilityList", 10, 10, "All Players Rated 10 (High)"},
+      {"above all real games", "SeasonUsageGamesList(3)", 100, 100, "Over 200% Of Real Life Games"},
+      {"decades", "GameEraList", 7, 7, "2000's"},
+  };
+  for (const auto& c : cases) {
+    ASSERT_TRUE(screen.Choose(c.name, c.index)) << c.why;
+    EXPECT_EQ(HCRULESFORM::Find(c.name)->Field(league.rules), c.value) << c.why;
+    EXPECT_EQ(screen.ListIndex(*HCRULESFORM::Find(c.name)), c.index) << c.why;
+    EXPECT_EQ(Text(c.name, c.index), c.text) << c.why;
+  }
+  EXPECT_FALSE(screen.Choose("PeriodList", 2));
+  EXPECT_FALSE(screen.Choose("PeriodList", -1));
+  EXPECT_FALSE(screen.Choose("ThreePointCheck", 0)) << "a check is no list";
+  EXPECT_FALSE(screen.Check("PeriodList", true)) << "a list is no check";
+  EXPECT_FALSE(screen.Check("NoSuchCheck", true));
+  league.rules.IsPlayoffModule = 1;
+  EXPECT_EQ(Text("SeasonUsageMinutesList(1)", 25), "Over 25% Of Real Life Minutes");
+}
+
+TEST_F(RulesScreen, ATechnicalCountsAsAFoulByTheValue2) {
+  const auto* check = HCRULESFORM::Find("TechnicalPFCheck");
+  EXPECT_FALSE(screen.IsTicked(*check));
+  ASSERT_TRUE(screen.Check("TechnicalPFCheck", true));
+  EXPECT_EQ(league.rules.TechnicalPFCheck, 2);
+  ASSERT_TRUE(screen.Check("TechnicalPFCheck", false));
+  EXPECT_EQ(league.rules.TechnicalPFCheck, 1);
+  EXPECT_TRUE(screen.IsTicked(*HCRULESFORM::Find("TemporaryGameInjuriesCheck"))) << "any value but 0";
+}
+
+TEST_F(RulesScreen, OffensiveFoulChecksDependOnTheFirst) {
+  const char* dependent[] = {"OneShotOnOffensiveFoulBeforePenalty", "OnePlusOneAfterPenaltyONOffensiveFouls"};
+  ASSERT_TRUE(screen.Check("OffensiveFoulTeamFoulCheck", true));
+  for (const char* name : dependent) EXPECT_TRUE(screen.Check(name, true)) << name;
+  ASSERT_TRUE(screen.Check("OffensiveFoulTeamFoulCheck", false));
+  for (const char* name : dependent) {
+    EXPECT_FALSE(screen.IsTicked(*HCRULESFORM::Find(name))) << name;
+    EXPECT_FALSE(screen.Check(name, true)) << name;
+  }
+}
+
+TEST_F(RulesScreen, AlternateRealityIsChosenBeforeTheSeason) {
+  const auto& check = *HCRULESFORM::Find("AlternateRealityCheck");
+  EXPECT_EQ(screen.Caption(check), "Alternate Reality (Play Analysis Disabled)");
+  league.team[2].Losses = 1;
+  EXPECT_FALSE(screen.Check(check.Name, true));
+  EXPECT_EQ(screen.Caption(check), "Alternate Reality (Season Started!)");
+  league.rules.AlternateRealityCheck = 1;
+  EXPECT_EQ(screen.Caption(check), "Alternate Reality (Play Analysis Disabled)");
+}
+
+TEST_F(RulesScreen, TeamListsHoldTheActiveTeamsByCity) {
+  EXPECT_EQ(screen.Teams, (std::vector{2, 1}));
+  EXPECT_TRUE(screen.IsPauseTeam(1));
+  screen.PauseTeamList(1, false);
+  EXPECT_EQ(league.rules.PauseTeamList[1], 0);
+  screen.SelectAllTeamsFavoriteCommand();
+  screen.ClearAllPauseTeamsCommand();
+  EXPECT_TRUE(screen.IsFavorite(1) && screen.IsFavorite(2) && !screen.IsFavorite(3));
+  EXPECT_FALSE(screen.IsPauseTeam(2));
+  screen.ClearFavoriteTeamSelectionCommand();
+  screen.SelectAllPauseTeamsCommand();
+  EXPECT_FALSE(screen.IsFavorite(1));
+  EXPECT_TRUE(screen.IsPauseTeam(2));
+}
+
+TEST_F(RulesScreen, SaveWritesTheRestAndCancelTakesAllBack) {
+  screen.Check("NeutralCheck", true);
+  screen.Choose("RosterLimitList", 1);
+  screen.LeagueName = "Old League";
+  screen.DivisionName[36] = "Atlantic";
+  EXPECT_EQ(league.rules.RosterLimitList, 12) << "not before SAVE";
+  screen.CANCEL();
+  EXPECT_TRUE(screen.Closed);
+  EXPECT_EQ(league.rules.NeutralCheck, 0);
+
+  screen.Open();
+  EXPECT_EQ(screen.RosterLimitIndex, 5);
+  EXPECT_EQ(screen.LeagueName, "");
+  screen.Choose("RosterLimitList", 13);
+  screen.Choose("PlayerHeigtToWidthList", 2);
+  screen.Choose("FoulLimit(1)", 7);
+  screen.LeagueName = "Old League";
+  screen.DivisionName[36] = "Atlantic";
+  ASSERT_TRUE(screen.SAVE());
+  league.rules = {};
+  ASSERT_TRUE(LoadRules());
+  EXPECT_EQ(league.rules.RosterLimitList, 20);
+  EXPECT_EQ(league.rules.LeagueName, "Old League");
+  EXPECT_EQ(league.rules.DivisionName[36], "Atlantic");
+  EXPECT_EQ(league.rules.FoulLimit[3], 7);
+  EXPECT_EQ(league.PhotoRatio, 1.0);
+
+  screen.Open();
+  screen.Choose("RosterLimitList", 0);
+  TemporaryLeague::Block(RulesFile());
+  EXPECT_FALSE(screen.SAVE());
+  EXPECT_FALSE(screen.Closed);
+  EXPECT_EQ(league.rules.RosterLimitList, 0);
+}
+
+TEST_F(RulesScreen, TheLogoIsAnImageOfTheLogoFolder) {
+  const auto logos = folder.Home() / "orvex-data" / "Basketball" / "TeamLogos";
+  std::filesystem::create_directories(logos);
+  for (const char* name : {"b.JPEG", "a.bmp", "notes.txt"}) ASSERT_TRUE(WriteWholeFile(logos / name, "x"));
+  screen.Open();
+  EXPECT_EQ(screen.File1, (std::vector<std::string>{"a.bmp", "b.JPEG"}));
+  screen.USELOGOCommand();
+  EXPECT_EQ(dialogs.told, std::vector<std::string>{"You must highlight a logo!"});
+  screen.File1Index = 1;
+  screen.USELOGOCommand();
+  ASSERT_TRUE(LoadRules());
+  EXPECT_EQ(screen.DisplayLeagueLogo(), logos / "b.JPEG");
+  screen.Command4();
+  ASSERT_TRUE(LoadRules());
+  EXPECT_TRUE(screen.DisplayLeagueLogo().empty());
+}
+
+TEST_F(RulesScreen, MixedYearsCallForTheHistoricalEra) {
+  EXPECT_EQ(screen.HistoricalEraLabel(), "");
+  EXPECT_FALSE(screen.EraListRed());
+  league.MixedYears = true;
+  EXPECT_EQ(screen.HistoricalEraLabel(), "Average historical era is recommended for this league.");
+  EXPECT_TRUE(screen.EraListRed());
+  screen.Choose("GameEraList", 1);
+  EXPECT_FALSE(screen.EraListRed());
+}
+
+}  // namespace
+}  // namespace tipline

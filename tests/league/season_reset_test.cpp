@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "league/files.h"
+#include "support/temporary_league.h"
+
+namespace tipline {
+namespace {
+
+/// A record with the byte 1 everywhere.
+template <class Record>
+Record Full() {
+  Record record;
+  ReadRecord(std::vector<u8>(Record::kRecordSize, 1).data(), record);
+  return record;
+}
+
+/// Names of the fields of which something is cleared.
+template <class Record>
+std::set<std::string> Cleared(const Record& record) {
+  const auto bytes = RecordBytes(record);
+  std::set<std::string> names;
+  Describe(record, [&](int offset, const char* name, const auto& member, const char*) {
+    const int end = offset + DiskSize<std::remove_cvref_t<decltype(member)>>();
+    for (int i = offset; i < end; ++i) {
+      if (bytes[static_cast<std::size_t>(i)] != 1) names.insert(name);
+    }
+  });
+  return names;
+}
+
+TEST(SeasonReset, ATeamKeepsWhatIsNotOfTheSeason) {
+  TemporaryLeague folder;
+  league.team[720] = Full<TeamRecord>();
+  ZeroTeam(720);
+  const TeamRecord& team = league.team[720];
+  const auto cleared = Cleared(team);
+  for (const char* kept :
+       {"TeamActive",     "City",          "Abbrev",        "Year",      "TeamType",
+        "RealTotals",     "Roster",        "HomeForeColor", "LogoFile",  "ScheduleStrength",
+        "PlanMark",       "HighLowMark",   "LastTenMark",   "SavedWins", "SavedPowerRating",
+        "ConferenceMark", "SplitsMark",    "ArenaAge",      "RealWins",  "RealLosses",
+        "TeamTotalsMark", "ReservedFlagA", "ReservedText"}) {
+    EXPECT_FALSE(cleared.contains(kept)) << kept;
+  }
+  for (const char* gone : {"TeamStats",
+                           "Wins",
+                           "Losses",
+                           "Streak",
+                           "HomeLosses",
+                           "DivisionWins",
+                           "HomeStats",
+                           "ReservedLine",
+                           "ReservedWord",
+                           "NeutralLosses",
+                           "ScoutOffense",
+                           "ScoutCoverage",
+                           "PeriodPoints",
+                           "PowerRating",
+                           "Possessions",
+                           "OppPossessions",
+                           "PossessionMark",
+                           "HighPoints",
+                           "HighPf",
+                           "LowPoints",
+                           "LowPf",
+                           "LastTen",
+                           "ConferenceLosses",
+                           "ShotAttInside",
+                           "ShotMadeThree",
+                           "OvertimeWins",
+                           "LossesAllowing100",
+                           "TeamTurnovers",
+                           "OppTeamRebounds"}) {
+    EXPECT_TRUE(cleared.contains(gone)) << gone;
+  }
+  EXPECT_EQ(cleared.size(), 94u);
+  EXPECT_EQ(team.TeamRebounds[1], 257) << "real life stays";
+  EXPECT_EQ(team.TeamRebounds[2], 0);
+  EXPECT_EQ(team.LastTen[10], " ");
+}
+
+TEST(SeasonReset, APlayerLosesOneBlock) {
+  TemporaryLeague folder;
+  auto real = Full<PlayerRecord>();
+  ZeroPlayer(real, 1);
+  EXPECT_EQ(Cleared(real), (std::set<std::string>{"Stats", "HomeStats", "RoadStats", "QuarterPoints"}));
+  EXPECT_EQ(real.Stats[1].FGA + real.QuarterPoints[5][1], 0);
+  EXPECT_EQ(real.Stats[2].FGA, 257);
+  EXPECT_EQ(real.QuarterPoints[5][2], 257);
+
+  auto replay = Full<PlayerRecord>();
+  ZeroPlayer(replay, 2);
+  EXPECT_EQ(replay.Stats[1].FGA, 257) << "real life stays";
+  EXPECT_EQ(replay.Stats[2].Ejections, 0);
+  EXPECT_EQ(replay.Stats[2].DunkMark, 1) << "else the next load would clear the real dunks";
+  EXPECT_EQ(replay.Stats[3].FGA, 257) << "so does the last game";
+  EXPECT_EQ(replay.Flagrants[2], 0);
+  EXPECT_EQ(replay.Flagrants[3], 1);
+  EXPECT_EQ(replay.SeriesStats.FGA, 0);
+  const auto cleared = Cleared(replay);
+  EXPECT_EQ(cleared.size(), 53u);
+  for (const char* kept :
+       {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
+        "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"}) {
+    EXPECT_FALSE(cleared.contains(kept)) << kept;
+  }
+
+  auto inGame = Full<PlayerRecord>();
+  program.ReplayLocked = true;
+  ZeroPlayer(inGame, 2);
+  EXPECT_EQ(inGame.SeriesStats.FGA, 257) << "the series goes on while a game holds the data";
+  auto other = Full<PlayerRecord>();
+  ZeroPlayer(other, 3);
+  EXPECT_TRUE(Cleared(other).empty());
+}
+
+}  // namespace
+}  // namespace tipline
