@@ -7,7 +7,7 @@
 
 namespace tipline {
 
-inline constexpr int kEditionYear = 2026;  ///< edition of the program: its last season, and its setup file
+inline constexpr int kEditionYear = 2023;  ///< edition of the program: its last season, and its setup file
 
 struct GameKindWords {
   static constexpr std::string_view kTexts[] = {"L", "E"};
