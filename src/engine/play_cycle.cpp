@@ -286,7 +286,10 @@ bool NextStop() {
   SetActingSide();
   const bool automatic = Auto();
   RenewMatchups();
-  if (!automatic) return false;
+  if (!automatic) {
+    if (game.GameState == "OFFENSE" && !game.NeedsInbound && !game.NeedsMoveUp) SetOpenStatus();
+    return false;
+  }
   ActForComputer();
   return true;
 }
