@@ -9,8 +9,8 @@ enum : int { kBallOut = 1, kBallIn, kHelpOut, kHelpOutIn, kHelpIn, kHelpInIn };
 constexpr double kMeanDefense = 23.1;  // of a five, weighted by whom they guard
 
 // clang-format off
-// What each rating weighs. Columns: the ball's defender against an outside and an inside man; the men who guard
-// the others outside, and those who guard the others inside, likewise.
+// What each rating weighs. Columns: the outside and inside defense of the ball's defender, of those who guard
+// the others outside, of those who guard the others inside.
 constexpr int kUse[5][6] = {
     {1,  9, 1, 2, 1,  8},   // second chance
     {8,  2, 2, 2, 1, 10},   // drive

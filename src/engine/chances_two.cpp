@@ -90,11 +90,12 @@ void Corrections(TwoPointShot& s) {
 /// percentage stays his own.
 void KindOfShot(TwoPointShot& s) {
   const PlayerRecord& r = s.shooter;
-  const int putback = Round((r.RateOffInside - 5.1) * 15 + 49);
-  const int inside = Round((r.RateOffInside - 5.7) * 15 + 59);
-  const int outside = Round((r.RateOffOutside - 5.5) * 15 - 98);
-  const int drive = Round((r.RateOffDrive - 5) * 15.0 - 48);
-  const int onBreak = Round((r.RateOffFastbreak - 6.5) * 15 + 140);
+  // against the rating of a common man, in tenths: all of these end in a half
+  const int putback = Round((r.RateOffInside * 10 - 51) * 1.5 + 49);
+  const int inside = Round((r.RateOffInside * 10 - 57) * 1.5 + 59);
+  const int outside = Round((r.RateOffOutside * 10 - 55) * 1.5 - 98);
+  const int drive = (r.RateOffDrive - 5) * 15 - 48;
+  const int onBreak = Round((r.RateOffFastbreak * 10 - 65) * 1.5 + 140);
   s.chance.Add(-(inside * s.mix.ShareInside + putback * s.mix.SharePutback + outside * s.mix.ShareOutside +
                  drive * s.mix.ShareDrive + onBreak * s.mix.ShareBreak));
   DefenseTerms(s.chance, Clamp(game.play.DefenseFactor, 0.3, 1.7));

@@ -11,8 +11,8 @@ void TurnoverWeight();  ///< sets `TurnoverChance`; after ShotWeight
 void FoulWeight();      ///< sets `FoulChance`; after ShotWeight
 
 /// Measures how far the league's replay has drifted from its era and sets the tuning that pulls it back; also
-/// `MixedEras`, `TeamPassing`, `WinShare`. From PrepareGame. Samples `league.player`, or the league's file when
-/// the players are not in memory.
+/// `MixedEras`, `TeamPassing`, `WinShare`. From PrepareGame. Samples `league.player`, or the league's file
+/// when the players are not in memory.
 void CalibrateLeague();
 
 }  // namespace tipline
