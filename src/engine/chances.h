@@ -10,13 +10,17 @@ double DrawHotHand();
 
 /// The era's means over the two fives: `EraFGA` to `EraPF` of both sides.
 void EraMeans();
-/// How far a man has been used beyond his real season, 0 to 3. 0 with the rule off or in an exhibition.
+/// How far a man has been used beyond his real season, 0 to 3. 0 with the rule off or in an exhibition. An
+/// analysis outside a game gets the level that his last game left.
 int UsageLevel(int side, int slot);
 
-/// What the defense is worth against this shot.
+/// What the defense is worth against this shot: `TeamDefense` to `DefenseUse` of `game.play`. After
+/// LineupValues.
 void DefenseRatings();
+/// The ball handler's chances; they need the means of the eras, the sums of the line-ups, the usage levels of
+/// the play and the defense's ratings.
 void TwoChance();       ///< sets `TwoPointChance`; never below 0, above 1000 always goes in
-void ThreeChance();     ///< sets `ThreePointChance`
+void ThreeChance();     ///< sets `ThreePointChance`, likewise
 int FreeThrowChance();  ///< of the ball handler
 
 /// Which row the era setting of the rules ties the chances to: 1955 .. 2005, or 1995 for the average

@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include "engine/chances.h"
+#include "support/neutral_game.h"
+
+namespace tipline {
+
+TEST(EraMeans, SkipEmptyPositionsAndReadCollegeRows) {
+  SetUpNeutralGame();
+  league.EraCollege[2000].TO = 18, league.EraPro[1990].PF = 20;
+  game.player[2][3].PlayerType = "C", game.player[2][4].Year = 1990;
+  O().Lineup[5] = 0;
+  EraMeans();
+  EXPECT_NEAR(O().EraTO, 15.75, 1e-6);
+  EXPECT_NEAR(O().EraPF, 23.1875, 1e-6);
+  EXPECT_NEAR(O().Era2Pct, 0.5, 1e-6);
+  EXPECT_NEAR(D().Era3Pct, 5.35 / 16.1, 1e-6);
+  EXPECT_NEAR(D().EraFTPct, 0.75, 1e-6);
+}
+
+class DefenseWorth : public testing::Test {
+ protected:
+  void SetUp() override {
+    SetUpNeutralGame();
+    const int picks[] = {1, 2, 3, 1, 1}, coverage[] = {3, 1, 5, 3, 4};
+    for (int p = 1; p <= 5; ++p) {
+      OMan(p).ShotPick = picks[p - 1];
+      OMan(p).CoverageInside = OMan(p).CoverageOutside = OMan(p).CoverageThree = coverage[p - 1];
+    }
+    D().LineupDefense = 24;
+  }
+  void TeamIs(double worth) {
+    DefenseRatings();
+    EXPECT_NEAR(game.play.TeamDefense, worth, 1e-4);
+  }
+};
+
+TEST_F(DefenseWorth, SixTermsAroundAnInsideShot) {
+  game.PlayKind = "INSIDE";
+  DefenseRatings();
+  const int rating[] = {5, 4, 9, 7, 9, 7}, use[] = {1, 11, 1, 1, 1, 6};
+  const double norm[] = {5.3, 2.7, 15.2, 8.8, 4.9, 5.5};
+  for (int j = 1; j <= 6; ++j) {
+    EXPECT_EQ(game.play.DefenseRating[j], rating[j - 1]) << j;
+    EXPECT_EQ(game.play.DefenseUse[j], use[j - 1]) << j;
+    EXPECT_NEAR(game.play.DefenseNorm[j], norm[j - 1], 1e-9) << j;
+  }
+}
+
+TEST_F(DefenseWorth, OfTheFive) {
+  game.PlayKind = "OUTSIDE";
+  TeamIs(22.35024);  // five times 4 + 0.470048
+  EXPECT_NEAR(game.play.DefenseFactor, 23.1 / 22.35024, 1e-6);
+  D().DefenseType = 1;
+  TeamIs((2 * 24 + 22.35024) / 3);
+  D().DefenseType = 0;
+  game.player[2][1].RealInsidePct = 20;  // counts 0.92 of 5.32, and 0.644558 of the outside rating
+  Defender().RateDefOutside = 10, Defender().RateDefInside = 0;
+  TeamIs(24.0584);
+  D().Matchup = {{2, 1, 3, 4, 5}};  // the other way round: 4.470048 x 0.92 and 4.70048 x 1.1
+  D().Lineup = {{1, 2, 3, 4, 5}};
+  TeamIs((4.644558 * 0.92 + 4.70048 * 1.1 + 3 * 4.470048 * 1.1) / 5.32 * 5);
+  game.PlayKind = "FASTBREAK";
+  TeamIs(22.8);
+}
+
+TEST_F(DefenseWorth, NobodyThere) {
+  game = {};
+  TeamIs(0);
+  EXPECT_EQ(game.play.DefenseFactor, 1.0);
+}
+
+TEST(ShotMix, SharesOfTheKindsOfTwo) {
+  SetUpNeutralGame();
+  Shooter().RateOffDrive = 5, Real().Off = 100;
+  game.player[2][2].Stats[1].F3A = 1100;  // more threes than shots: nothing known
+  game.player[2][3].Stats[1].Off = 32000;
+  LoadedAt(2, 2).ShareDrive = 0.4;
+  ShotMix(2);
+  const LoadedMan& man = LoadedAt(2, 1);
+  EXPECT_NEAR(man.SharePutback, 0.0580378, 1e-6);  // 0.85 x 0.46767 x 0.1 x 1.46
+  EXPECT_NEAR(man.ShareBreak, 0.1452863, 1e-6);    // 0.1713754 x 0.9419622 x 0.9
+  EXPECT_NEAR(man.ShareInside / man.ShareOutside, 0.5700448 / 0.3946165, 1e-5);
+  EXPECT_NEAR(man.ShareDrive / man.ShareOutside, 0.1484237 / 0.3946165, 1e-5);
+  EXPECT_NEAR(man.SharePutback + man.ShareBreak + man.ShareInside + man.ShareOutside + man.ShareDrive, 1,
+              1e-12);
+  EXPECT_EQ(LoadedAt(2, 2).ShareDrive, 0);
+  EXPECT_EQ(LoadedAt(2, 3).SharePutback, 0.99);
+  EXPECT_NEAR(LoadedAt(2, 3).ShareBreak, 0.009, 1e-12);
+}
+
+TEST(HotHand, RareFormReplacesCommonForm) {
+  // clang-format off
+  const struct { const char* why; std::vector<double> draws; double form; } cases[] = {
+      {"none", {2, 2}, 0},
+      {"common", {1, 0.5, 0.2, 2}, 0.0105},
+      {"rare", {2, 1, 0.1, 0.9}, -0.044},
+      {"both", {1, 0.5, 0.2, 1, 0.9, 0.1}, 0.044},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    random.Script(c.draws);
+    EXPECT_NEAR(DrawHotHand(), c.form, 1e-12) << c.why;
+    EXPECT_EQ(random.ScriptLeft(), 0u) << c.why;
+  }
+}
+
+TEST(UsageLevel, BeyondTheRealSeason) {
+  // clang-format off
+  const struct { const char* why; i16 games, minutes; void (*change)(); int level; } cases[] = {
+      {"as in real life", 49, 990, [] {}, 0},
+      {"eleven tenths are not yet over", 54, 1000, [] {}, 0},
+      {"games above 110", 55, 1000, [] {}, 1},
+      {"games above 130", 65, 1000, [] {}, 3},
+      {"minutes above 120", 40, 1201, [] {}, 2},
+      {"this game's minutes count", 40, 1195, [] { OMan().PlayerGameTime = 3600; }, 2},
+      {"fewer minutes do not lower it", 65, 1101, [] {}, 3},
+      {"many real games", 90, 1400, [] { Real().G = 75, Real().Min = 1400; }, 0},
+      {"many real minutes", 40, 4000, [] { Real().Min = 3000; }, 0},
+      {"15 minutes a game", 70, 1050, [] {}, 0},
+      {"a little more", 70, 1051, [] {}, 3},
+      {"no real season", 70, 2000, [] { Real() = {}; }, 0},
+      {"playoff module: a tenth, not above", 5, 90, [] { Rules().IsPlayoffModule = 1, Real().G = 60; }, 0},
+      {"playoff module: above a tenth", 5, 90, [] { Rules().IsPlayoffModule = 1; }, 1},
+      {"rule off", 65, 2000, [] { Rules().SeasonUsagePenaltiesCheck = 0; }, 0},
+      {"exhibition", 65, 2000, [] { program.GameKind = "E"; }, 0},
+      {"analysis outside a game", 65, 2000, [] { game.AnalysisMode = true, OMan().UsageLevel = 1; }, 1},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    SetUpNeutralGame();
+    RulesRecord& rules = Rules();
+    rules.SeasonUsagePenaltiesCheck = 1, rules.SeasonUsageGamesExemptionList = 75;
+    rules.SeasonUsageMinutesExemptionList = 30, rules.MinutesPerGameExemptionList = 15;
+    for (u8 k = 1; k <= 3; ++k) {
+      rules.SeasonUsageGamesList[k] = rules.SeasonUsageMinutesList[k] = static_cast<u8>(10 * k);
+    }
+    Real().G = 50, Real().Min = 1000;
+    Replay().G = c.games, Replay().Min = c.minutes;
+    c.change();
+    EXPECT_EQ(UsageLevel(2, 1), c.level) << c.why;
+  }
+}
+
+TEST(Conferences, StrengthBySeason) {
+  SetUpNeutralGame();
+  EXPECT_EQ(ConferenceStrength(1949), 0.5);
+  EXPECT_EQ(ConferenceStrength(1950), 0.482);
+  EXPECT_EQ(ConferenceStrength(2018), 0.389);
+  EXPECT_EQ(ConferenceStrength(2019), 0.5);
+  league.Conference[7] = 2;
+  EXPECT_NEAR(ConferenceShare(7, 1997), 0.421, 1e-12);
+  EXPECT_EQ(ConferenceShare(8, 1997), 0.5);
+  EXPECT_EQ(ConferenceShare(999, 1997), 0.5);
+}
+
+}  // namespace tipline
