@@ -3,6 +3,8 @@
 
 namespace tipline {
 
+/// Can still play in this game: on the team, under the foul limit, neither out, hurt nor shaken up.
+bool CanPlay(int side, int slot);
 /// Energy of one man from his load and rest. For every man of the team who is not out, after each play.
 void UpdateEnergy(int side, int slot);
 /// Fifteen seconds of rest for everybody, whoever called the timeout.
@@ -12,7 +14,8 @@ void LineupCheck();
 /// The men who are out for good leave the floor; with five eligible men, or one man twice, the line-up is
 /// filled again.
 void EmptyFouledOut();
-/// `PlayLength` and `RestLength` of every man of a side, at team load.
+/// `PlayLength` and `RestLength` of every man of a side, at team load. Reads the rules, `game.player` and
+/// `program.PlayoffGame`, writes `game.loaded`.
 void SetStints(int side);
 
 }  // namespace tipline

@@ -1,0 +1,80 @@
+#include "coach/sub_screens.h"
+
+#include <string>
+#include <utility>
+
+#include "coach/substitutions.h"
+#include "engine/fatigue.h"
+#include "platform/dialogs.h"
+
+namespace tipline {
+namespace {
+
+std::string NameOf(int side, int slot) {
+  const PlayerRecord& p = PlayerAt(side, slot);
+  return std::string(Trimmed(p.FirstName.Str() + " " + p.LastName.Str()));
+}
+
+bool Refuse(const std::string& message) {
+  platform::dialogs().Tell(message);
+  return false;
+}
+
+int PlaceOf(const Table<int, 1, kPositions>& lineup, int slot) {
+  for (int p = 1; p <= kPositions; ++p) {
+    if (lineup[p] == slot) return p;
+  }
+  return 0;
+}
+
+/// Tells when the man at the line is not among the five.
+bool ShooterMissing(int side, const Table<int, 1, kPositions>& lineup) {
+  if (!IsFreeThrow(game.GameState) || side != game.OffenseSide || game.BallPlayer == 0) return false;
+  if (PlaceOf(lineup, game.BallPlayer) != 0) return false;
+  return !Refuse(NameOf(side, game.BallPlayer) + " is at the line..he must be in the game!");
+}
+
+}  // namespace
+
+bool HCQUICKSUB::PutIn(int position, int slot) {
+  if (slot < 1 || slot > kRosterSlots || !CanPlay(side, slot)) return Refuse("You must select a player!");
+  if (const int place = PlaceOf(lineup, slot)) {
+    std::swap(lineup[place], lineup[position]);
+    return true;
+  }
+  const Side& s = game.side[side];
+  if (s.AutoSubWhenTired == 1 && ManAt(side, slot).Energy < 80) {
+    return Refuse(NameOf(side, slot) +
+                  " is tired!. Uncheck 'Auto Sub When Tired' to allow for tired players to be entered.");
+  }
+  if (s.AutoSubWhenFoulTrouble == 1 && PlayerAt(side, slot).Stats[3].Pf >= FoulTroubleLimit()) {
+    return Refuse(
+        NameOf(side, slot) +
+        " is in foul trouble!. Uncheck 'Auto Sub When In Foul Trouble' to allow for players in foul "
+        "trouble to be entered.");
+  }
+  lineup[position] = slot;
+  return true;
+}
+
+bool HCQUICKSUB::Ok() {
+  if (PlaceOf(lineup, 0) != 0) return Refuse("You must fill all 5 lineup spots!");
+  if (ShooterMissing(side, lineup)) return false;
+  game.side[side].Lineup = lineup;
+  return true;
+}
+
+bool HCquickOnePlayerSub::Choose(int slot) {
+  if (slot >= 1 && slot <= kRosterSlots && CanPlay(side, slot)) {
+    const PlayerRecord& p = PlayerAt(side, slot);
+    const bool fits =
+        p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;
+    if (!fits && !platform::dialogs().Ask("Use " + NameOf(side, slot) + " out of position?")) return false;
+  }
+  HCQUICKSUB panel(side);
+  if (!panel.PutIn(position, slot) || ShooterMissing(side, panel.lineup)) return false;
+  game.side[side].Lineup = panel.lineup;
+  return true;
+}
+
+}  // namespace tipline

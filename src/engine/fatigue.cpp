@@ -1,0 +1,128 @@
+#include "engine/fatigue.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+#include "coach/substitutions.h"
+#include "engine/game_state.h"
+#include "league/program.h"
+
+namespace tipline {
+namespace {
+
+int EnergyFromLoad(int load, int length) {
+  const double first = 0.1 * length;  // the start of a stint costs nothing
+  if (load >= length + 30) return Clamp(Round(80 - (load - length + 30) / 60.0), 0, 79);
+  if (load < first) return 100;
+  return Clamp(Round(100 - (load - first) * 20 / (length + 30 - first)), 80, 99);
+}
+
+bool FouledOut(int side, int slot) {
+  return league.rules.DqList > 0 && PlayerAt(side, slot).Stats[3].Pf >= league.rules.DqList;
+}
+
+/// A man on the floor gives a reason to look at the line-ups.
+bool NeedsLook(int side, int position) {
+  const int slot = game.side[side].Lineup[position];
+  if (slot == 0) return true;
+  const Man& man = ManAt(side, slot);
+  return man.Energy <= 99 || PlayerAt(side, slot).DepthRank[position] < 6 ||
+         man.PlayerGameTime > LoadedAt(side, slot).PlayLength || FouledOut(side, slot);
+}
+
+bool FoulerInTrouble() {
+  const Play& play = game.play;
+  if (play.Fouler == 0 || play.FoulingSide == 0) return false;
+  return PlayerAt(play.FoulingSide, play.Fouler).Stats[3].Pf > game.Period;
+}
+
+bool FloorNeedsLook() {
+  int longOut = 0;  // men near or past their stint
+  for (int side = 1; side <= 2; ++side) {
+    for (int position = 1; position <= kPositions; ++position) {
+      if (NeedsLook(side, position)) return true;
+      const int slot = game.side[side].Lineup[position];
+      if (ManAt(side, slot).PlayerGameTime + 450 > LoadedAt(side, slot).PlayLength) ++longOut;
+    }
+  }
+  return longOut > Rnd(3);
+}
+
+int EligibleMen(int side) {
+  int count = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) count += CanPlay(side, slot) ? 1 : 0;
+  return count;
+}
+
+bool SomebodyStandsTwice(const Side& side) {
+  for (int a = 1; a < kPositions; ++a) {
+    for (int b = a + 1; b <= kPositions; ++b) {
+      if (side.Lineup[a] != 0 && side.Lineup[a] == side.Lineup[b]) return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool CanPlay(int side, int slot) {
+  if (!OnTeam(side, slot) || LoadedAt(side, slot).PlayerOut != 0) return false;
+  const Man& man = ManAt(side, slot);
+  return man.GameInjury <= 0 && man.TemporaryInjury <= 0 && !FouledOut(side, slot);
+}
+
+void UpdateEnergy(int side, int slot) {
+  Man& man = ManAt(side, slot);
+  const LoadedMan& loaded = LoadedAt(side, slot);
+  man.Energy = EnergyFromLoad(man.FatigueLoad, loaded.PlayLength);
+  if (PositionOf(side, slot) == 0) {
+    if (man.RestTime >= loaded.RestLength) {
+      man.Energy = 100;
+      man.FatigueLoad = 0;
+      man.RestTime = 0;
+    } else if (man.RestTime >= loaded.RestLength - 900) {
+      man.FatigueLoad -= 300;  // at every look: the end of a rest brings him back fast
+    }
+  }
+  man.FatigueLoad = std::max(man.FatigueLoad, 0);
+  man.RestTime = std::min(man.RestTime, 4800);
+}
+
+void TimeoutRest() {
+  for (int side = 1; side <= 2; ++side) {
+    for (int slot = 1; slot <= kRosterSlots; ++slot) {
+      if (!OnTeam(side, slot) || LoadedAt(side, slot).PlayerOut != 0) continue;
+      Man& man = ManAt(side, slot);
+      if (PositionOf(side, slot) != 0) {
+        man.FatigueLoad -= 150;
+      } else {
+        man.RestTime += 150;
+      }
+      UpdateEnergy(side, slot);
+    }
+  }
+}
+
+void LineupCheck() {
+  const bool look = (LastPeriod() && game.GameClock < 3600) || FoulerInTrouble() ||
+                    game.side[1].ForcedRotation == 1 || game.side[2].ForcedRotation == 1 ||
+                    game.CrunchTime == 1 || FloorNeedsLook();
+  if (look) LoadLineups();
+}
+
+void EmptyFouledOut() {
+  bool refill = false;
+  for (int side = 1; side <= 2; ++side) {
+    Side& s = game.side[side];
+    bool hole = false;
+    for (int position = 1; position <= kPositions; ++position) {
+      const int slot = s.Lineup[position];
+      if (slot != 0 && (FouledOut(side, slot) || LoadedAt(side, slot).PlayerOut != 0)) s.Lineup[position] = 0;
+      if (s.Lineup[position] == 0) hole = true;
+    }
+    refill = refill || SomebodyStandsTwice(s) || (hole && EligibleMen(side) >= kPositions);
+  }
+  if (refill) LoadLineups();
+}
+
+}  // namespace tipline
