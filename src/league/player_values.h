@@ -5,7 +5,14 @@
 namespace tipline {
 
 /// Defence of a man at position 1 to 5, 0.0 to 10.0: outside and inside defence weighted by position, less
-/// out of place.
+/// out of place. Any other position: 0.
 double PositionDefense(const PlayerRecord& player, int position);
+
+/// His worth all told, 0.0 to 10.0: his real line brought to the level of the season 2000, with defence,
+/// passing and rebounding. Reads his real line, his ratings and the era tables.
+double PlayerOverall(const PlayerRecord& player);
+
+/// Sets `Salary`, in thousands and at least 300, from the same value and his minutes.
+void DefaultSALARY(PlayerRecord& player, bool collegeTeam);
 
 }  // namespace tipline

@@ -1,0 +1,24 @@
+#pragma once
+// The season that the men of a made-up league are said to have played: their drawn lines brought together so
+// that teams and league add up.
+#include <vector>
+
+#include "frontoffice/league_kinds.h"
+#include "league/roster.h"
+
+namespace tipline {
+
+/// Brings the drawn real lines of all rosters together. Needs lines, positions and defensive ratings; writes
+/// `Stats[1]` of the men and `RealTotals` of the teams. Reads the era tables; draws.
+///
+/// 1. Minutes: a team's men together play its season, overtime counted in. A man of many minutes keeps them,
+///    the bench gives way; all counts go with the minutes.
+/// 2. Figures: every count of the league as a whole comes to the season's average of its era, shooting and
+///    free throws too, so that each made-up season looks like its year.
+/// 3. Starts: at each position the man with most minutes starts whenever he plays, the next one fills in.
+/// 4. Totals: a team's own are the sums of its men. Its opponents are the league's mean side at the team's
+///    pace, shooting worse against good defenders and losing more balls to thieves; every opponents' figure
+///    of the league adds up to the teams' own.
+void SettleSeasonLines(std::vector<Roster>& teams, GameLevel level, int year);
+
+}  // namespace tipline
