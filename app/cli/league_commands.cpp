@@ -5,7 +5,7 @@
 #include "cli/columns.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
-#include "frontoffice/ratings.h"
+#include "frontoffice/rating_run.h"
 #include "league/dump.h"
 #include "league/files.h"
 #include "league/program.h"
@@ -206,6 +206,18 @@ int Dump(const std::string& file, int record, const Common& common) {
                   "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES and Basketball-Era.dat");
   }
   return 0;
+}
+
+int RateTeams(const std::string& text, bool all, const Common& common) {
+  if (!OpenTheLeague(common)) return 1;
+  const hcratings screen;
+  if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : Refuse("nothing was changed");
+  const int teamNo = FindTeam(text);
+  if (teamNo == 0) return 1;
+  Roster roster;
+  if (!ReadRoster(teamNo, roster)) return Refuse("the team can't be read: " + TeamsFile().string());
+  if (!screen.DEFAULTRATINGS(roster)) return Refuse("nothing was changed");
+  return WriteRoster(roster) ? 0 : 1;
 }
 
 }  // namespace tipline::cli

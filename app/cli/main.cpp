@@ -109,16 +109,19 @@ int main(int argc, char** argv) {
     return app.exit(error) == 0 ? 0 : kWrongUsage;
   }
   if (app.count("--seed") > 0) a.common.Seed = a.seed;
-  random.Seed(a.common.Seed
-                  ? *a.common.Seed
-                  : static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
+  tipline::random.Seed(a.common.Seed ? *a.common.Seed
+                                     : static_cast<std::uint64_t>(
+                                           std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
   terminal.AssumeYes = a.yes;
   program.Home = platform::DataHome(a.home);
   program.ProgramFolder = program.Home / "program";
+  std::error_code error;
+  std::filesystem::create_directories(program.ProgramFolder, error);
+  if (error) return cli::Refuse("the data home can't be written: " + program.Home.string());
   try {
     return RunCommand(app, a);
-  } catch (const std::exception& error) {
-    return cli::Refuse(error.what());
+  } catch (const std::exception& failure) {
+    return cli::Refuse(failure.what());
   }
 }

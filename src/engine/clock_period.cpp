@@ -240,7 +240,6 @@ void EndPlay() {
 }
 
 void EndPeriodNotice() {
-  game.play.BreakStolenMark = 0;
   for (Side& side : game.side) ClearOrders(side);
   if (game.PlayKind != "ENDPERIOD" && FreeThrowsRemain()) return;
   int& done = game.PeriodNoticeDone[std::min(game.Period, game.PeriodNoticeDone.kLast)];

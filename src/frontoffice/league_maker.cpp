@@ -12,7 +12,7 @@
 #include "frontoffice/season_lines.h"
 #include "frontoffice/team_identity.h"
 #include "league/player_values.h"
-#include "league/program.h"
+#include "league/recent.h"
 
 namespace tipline {
 namespace {
@@ -319,8 +319,6 @@ bool WriteFolder(const std::filesystem::path& folder, const MadeLeague& made) {
 }
 
 }  // namespace
-
-std::filesystem::path LeaguesFolder() { return program.Home / "orvex-data" / "Basketball" / "seasons"; }
 
 bool DrawLeague(const LeagueRequest& request, MadeLeague& made, std::string& message) {
   const Random before = random;

@@ -9,9 +9,6 @@
 
 namespace tipline {
 
-/// The seasons root of the data home: one folder per league.
-std::filesystem::path LeaguesFolder();
-
 struct LeagueRequest {
   std::string Name;
   std::string Preset = "pro";  ///< "pro", "college", "women", "historic"
