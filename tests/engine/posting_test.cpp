@@ -30,8 +30,11 @@ TEST(Points, OvertimeIsTheFifthColumnOfTheMan) {
   const struct {
     const char* why;
     int periods, period, column;
-  } cases[] = {{"third of four", 4, 3, 3}, {"overtime of four", 4, 5, 5}, {"second half", 2, 2, 2},
-               {"overtime of halves", 2, 3, 5}, {"third overtime", 4, 7, 5}};
+  } cases[] = {{"third of four", 4, 3, 3},
+               {"overtime of four", 4, 5, 5},
+               {"second half", 2, 2, 2},
+               {"overtime of halves", 2, 3, 5},
+               {"third overtime", 4, 7, 5}};
   for (const auto& c : cases) {
     SetUpNeutralGame();
     Rules().PeriodList = static_cast<u8>(c.periods);
@@ -46,8 +49,8 @@ TEST(Points, RunsTiesAndLeadChanges) {
   SetUpNeutralGame();
   const struct {
     int side, points, runTeam, runPoints, ties, changes;
-  } steps[] = {{2, 2, 2, 2, 0, 0}, {1, 2, 1, 2, 1, 0}, {1, 3, 1, 5, 1, 1}, {2, 3, 2, 3, 2, 1}, {1, 1, 1, 1, 2, 1},
-               {2, 2, 2, 2, 2, 2}};
+  } steps[] = {{2, 2, 2, 2, 0, 0}, {1, 2, 1, 2, 1, 0}, {1, 3, 1, 5, 1, 1},
+               {2, 3, 2, 3, 2, 1}, {1, 1, 1, 1, 2, 1}, {2, 2, 2, 2, 2, 2}};
   for (const auto& s : steps) {
     PostPoints(s.side, 1, s.points, 'O');
     EXPECT_EQ(game.RunTeam, s.runTeam);
@@ -115,12 +118,10 @@ TEST(Penalty, LadderOfFreeThrows) {
     int fouls, period;
     bool prePenalty;
     const char* trip;
-  } cases[] = {{"below the first step", 4, 1, false, ""},
-               {"below it, by the old rule", 4, 1, true, "SHOOT1"},
-               {"a step without shots", 5, 1, false, ""},
-               {"second step", 7, 1, false, "SHOOT1-1"},
-               {"last step", 10, 4, false, "SHOOT2"},
-               {"two more count in overtime", 5, 5, false, "SHOOT1-1"}};
+  } cases[] = {
+      {"below the first step", 4, 1, false, ""}, {"below it, by the old rule", 4, 1, true, "SHOOT1"},
+      {"a step without shots", 5, 1, false, ""}, {"second step", 7, 1, false, "SHOOT1-1"},
+      {"last step", 10, 4, false, "SHOOT2"},     {"two more count in overtime", 5, 5, false, "SHOOT1-1"}};
   for (const auto& c : cases) {
     SetUpNeutralGame();
     Rules().FoulLimit = {{5, 7, 10}};

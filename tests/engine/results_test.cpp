@@ -63,7 +63,11 @@ TEST(Results, ABasketLateInAHalfGivesTheDefenseAStop) {
   const struct {
     int period, clock;
     const char* state;
-  } cases[] = {{2, 1249, "DEFENSE"}, {2, 1250, "OFFENSE"}, {1, 900, "OFFENSE"}, {4, 900, "DEFENSE"}, {5, 900, "OFFENSE"}};
+  } cases[] = {{2, 1249, "DEFENSE"},
+               {2, 1250, "OFFENSE"},
+               {1, 900, "OFFENSE"},
+               {4, 900, "DEFENSE"},
+               {5, 900, "OFFENSE"}};
   for (const auto& c : cases) {
     SetUpResult("INSIDE", "OFFENSE", "G");
     game.Period = c.period;
@@ -79,11 +83,16 @@ TEST(FreeThrows, TheTripStepByStep) {
     const char *kind, *result, *next, *state;
     int offense;
   } cases[] = {
-      {"SHOOT3", "FTM", "SHOOT2", "FREETHROW-WAIT", 2},     {"SHOOT3", "FTG", "SHOOT2", "FREETHROW-WAIT", 2},
-      {"SHOOT3-2", "FTM", "SHOOT2-2", "FREETHROW-WAIT", 2}, {"SHOOT3-2", "FTG", "SHOOT2-1", "FREETHROW-WAIT", 2},
-      {"SHOOT2", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},     {"SHOOT2", "FTG", "SHOOT1", "FREETHROW-SHOOT", 2},
-      {"SHOOT2-2", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},   {"SHOOT2-1", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},
-      {"SHOOT2-1", "FTG", "", "DEFENSE", 1},                {"SHOOT1-1", "FTG", "SHOOT1", "FREETHROW-WAIT", 2},
+      {"SHOOT3", "FTM", "SHOOT2", "FREETHROW-WAIT", 2},
+      {"SHOOT3", "FTG", "SHOOT2", "FREETHROW-WAIT", 2},
+      {"SHOOT3-2", "FTM", "SHOOT2-2", "FREETHROW-WAIT", 2},
+      {"SHOOT3-2", "FTG", "SHOOT2-1", "FREETHROW-WAIT", 2},
+      {"SHOOT2", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},
+      {"SHOOT2", "FTG", "SHOOT1", "FREETHROW-SHOOT", 2},
+      {"SHOOT2-2", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},
+      {"SHOOT2-1", "FTM", "SHOOT1", "FREETHROW-WAIT", 2},
+      {"SHOOT2-1", "FTG", "", "DEFENSE", 1},
+      {"SHOOT1-1", "FTG", "SHOOT1", "FREETHROW-WAIT", 2},
       {"SHOOT1", "FTG", "", "DEFENSE", 1},
   };
   for (const auto& c : cases) {
@@ -102,8 +111,10 @@ TEST(FreeThrows, TheBonusShotsNeedThePenalty) {
     const char *why, *result;
     int fouls, period;
     const char* trip;
-  } cases[] = {{"fourth foul", "MF", 3, 1, "SHOOT2"},      {"fifth foul", "MF", 4, 1, "SHOOT3-2"},
-               {"fifth by overtime", "MF", 2, 5, "SHOOT3-2"}, {"basket, fourth foul", "GF", 3, 1, "SHOOT1"},
+  } cases[] = {{"fourth foul", "MF", 3, 1, "SHOOT2"},
+               {"fifth foul", "MF", 4, 1, "SHOOT3-2"},
+               {"fifth by overtime", "MF", 2, 5, "SHOOT3-2"},
+               {"basket, fourth foul", "GF", 3, 1, "SHOOT1"},
                {"basket, fifth foul", "GF", 4, 1, "SHOOT2-1"}};
   for (const auto& c : cases) {
     SetUpResult("INSIDE", "OFFENSE", c.result);
@@ -124,9 +135,7 @@ TEST(FreeThrows, AMissWithNoTimeLeftEndsThePeriod) {
 }
 
 TEST(Arrow, GivesTheBallAndTurns) {
-  const struct {
-    int arrow, offense, turnovers;
-  } cases[] = {{1, 1, 1}, {2, 2, 0}};
+  const struct { int arrow, offense, turnovers; } cases[] = {{1, 1, 1}, {2, 2, 0}};
   for (const auto& c : cases) {
     SetUpResult("INSIDE", "OFFENSE", "JUMPBALL");
     Rules().JumpBallList = 1;
