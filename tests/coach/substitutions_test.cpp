@@ -29,6 +29,7 @@ TEST(LoadLineups, TakesOffWhoHasToGo) {
     game.GameClock = clock;
     game.side[1].Score = margin;
   };
+  // clang-format off
   const struct {
     const char* why;
     Change change;
@@ -67,24 +68,19 @@ TEST(LoadLineups, TakesOffWhoHasToGo) {
       {"two fouls in the second", [] { game.Period = 2, PlayerAt(1, 2).Stats[3].Pf = 2; }, true},
       {"five in the last, too early", [&] { lastPeriod(3601, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, false},
       {"five in the last, for the end", [&] { lastPeriod(3600, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, true},
-      {"half time is far",
+      {"four in the second half, too early",
        [] { league.rules.PeriodList = 2, game.Period = 2, PlayerAt(1, 2).Stats[3].Pf = 4; }, false},
       {"foul trouble, check off",
        [] { game.side[1].AutoSubWhenFoulTrouble = 0, PlayerAt(1, 2).Stats[3].Pf = 2; }, true},
       {"a man who never sits",
-       [] {
-         PlayerAt(1, 2).Stats[3].Pf = 2, PlayerAt(1, 2).Stats[1].G = 10, PlayerAt(1, 2).Stats[1].Min = 480;
-       },
-       true},
+       [] { PlayerAt(1, 2).Stats[3].Pf = 2, PlayerAt(1, 2).Stats[1].G = 10,
+       PlayerAt(1, 2).Stats[1].Min = 480; }, true},
       {"out of position",
-       [] {
-         PlayerAt(1, 2).PrimaryPosition = 5, PlayerAt(1, 2).DepthRank = {},
-                     PlayerAt(1, 2).PositionAllowed = {};
-       },
-       false},
+       [] { PlayerAt(1, 2).PrimaryPosition = 5, PlayerAt(1, 2).DepthRank = {},
+       PlayerAt(1, 2).PositionAllowed = {}; }, false},
       {"fouled out", [] { PlayerAt(1, 2).Stats[3].Pf = 6; }, false},
       {"hurt", [] { ManAt(1, 2).GameInjury = 1; }, false},
-      {"the second of a trip of three", [] { game.PlayKind = "SHOOT3", ManAt(1, 2).Energy = 10; }, true},
+      {"in a trip of three", [] { game.PlayKind = "SHOOT3", ManAt(1, 2).Energy = 10; }, true},
       {"the last of a trip, on defense",
        [] { game.PlayKind = "SHOOT1", game.GameState = "FREETHROW-WAIT", ManAt(1, 2).Energy = 10; }, false},
       {"the period dies with this play", [] { game.PlayTime = 5000, ManAt(1, 2).Energy = 10; }, true},
@@ -92,6 +88,7 @@ TEST(LoadLineups, TakesOffWhoHasToGo) {
        [] { game.side[1].UseRotationGrid = 1, PlayerAt(1, 7).RotationGrid[1][4] = 2; }, false},
       {"nobody made a grid", [] { game.side[1].UseRotationGrid = 1; }, true},
   };
+  // clang-format on
   for (const auto& c : cases) {
     Watched();
     c.change();

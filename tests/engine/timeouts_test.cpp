@@ -17,20 +17,18 @@ void BothWish() {
 }
 
 TEST(TakeTimeouts, HonoursWishesAfterTheirResults) {
+  // clang-format off
   const struct {
     const char* why;
     PlayResult result;
     int scorersLeft, winnersLeft;
   } cases[] = {
-      {"the scorer comes first", "G", 2, 3},
-      {"after a three too", "G3", 2, 3},
-      {"a miss: who won the ball", "M", 3, 2},
-      {"a rebound", "DEFREB", 3, 2},
-      {"a steal", "ST", 3, 2},
-      {"out of bounds", "OB", 3, 3},
-      {"with free throws to come", "GF", 3, 3},
+      {"the scorer comes first", "G", 2, 3}, {"after a three too", "G3", 2, 3},
+      {"a miss: who won the ball", "M", 3, 2}, {"a rebound", "DEFREB", 3, 2}, {"a steal", "ST", 3, 2},
+      {"out of bounds", "OB", 3, 3}, {"with free throws to come", "GF", 3, 3},
       {"nothing has happened", "", 3, 3},
   };
+  // clang-format on
   for (const auto& c : cases) {
     BothWish();
     game.PlayResult = c.result;
@@ -84,33 +82,29 @@ TEST(AdvanceBallOnTimeout, OnlyLateInAHalf) {
 }
 
 TEST(TakeTimeouts, CallsMediaTimeouts) {
+  // clang-format off
   const struct {
     const char* why;
     int periods, clock;
     Change change;
     int side;  // 0 none is due
   } cases[] = {
-      {"quarter: the visitors' band", 4, 1800, [] {}, 1},
-      {"its end", 4, 1200, [] {}, 1},
-      {"after it", 4, 1199, [] {}, 0},
-      {"the home side's band", 4, 1801, [] {}, 2},
-      {"its start", 4, 3600, [] {}, 2},
-      {"before it", 4, 3601, [] {}, 0},
+      {"quarter: the visitors' band", 4, 1800, [] {}, 1}, {"its end", 4, 1200, [] {}, 1},
+      {"after it", 4, 1199, [] {}, 0}, {"the home side's band", 4, 1801, [] {}, 2},
+      {"its start", 4, 3600, [] {}, 2}, {"before it", 4, 3601, [] {}, 0},
       {"they have taken one", 4, 1800, [] { game.side[1].TimeoutsByPeriod[1] = 1; }, 0},
       {"they have none", 4, 1800, [] { game.side[1].TimeoutsLeft = 0; }, 0},
-      {"half: under four minutes", 2, 2400, [] {}, 1},
-      {"under eight", 2, 2401, [] {}, 2},
-      {"under sixteen", 2, 9600, [] {}, 2},
-      {"too early", 2, 9601, [] {}, 0},
+      {"half: under four minutes", 2, 2400, [] {}, 1}, {"under eight", 2, 2401, [] {}, 2},
+      {"under sixteen", 2, 9600, [] {}, 2}, {"too early", 2, 9601, [] {}, 0},
       {"not charged, so none need be left", 2, 5000, [] { game.side[1].TimeoutsLeft = 0; }, 1},
       {"done in this half", 2, 5000, [] { game.MediaDone[12][1] = 1; }, 0},
       {"a live ball", 2, 5000, [] { game.PlayResult = "M"; }, 0},
       {"at the line", 2, 5000, [] { game.GameState = "FREETHROW-WAIT"; }, 0},
       {"the defense is asked", 2, 5000, [] { game.GameState = "DEFENSE"; }, 0},
-      {"overtime", 4, 1800, [] { game.Period = 5; }, 0},
-      {"three periods", 3, 1800, [] {}, 0},
+      {"overtime", 4, 1800, [] { game.Period = 5; }, 0}, {"three periods", 3, 1800, [] {}, 0},
       {"rule off", 4, 1800, [] { league.rules.AutomaticTimeoutsCheck = 0; }, 0},
   };
+  // clang-format on
   for (const auto& c : cases) {
     TwoTeams();
     league.rules.AutomaticTimeoutsCheck = 1;
