@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/resolution.h"
 #include "support/neutral_game.h"
