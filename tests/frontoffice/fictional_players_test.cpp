@@ -6,6 +6,7 @@
 #include "base/record_file.h"
 #include "frontoffice/league_maker.h"
 #include "league/files.h"
+#include "league/recent.h"
 #include "league/roster.h"
 #include "platform/dialogs.h"
 #include "support/eras.h"

@@ -10,6 +10,7 @@
 #include "frontoffice/rating_run.h"
 #include "frontoffice/team_identity.h"
 #include "league/files.h"
+#include "league/recent.h"
 #include "platform/dialogs.h"
 #include "support/eras.h"
 #include "support/temp_home.h"
