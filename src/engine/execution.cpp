@@ -317,10 +317,10 @@ void PostOffensiveFoul() {
   game.BallSlot = PositionOf(game.OffenseSide, victim);
 }
 
-/// Out of bounds: as often off the one side as off the other.
+/// Out of bounds: mostly off a hand of the defense; one time in four the other side gets it.
 void PostOutOfBounds() {
   game.GameState = "DEADBALL-DEFENSE";
-  if (Rnd(2) == 1) return;
+  if (Rnd(4) != 1) return;
   game.play.OutOfBoundsChange = 1;
   PostTurnover(game.OffenseSide, game.BallPlayer);
   SwapSides();

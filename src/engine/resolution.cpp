@@ -32,6 +32,7 @@ void ClearPlay() {
   game.play = {};
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
+  game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
   if (game.GameState != "OFFREB") game.PutbackClass = 0;
   const int passer = game.possession.LastPasserSlot;
   if (passer > 0) game.play.Assister = Offense().Lineup[passer];
