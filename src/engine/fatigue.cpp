@@ -1,4 +1,5 @@
 #include "engine/fatigue.h"
+#include "engine/eligible.h"
 
 #include <algorithm>
 
@@ -48,12 +49,6 @@ bool FloorNeedsLook() {
   return longOut > Rnd(3);
 }
 
-int EligibleMen(int side) {
-  int count = 0;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) count += CanPlay(side, slot) ? 1 : 0;
-  return count;
-}
-
 bool SomebodyStandsTwice(const Side& side) {
   for (int a = 1; a < kPositions; ++a) {
     for (int b = a + 1; b <= kPositions; ++b) {
@@ -100,12 +95,6 @@ double OnLine(const double (&at)[4], double minutes) {
 }
 
 }  // namespace
-
-bool CanPlay(int side, int slot) {
-  if (!OnTeam(side, slot) || LoadedAt(side, slot).PlayerOut != 0) return false;
-  const Man& man = ManAt(side, slot);
-  return man.GameInjury <= 0 && man.TemporaryInjury <= 0 && !FouledOut(side, slot);
-}
 
 void UpdateEnergy(int side, int slot) {
   Man& man = ManAt(side, slot);
@@ -156,7 +145,7 @@ void EmptyFouledOut() {
       if (slot != 0 && (FouledOut(side, slot) || LoadedAt(side, slot).PlayerOut != 0)) s.Lineup[position] = 0;
       if (s.Lineup[position] == 0) hole = true;
     }
-    refill = refill || SomebodyStandsTwice(s) || (hole && EligibleMen(side) >= kPositions);
+    refill = refill || SomebodyStandsTwice(s) || (hole && CountEligible(side) >= kPositions);
   }
   if (refill) LoadLineups();
 }

@@ -6,6 +6,7 @@
 #include "coach/substitutions.h"
 #include "engine/clock.h"
 #include "engine/commands.h"
+#include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/execution.h"
 #include "engine/fatigue.h"

@@ -5,6 +5,7 @@
 #include "coach/computer_coach.h"
 #include "engine/clock.h"
 #include "engine/commands.h"
+#include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"

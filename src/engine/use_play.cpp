@@ -1,6 +1,7 @@
 // A coach's call is carried out: who ends up with the ball, and with what shot.
 #include "coach/computer_coach.h"
 #include "engine/commands.h"
+#include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/resolution.h"
 #include "platform/dialogs.h"

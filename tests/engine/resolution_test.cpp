@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/resolution.h"
 #include "support/neutral_game.h"
@@ -35,9 +36,11 @@ void SetUpPlay(const char* kind, const char* state = "OFFENSE") {
 std::map<std::string, int> Results(const char* kind, void (*change)(), const char* state = "OFFENSE",
                                    int plays = 600) {
   std::map<std::string, int> seen;
+  SetUpPlay(kind, state);
+  change();
+  const Game start = game;
   for (int k = 1; k <= plays; ++k) {
-    SetUpPlay(kind, state);
-    change();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     FindResult();
     ++seen[std::string(game.PlayResult.Text())];
@@ -169,12 +172,14 @@ TEST(FreeThrow, TheLastShotIsMissedOnPurpose) {
                {"first period", -2, 40, 1, false}};
   for (const auto& c : cases) {
     int made = 0;
+    SetUpPlay("SHOOT1", "FREETHROW-SHOOT");
+    O().Score = 80 + c.lead;
+    D().Score = 80;
+    game.GameClock = c.clock;
+    game.Period = c.period;
+    const Game start = game;
     for (int k = 0; k < 200; ++k) {
-      SetUpPlay("SHOOT1", "FREETHROW-SHOOT");
-      O().Score = 80 + c.lead;
-      D().Score = 80;
-      game.GameClock = c.clock;
-      game.Period = c.period;
+      game = start;
       random.Seed(static_cast<std::uint64_t>(k));
       FindResult();
       made += Shooter().Stats[3].FTM;

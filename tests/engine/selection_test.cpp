@@ -30,9 +30,11 @@ struct Picks {
 };
 Picks Draw(void (*change)(), int times = 400) {
   Picks picks;
+  SetUpSet();
+  change();
+  const Game start = game;
   for (int k = 0; k < times; ++k) {
-    SetUpSet();
-    change();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     SetOpenStatus();
     for (int p = 1; p <= 5; ++p) ++picks.count[game.man[2][p].ShotPick];
@@ -57,8 +59,10 @@ TEST(OpenStatus, PicksFollowTheRealMix) {
 
 TEST(OpenStatus, TheWishForNoInsideMenHoldsHalfOfTheTime) {
   int none = 0;
+  SetUpSet();
+  const Game start = game;
   for (int k = 0; k < 600; ++k) {
-    SetUpSet();
+    game = start;
     O().InsideOffense = 0;
     random.Seed(static_cast<std::uint64_t>(k));
     SetOpenStatus();
@@ -86,8 +90,10 @@ TEST(OpenStatus, StandingOrders) {
 }
 
 TEST(OpenStatus, NoTwoMenOnOneSpot) {
+  SetUpSet();
+  const Game start = game;
   for (int k = 0; k < 300; ++k) {
-    SetUpSet();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     SetOpenStatus();
     std::set<int> spots;
@@ -115,10 +121,12 @@ TEST(OpenStatus, AQuickPassOnlyShiftsTheOrder) {
 
 int WithBall(int position, void (*change)(), int times = 1000) {
   int count = 0;
+  SetUpSet();
+  for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kInside;
+  change();
+  const Game start = game;
   for (int k = 0; k < times; ++k) {
-    SetUpSet();
-    for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kInside;
-    change();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     FindShooter();
     count += game.BallSlot == position ? 1 : 0;
@@ -155,8 +163,10 @@ TEST(Shooter, EndsEvenWithNobodyToChoose) {
 }
 
 TEST(FastBreak, NumbersAndPlaces) {
+  SetUpSet();
+  const Game start = game;
   for (int k = 0; k < 500; ++k) {
-    SetUpSet();
+    game = start;
     game.GameState = "FASTBREAK";
     game.PlayResult = k % 2 ? PlayResult("ST") : PlayResult("DEFREB");
     game.fastBreak.BreakStealer = k % 2 ? 3 : 0;

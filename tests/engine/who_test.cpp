@@ -31,9 +31,11 @@ struct Share {
 };
 Share Rebound(void (*change)(), int count = 2000) {
   Share share;
+  SetUpWho();
+  change();
+  const Game start = game;
   for (int k = 0; k < count; ++k) {
-    SetUpWho();
-    change();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k) + 17);
     FindRebounder();
     share.attack += game.play.ReboundSide == 2 ? 1 : 0;
@@ -65,9 +67,11 @@ TEST(Rebounder, AMissedFreeThrowIsRarelyTheShootersOrTheGuards) {
 TEST(Rebounder, BlocksGoOutAndStayWithTheOffense) {
   const Share share = Rebound([] { game.play.Blocked = true; });
   EXPECT_NEAR(share.dead, 2000 * 0.174 * 1.3, 80);
+  SetUpWho();
+  game.play.Blocked = true;
+  const Game start200 = game;
   for (int k = 0; k < 200; ++k) {
-    SetUpWho();
-    game.play.Blocked = true;
+    game = start200;
     random.Seed(static_cast<std::uint64_t>(k));
     FindRebounder();
     if (game.play.DeadBallRebound) {
@@ -92,11 +96,13 @@ TEST(Rebounder, TheBlockerWhoKeptItAliveDoesNotGetIt) {
     game.OffenseSide = 2;
   });
   int defenders = 0;
+  SetUpWho();
+  game.play.Blocked = true;
+  game.play.BlockKept = 1;
+  game.play.Blocker = 4;
+  const Game start500 = game;
   for (int k = 0; k < 500; ++k) {
-    SetUpWho();
-    game.play.Blocked = true;
-    game.play.BlockKept = 1;
-    game.play.Blocker = 4;
+    game = start500;
     random.Seed(static_cast<std::uint64_t>(k));
     FindRebounder();
     defenders += game.play.ReboundSide == 1 && game.play.Rebounder == 4 ? 1 : 0;
@@ -145,13 +151,15 @@ TEST(AfterTheRebound, OutOfBoundsIsADeadBall) {
 
 int Breaks(void (*change)(), void (*after)()) {
   int count = 0;
+  SetUpWho();
+  D().EligibleCount = O().EligibleCount = 10;
+  game.play.ReboundSide = 1;
+  game.play.Rebounder = game.play.Stealer = 3;
+  game.coach[1].Coverage1[0] = 2;
+  change();
+  const Game start = game;
   for (int k = 0; k < 1000; ++k) {
-    SetUpWho();
-    D().EligibleCount = O().EligibleCount = 10;
-    game.play.ReboundSide = 1;
-    game.play.Rebounder = game.play.Stealer = 3;
-    game.coach[1].Coverage1[0] = 2;
-    change();
+    game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     after();
     count += game.GameState == "FASTBREAK" ? 1 : 0;
@@ -182,9 +190,11 @@ TEST(FastBreaks, FollowPaceAndTheMoment) {
 TEST(Blocks, OldSeasonsAndOpenBreaks) {
   const auto blocks = [](void (*change)()) {
     int count = 0;
+    SetUpWho("INSIDE");
+    change();
+    const Game start = game;
     for (int k = 0; k < 2000; ++k) {
-      SetUpWho("INSIDE");
-      change();
+      game = start;
       random.Seed(static_cast<std::uint64_t>(k));
       game.PlayResult = "M";
       BlockTest();
@@ -201,18 +211,22 @@ TEST(Blocks, OldSeasonsAndOpenBreaks) {
 
 TEST(Foulers, TheManOnTheBallAndTheMenBack) {
   int onBall = 0;
+  SetUpWho("OUTSIDE");
+  game.play.FoulingSide = 1;
+  const Game start500 = game;
   for (int k = 0; k < 500; ++k) {
-    SetUpWho("OUTSIDE");
-    game.play.FoulingSide = 1;
+    game = start500;
     random.Seed(static_cast<std::uint64_t>(k));
     FindFouler();
     onBall += game.play.Fouler == 1 ? 1 : 0;
   }
   EXPECT_GT(onBall, 480);
+  SetUpWho("FASTBREAK", "FASTBREAK");
+  game.play.FoulingSide = 1;
+  DMan(4).DefendsBreak = 1;
+  const Game start200 = game;
   for (int k = 0; k < 200; ++k) {
-    SetUpWho("FASTBREAK", "FASTBREAK");
-    game.play.FoulingSide = 1;
-    DMan(4).DefendsBreak = 1;
+    game = start200;
     random.Seed(static_cast<std::uint64_t>(k));
     FindFouler();
     EXPECT_EQ(game.play.Fouler, 4);
@@ -220,8 +234,10 @@ TEST(Foulers, TheManOnTheBallAndTheMenBack) {
 }
 
 TEST(Assists, NeverTheShooterHimself) {
+  SetUpWho();
+  const Game start300 = game;
   for (int k = 0; k < 300; ++k) {
-    SetUpWho();
+    game = start300;
     random.Seed(static_cast<std::uint64_t>(k));
     FindAssister();
     EXPECT_NE(game.play.Assister, game.BallPlayer);

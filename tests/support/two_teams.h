@@ -13,8 +13,9 @@ constexpr int kMen = 10;
 inline void TwoTeams() {
   game = {};
   league.rules = {};
+  league.EraPro = league.EraCollege = {};
   setup = {};
-  program.Autoplaying = program.PlayoffGame = false;
+  program = {};
   league.rules.PeriodList = 4;
   league.rules.MinuteList = 12;
   league.rules.OverTimeList = 5;
