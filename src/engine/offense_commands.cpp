@@ -114,7 +114,8 @@ int TurnoverChance(const Target& target) {
 
 QuickPass DrawQuickPass(const Target& target) {
   QuickPass outcome;
-  if (Rnd(100) <= QuickPassChance(target)) {
+  const int chance = QuickPassChance(target);
+  if (Rnd(100) <= chance) {
     outcome = Rnd(50) == 1 ? QuickPass::kShoot : QuickPass::kPass;
   } else {
     outcome = Rnd(20) == 1 ? QuickPass::kShoot : QuickPass::kNoPass;
