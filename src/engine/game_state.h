@@ -121,7 +121,6 @@ struct Side {
   Table<int, 1, 20> TimeoutsByPeriod{};
   Table<int, 0, 20> TimeoutsByMinute{};
   int LastPossessionClock = 999;  ///< game clock when the side last lost the ball
-  int IllegalDefenses = 0;
 
   // Of this play.
   double TeamPointDiff = 0;  ///< average point difference of the season to date
@@ -162,7 +161,6 @@ struct Play {
   int Stealer = 0, StealerSlot = 0;
   int Fouler = 0, FoulerSlot = 0, FoulingSide = 0;
   int OffenseFouler = 0;  ///< the attacker of a double foul
-  int HelpDefender = 0;   ///< position, 0 none
   int Rebounder = 0;
   int ReboundSide = 0;  ///< 1, 2, 99 nobody's
   int DeadBallRebound = 0;
@@ -210,9 +208,10 @@ struct Call {
 /// What belongs to a possession; cleared when the ball changes hands and at a stoppage.
 struct Possession {
   int PassCount = 0, QuickPassCount = 0;
-  int QuickPassTarget = 0;  ///< position
-  int LastPasserSlot = 0;   ///< position
-  int PreviousSlot = 0;     ///< position that had the ball before a pass
+  int QuickPassTarget = 0;    ///< position
+  int LastPasserSlot = 0;     ///< position
+  int QuickPassReceiver = 0;  ///< slot of the man the last quick pass went to
+  int PreviousSlot = 0;       ///< position that had the ball before a pass
   int JustQuickPassed = 0;
   int PassedThisPossession = 0;
   int PassFirst = 0;      ///< the play starts with a pass away from the man who is guarded
@@ -289,8 +288,7 @@ struct GameRun {
   int LastSubClock = 99999;
   int Tension = 0;
   tipline::PlayKind LastShotKind;
-  int UsageOffenseLeft = 0, UsageDefenseLeft = 0;  ///< levels left by the last chance run
-  int SecondChance = 0;                            ///< 1 = this possession had an offensive rebound
+  int SecondChance = 0;  ///< 1 = this possession had an offensive rebound
 
   Table<Side, 1, 2> side;
   Table2<Man, 1, 2, 0, kRosterSlots> man;

@@ -155,6 +155,7 @@ void TryQuickPass() {
     possession.LastPasserSlot = game.BallSlot;
     game.play.Assister = game.BallPlayer;
     GiveBall(position);
+    possession.QuickPassReceiver = game.BallPlayer;
   }
   possession.JustQuickPassed = 1;
   ChargePass(true);

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "engine/chances.h"
+#include "engine/clock.h"
 #include "engine/court.h"
 #include "engine/execution.h"
 #include "engine/fast_break.h"
@@ -283,11 +284,7 @@ void OffensiveRebound() {
   game.PutbackClass = game.PutbackClass == 0 ? 1 : game.PutbackClass;
   game.GameState = running ? GameState("OFFENSE") : GameState("OFFREB");
   game.PlayKind = "OFFREB";
-  if (!game.play.Blocked && !game.play.AirBall) {
-    const int reset = league.rules.ShotClockResetList;
-    game.ShotClock = reset > 0 && league.rules.ShotClockList > 0 ? reset * 10 : FullShotClock();
-    game.ShotClock = std::min(game.ShotClock, game.GameClock);
-  }
+  if (!game.play.Blocked && !game.play.AirBall) game.ShotClock = ReboundShotClock();
 }
 
 void OutOfBounds() {
