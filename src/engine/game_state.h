@@ -170,9 +170,11 @@ struct Play {
   int AirBall = 0, BlockKept = 0, GoaltendMark = 0, CloseMiss = 0;
   int BasketInterference = 0, ShotStuck = 0;
   int FlagrantLevel = 0;
-  int NoShotEnd = 0;  ///< 1 = the period ran out without a shot
-  int OutOfBoundsChange = 0;
+  int NoShotEnd = 0;           ///< 1 = the period ran out without a shot
   int TipIn = 0;               ///< 0 none, 1 a tip-in missed, 2 a tip-in scored
+  tipline::PlayResult Posted;  ///< the result as it was posted, before the ball went on
+  int PostedSlot = 0;          ///< whose it was
+  int Tipper = 0;              ///< the man who tipped
   int StolenInbound = 0;       ///< 1 = stolen as the ball was brought in from the backcourt
   tipline::PlayKind TripOwed;  ///< free throws that a foul away from a shot leads to, "" none
 
@@ -201,7 +203,6 @@ struct Call {
   int LobTarget = 0, LobFrom = 0;      ///< positions
   int PickBall = 0, PickScreener = 0;  ///< positions of a pick and roll under way
   int DefenseCall = 0;                 ///< 1 off, 2 loose, 3 normal, 4 tight, 5 foul, 6 double team
-  int IntentionalMiss = 0;             ///< a last free throw is missed on purpose
   int PassMade = 0;
 };
 
@@ -342,7 +343,7 @@ inline PlayerRecord& OnFloor(int side, int position) {
   return game.player[side][game.side[side].Lineup[position]];
 }
 inline bool OnTeam(int side, int slot) {
-  return slot > 0 && PlayerAt(side, slot).TeamNo == game.GameTeam[side];
+  return slot > 0 && game.GameTeam[side] > 0 && PlayerAt(side, slot).TeamNo == game.GameTeam[side];
 }
 /// His position on the floor, 0 when he is not on it.
 inline int PositionOf(int side, int slot) {
@@ -353,8 +354,21 @@ inline int PositionOf(int side, int slot) {
   }
   return 0;
 }
+/// Slot of the man who guards the attacker at a position, by the match-ups of this stop; the centre where
+/// that leaves nobody.
+inline int GuardOf(int position) {
+  const Side& defense = Defense();
+  const int own = position > 0 ? defense.Matchup[position] : 0;
+  const int slot = own >= 1 && own <= kPositions ? defense.Lineup[own] : 0;
+  return slot > 0 ? slot : defense.Lineup[kPositions];
+}
 inline bool LastPeriod() { return game.Period >= league.rules.PeriodList; }
 inline int FullPeriod() { return league.rules.MinuteList * kMinute; }
+/// The clock stands at the start of a period, regulation or overtime.
+inline bool PeriodOpens() {
+  const int overtime = league.rules.OverTimeList < 1 ? kMinute : league.rules.OverTimeList * kMinute;
+  return game.GameClock == (game.Period > league.rules.PeriodList ? overtime : FullPeriod());
+}
 inline int FullShotClock() {
   return league.rules.ShotClockList == 0 ? kNoShotClock : league.rules.ShotClockList * 10;
 }

@@ -250,10 +250,7 @@ void GiveBall(int position) {
   if (position < 1 || Offense().Lineup[position] == 0) position = DrawPosition(game.OffenseSide);
   game.BallSlot = position;
   game.BallPlayer = position > 0 ? Offense().Lineup[position] : 0;
-  const Side& defense = Defense();
-  const int guard = position > 0 ? defense.Matchup[position] : 0;
-  game.BallDefender = guard >= 1 && guard <= kPositions ? defense.Lineup[guard] : 0;
-  if (game.BallDefender == 0) game.BallDefender = defense.Lineup[kPositions];
+  game.BallDefender = GuardOf(position);
 }
 
 void Pass() {

@@ -279,6 +279,7 @@ void OffensiveRebound() {
   const bool running = game.GameState == "FASTBREAK";
   game.PlayResult = "OFFREB";
   game.SecondChance = 1;
+  game.NeedsBringUp = 0;
   game.BallPlayer = game.play.Rebounder;
   game.BallSlot = PositionOf(game.OffenseSide, game.BallPlayer);
   game.PutbackClass = game.PutbackClass == 0 ? 1 : game.PutbackClass;

@@ -19,15 +19,6 @@ namespace {
 
 bool ShotClockRule() { return league.rules.ShotClockList > 0; }
 
-/// The defender of the man with the ball, by the match-ups of this stop; the centre where that leaves nobody.
-int DefenderOf(int position) {
-  const Side& defense = Defense();
-  if (position < 1) return defense.Lineup[kPositions];
-  const int own = defense.Matchup[position];
-  const int slot = own >= 1 && own <= kPositions ? defense.Lineup[own] : 0;
-  return slot ? slot : defense.Lineup[kPositions];
-}
-
 void ClearPlay() {
   game.play = {};
   game.TimeoutTaken = 0;
@@ -178,7 +169,7 @@ void HoldBall() {
 }
 
 void FaceDefender() {
-  game.BallDefender = DefenderOf(game.BallSlot);
+  game.BallDefender = GuardOf(game.BallSlot);
   const auto college = [](const TeamRecord& t) { return t.TeamType == 'C' || t.TeamType == 'O'; };
   if (college(game.team[1]) && college(game.team[2]) && game.BallDefender > 0 && game.BallPlayer > 0) {
     Offense().CollegeStrength = StrengthOf(BallHandler(), game.team[game.OffenseSide]);

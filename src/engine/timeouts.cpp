@@ -18,6 +18,7 @@ void StopPlay(int side, PlayNote note) {
   game.MomentumMark = 1;
   game.AfterTimeout = 1;
   game.GameState = "TIMEOUT-DEFENSE";
+  game.possession = {};
   game.PlayResult = "";
   LogTimeout(side, note);
 }
