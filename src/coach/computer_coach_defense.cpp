@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "coach/computer_coach.h"
+#include "coach/game_plan.h"
 #include "engine/game_state.h"
 
 namespace tipline {
@@ -11,14 +12,6 @@ enum Coverages : int { kOff = 1, kLoose, kNormal, kTight, kDeny };
 
 /// A slider of the plan, 0 to 4, against four: 0 and 1 never do.
 bool Holds(int slider) { return slider > 1 && slider > Rnd(4); }
-
-/// The plan against this opponent; the lowest number wins, 0 when there is none.
-int FindPlan(const CoachRecord& coach, int opponent) {
-  for (int plan = 1; plan <= 10; ++plan) {
-    if (opponent != 0 && coach.PlanOpponent[plan] == opponent) return plan;
-  }
-  return 0;
-}
 
 /// Strong, light or as usual; the more the plan asks for, the oftener strong.
 int CrashBoards(int slider) {
@@ -231,7 +224,7 @@ void ComputerDefenseCall(int side) {
   Side& s = game.side[side];
   const CoachRecord& coach = game.coach[side];
   if (s.CoachMode == "H" && s.BothDefenses) ComputerFoulDecision(side);
-  const int plan = FindPlan(coach, game.GameTeam[3 - side]);
+  const int plan = PlanAgainst(coach, game.GameTeam[3 - side]);
   s.GamePlanIndex = plan;
   s.CrashBoardsOffense = CrashBoards(coach.DefAdjust5[plan]);
   s.CrashBoardsDefense = CrashBoards(coach.DefAdjust6[plan]);

@@ -53,6 +53,13 @@ double Lean(const Roster& roster, double x, u8 PlayerRecord::*rating) {
 
 }  // namespace
 
+int PlanAgainst(const CoachRecord& coach, int opponent) {
+  for (int plan = 1; plan <= 10; ++plan) {
+    if (coach.PlanOpponent[plan] == opponent && opponent != 0) return plan;
+  }
+  return 0;
+}
+
 void SetDefaultPlanSliders(Roster& roster, bool keepPlayerDefense) {
   CoachRecord& coach = roster.coach;
   double x = 0;  // carried from plan to plan

@@ -144,7 +144,8 @@ inline void Tiredness(const Duel& duel, Thousandths& x, double rate) {
 
 /// Men used beyond their real season: the ball handler's factor, then his defender's.
 inline void Overuse(Thousandths& x, const UsagePower& power, double own, double other) {
-  const int u = game.play.UsageLevelOffense, v = game.play.UsageLevelDefense;
+  const int u = ManAt(game.OffenseSide, game.BallPlayer).UsageLevel;
+  const int v = ManAt(game.DefenseSide, game.BallDefender).UsageLevel;
   if (u > 0) x.Times(1 + power[u] * own);
   if (v > 0) x.Times(1 + power[v] * other);
 }

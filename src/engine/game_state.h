@@ -152,7 +152,6 @@ struct Play {
   int PlayCoverage = 3;    ///< coverage of the ball handler in his zone
   int HeightMismatch = 0;  ///< inches
   int ShotLate = 0;        ///< desperation
-  int UsageLevelOffense = 0, UsageLevelDefense = 0;
 
   bool Assisted = false;
   int Assister = 0;  ///< slot of the offense
@@ -379,7 +378,6 @@ inline int Margin() {
 }
 /// Own score less the other's.
 inline int Lead(int side) { return game.side[side].Score - game.side[3 - side].Score; }
-inline int HeightOf(const PlayerRecord& p) { return p.HeightFeet * 12 + p.HeightInches; }
 inline bool IsCollege(const PlayerRecord& p) { return p.PlayerType == 'C'; }
 inline const EraTable& EraTableOf(bool college) { return college ? league.EraCollege : league.EraPro; }
 

@@ -207,6 +207,7 @@ void SwapSides() {
   CountPossession(game.OffenseSide);
   std::swap(game.OffenseSide, game.DefenseSide);
   game.possession = {};
+  game.fastBreak = {};
   game.SecondChance = 0;
   game.BallPlayer = game.BallSlot = 0;
 }

@@ -1,6 +1,7 @@
 // A game is set up: teams loaded, tables cleared, start values given.
 #include <algorithm>
 
+#include "coach/game_plan.h"
 #include "coach/substitutions.h"
 #include "engine/chances.h"
 #include "engine/engine.h"
@@ -41,14 +42,6 @@ void ClearGameLine(PlayerRecord& p) {
     (*pair)[3] = 0;
   }
   p.Flagrants[3] = 0;
-}
-
-/// The plan of the side's coach against this opponent; the lowest number wins, 0 when there is none.
-int PlanAgainst(const CoachRecord& coach, int opponent) {
-  for (int plan = 1; plan <= 10; ++plan) {
-    if (coach.PlanOpponent[plan] == opponent && opponent != 0) return plan;
-  }
-  return 0;
 }
 
 void Available(int side, int slot) {

@@ -263,7 +263,6 @@ void DefensiveRebound() {
   const bool freeThrow = game.PlayKind == "SHOOT1" || IsFreeThrow(game.GameState);
   game.PlayResult = "DEFREB";
   game.PlayKind = "";
-  game.fastBreak = {};
   const int newOffense = game.DefenseSide;
   const int odds = BreakOdds(newOffense);
   const bool runs = Rnd(100) <= odds && !freeThrow;

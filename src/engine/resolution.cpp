@@ -176,8 +176,6 @@ void FaceDefender() {
     Defense().CollegeStrength =
         StrengthOf(PlayerAt(game.DefenseSide, game.BallDefender), game.team[game.DefenseSide]);
   }
-  game.play.UsageLevelOffense = UsageLevel(game.OffenseSide, game.BallPlayer);
-  game.play.UsageLevelDefense = UsageLevel(game.DefenseSide, game.BallDefender);
 }
 
 void FindResult() {

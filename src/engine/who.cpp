@@ -386,7 +386,6 @@ void BallAfterSteal() {
   if (NoTimeToRun(newOffense)) g = 0;
   if (game.play.StolenInbound) g = 100;
   SwapSides();
-  game.fastBreak = {};
   game.ShotClock = FullShotClock();
   game.NeedsInbound = game.DeadBallKind = 0;
   game.PlayKind = "";

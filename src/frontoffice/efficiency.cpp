@@ -1,4 +1,5 @@
 #include "frontoffice/efficiency.h"
+#include "league/player_values.h"
 
 #include "frontoffice/rating_math.h"
 
@@ -95,7 +96,8 @@ double Efficiency(const StatLine& line, const EfficiencyCase& x) {
   if (leagueMean == 0) return 0;
   const double leaguePace = PossessionsPerGame(x.league, x.leagueOpponents);
   const double teamPace = PossessionsPerGame(x.own, x.opponents);
-  const double pace = leaguePace > 0 && teamPace > 0 ? Clamp(leaguePace / teamPace, 0.7, 1.3) : 1.0;
+  const bool known = x.own.FGA > 0 && x.opponents.FGA > 0;
+  const double pace = known && leaguePace > 0 && teamPace > 0 ? Clamp(leaguePace / teamPace, 0.7, 1.3) : 1.0;
   const double worth = Worth(CountsOf(line), c, Share(x.own.Ast, x.own.FGM)) / line.Min;
   return worth * pace * (15 / leagueMean);
 }

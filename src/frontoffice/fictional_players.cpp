@@ -5,6 +5,8 @@
 #include "league/roster.h"
 #include "platform/dialogs.h"
 
+#include <limits>
+
 namespace tipline {
 namespace {
 
@@ -147,7 +149,12 @@ bool HcCreateFictionalPlayer::AddPlayer(const FictionFiles& names, int position,
   order.Year = slot ? roster.team.Year : FictionYear;
   order.TeamNo = slot ? teamNo : kFreeAgent;
   PlayerRecord player = CreateOnePlayer(order, names, slot ? roster.team : PoolTeam());
-  player.RecNo = static_cast<i16>(PlayerRows() + 1);
+  const int row = PlayerRows() + 1;
+  if (row > std::numeric_limits<i16>::max()) {
+    platform::dialogs().Tell("The player file is full!");
+    return false;
+  }
+  player.RecNo = static_cast<i16>(row);
   if (!WritePlayer(player)) return false;
   ++Created;
   if (HasTeam(teamNo)) needs.Count(teamNo, player, false);

@@ -1,5 +1,6 @@
 #include "frontoffice/rating_math.h"
 #include "frontoffice/ratings.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {

@@ -7,15 +7,11 @@
 
 namespace tipline {
 
-inline bool IsCollegeLevel(const PlayerRecord& player) {
-  return player.PlayerType == 'C' || player.PlayerType == 'O';
-}
 inline bool IsCollegeTeam(const TeamRecord& team) { return team.TeamType == 'C'; }
 inline bool IsCollegeOrInternational(const TeamRecord& team) {
   return team.TeamType == 'C' || team.TeamType == 'O';
 }
 inline bool IsWoman(const PlayerRecord& player) { return player.Sex == 'W'; }
-inline int HeightOf(const PlayerRecord& player) { return player.HeightFeet * 12 + player.HeightInches; }
 
 /// The era row that a season is measured against. Seasons before the first or after the last row take that
 /// one; a row that was never filled gives way to the next later season that was.

@@ -1,6 +1,7 @@
 // Passing and rebounding. These two have no upper bound of their own; they are held at 20.
 #include "frontoffice/rating_math.h"
 #include "frontoffice/ratings.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {

@@ -1,6 +1,7 @@
 // How much of the offense is his: use of possessions, where he shoots from, the end of games, dunks.
 #include "frontoffice/rating_math.h"
 #include "frontoffice/ratings.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {

@@ -66,4 +66,8 @@ Table<int, 1, 20> TeamsOfDivision(int division);
 /// the place that asks; what is left is held to 1946..2050.
 const EraRecord& EraRow(int year, bool college, int fallback, int oldest = 1);
 
+inline int HeightOf(const PlayerRecord& player) {
+  return player.HeightFeet * 12 + player.HeightInches;
+}  ///< inches
+
 }  // namespace tipline

@@ -9,10 +9,8 @@ namespace {
 constexpr int kLevelSeason = 2000;    // every season is brought to the level of this one
 constexpr int kUnknownSeason = 2012;  // what a man of an unknown season is taken for
 
-bool CollegeLevel(const PlayerRecord& player) { return player.PlayerType == 'C' || player.PlayerType == 'O'; }
-
 const EraRecord& Season(const PlayerRecord& player) {
-  return EraRow(player.Year, CollegeLevel(player), kUnknownSeason, kFirstEraYear);
+  return EraRow(player.Year, IsCollegeLevel(player), kUnknownSeason, kFirstEraYear);
 }
 
 /// Brings a count of his season to that of the level season.
@@ -35,7 +33,7 @@ double Production(const PlayerRecord& player) {
   const StatLine& real = player.Stats[1];
   const bool known = player.Year >= kFirstEraYear && player.Year <= kLastEraYear;
   const int year = known ? player.Year : kUnknownSeason;
-  const EraFactors k{EraRow(kLevelSeason, CollegeLevel(player), kLevelSeason), Season(player)};
+  const EraFactors k{EraRow(kLevelSeason, IsCollegeLevel(player), kLevelSeason), Season(player)};
   const double made = real.FGM * k(&EraRecord::FGM);
   const double freeThrows = real.FTM * k(&EraRecord::FTM);
   double value = 2 * made + freeThrows;
@@ -47,7 +45,7 @@ double Production(const PlayerRecord& player) {
 
 double PerGame(const PlayerRecord& player, double production) {
   const double perMinute = production / (player.Stats[1].Min + 0.1);
-  if (!CollegeLevel(player)) return perMinute * 48;
+  if (!IsCollegeLevel(player)) return perMinute * 48;
   return perMinute * 40 * (player.ScheduleStrength + 10) / 17;
 }
 

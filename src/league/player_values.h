@@ -4,6 +4,11 @@
 
 namespace tipline {
 
+/// A man of a college or international league: measured against college figures and forty minutes.
+inline bool IsCollegeLevel(const PlayerRecord& player) {
+  return player.PlayerType == 'C' || player.PlayerType == 'O';
+}
+
 /// Defence of a man at position 1 to 5, 0.0 to 10.0: outside and inside defence weighted by position, less
 /// out of place. Any other position: 0.
 double PositionDefense(const PlayerRecord& player, int position);

@@ -146,8 +146,8 @@ TEST(FoulWeight, SeasonAndTeams) {
       {"500 rebounds: 35 off", [] { Real().Reb = 500; }, 277},
       {"in a season of many misses: 5 off", [] { Real().Reb = 500, league.EraPro[2000].FGA = 106; }, 307},
       {"lives by the three", [] { Real().F3A = 600, Real().F3M = 200; }, 408},
-      {"used too much", [] { game.play.UsageLevelOffense = 1; }, 295},
-      {"defender used too much", [] { game.play.UsageLevelDefense = 1; }, 337},
+      {"used too much", [] { OMan().UsageLevel = 1; }, 295},
+      {"defender used too much", [] { DMan().UsageLevel = 1; }, 337},
       {"two men of unlike seasons", [] { game.player[2][2].Year = 1999; }, 280, {1, 2, 3, 3, 3}},
       {"draft league", [] { Draft(1), Draft(2); }, 266},
       {"the fifties, a fifth more", [] { Rules().GameEraList = 2, league.EraPro[1955].PF = 29.1f; }, 374},
@@ -221,7 +221,7 @@ TEST(TurnoverWeight, EveryStepInItsOrder) {
   Defender().Salary = 3250, Defender().Stats[1].Min = 1999;
   game.Period = 4, O().Score = 5;
   D().LineupForce = 39, D().DefenseType = 1, Defender().RateDefForce = 8;
-  game.play.UsageLevelOffense = 1, game.play.UsageLevelDefense = 2;
+  OMan().UsageLevel = 1, DMan().UsageLevel = 2;
   league.ActiveTeams = 31, O().LineupOffense = 200;
   Set("INSIDE"), OMan().NaturalZone = kThree, game.NeutralGame = false;
   D().StealFoul = 1, OTeam().TeamSex = "W";
