@@ -346,7 +346,7 @@ void JumpBall() {
   game.play.NoShotEnd = 0;
   const int first = Rnd(20);
   const int second = Rnd(20);
-  game.PlayTime = first + second;
+  game.PlayTime = std::min(first + second, static_cast<int>(game.GameClock));
   const int period = game.Period;
   EndPlay();
   if (game.GameOver || game.Period != period) return;
