@@ -181,7 +181,7 @@ int GridCell(const SubPass& pass, PlayerRecord& p) {
 }
 
 void LoadLineups() {
-  if (game.GameClock - game.PlayTime <= 0) return;
+  if (game.GameClock - game.PlayTime <= 0 && !AnyHole()) return;
   for (Side& side : game.side) side.PreviousLineup = side.Lineup;
   ClearReasons();
   if (BetweenFreeThrows() && !AnyHole()) return;
