@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "engine/eligible.h"
 #include "engine/game_state.h"
 #include "engine/resolution.h"
 #include "league/program.h"

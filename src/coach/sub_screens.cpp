@@ -1,4 +1,5 @@
 #include "coach/sub_screens.h"
+#include "engine/eligible.h"
 
 #include <string>
 #include <utility>
@@ -37,7 +38,7 @@ bool ShooterMissing(int side, const Table<int, 1, kPositions>& lineup) {
 }  // namespace
 
 bool HCQUICKSUB::PutIn(int position, int slot) {
-  if (slot < 1 || slot > kRosterSlots || !CanPlay(side, slot)) return Refuse("You must select a player!");
+  if (slot < 1 || slot > kRosterSlots || !IsEligible(side, slot)) return Refuse("You must select a player!");
   if (const int place = PlaceOf(lineup, slot)) {
     std::swap(lineup[place], lineup[position]);
     return true;
@@ -65,7 +66,7 @@ bool HCQUICKSUB::Ok() {
 }
 
 bool HCquickOnePlayerSub::Choose(int slot) {
-  if (slot >= 1 && slot <= kRosterSlots && CanPlay(side, slot)) {
+  if (slot >= 1 && slot <= kRosterSlots && IsEligible(side, slot)) {
     const PlayerRecord& p = PlayerAt(side, slot);
     const bool fits =
         p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;

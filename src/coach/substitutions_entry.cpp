@@ -1,6 +1,7 @@
 // Who comes in: by the rotation grid, and by weight for every position that is empty.
 #include "base/numbers.h"
 #include "coach/substitutions_pass.h"
+#include "engine/eligible.h"
 #include "engine/fatigue.h"
 
 namespace tipline {
@@ -190,7 +191,7 @@ void WeighMakeshift(Candidate& c) {
 }
 
 bool IsCandidate(int side, int slot, const Bench& bench) {
-  if (!CanPlay(side, slot) || PositionOf(side, slot) != 0) return false;
+  if (!IsEligible(side, slot) || PositionOf(side, slot) != 0) return false;
   const int limit = league.rules.RosterLimitList;
   return limit == 0 || bench.played < limit || ManAt(side, slot).PlayerGameTime > 0;
 }
@@ -251,7 +252,7 @@ void EnterByGrid(SubPass& pass) {
   for (int side = 1; side <= 2; ++side) {
     if (!pass.hasGrid[side]) continue;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!CanPlay(side, slot) || PositionOf(side, slot) != 0) continue;
+      if (!IsEligible(side, slot) || PositionOf(side, slot) != 0) continue;
       const int position = GridCell(pass, PlayerAt(side, slot));
       if (position == 0 || GridPassesOver(pass, side, slot)) continue;
       int& place = game.side[side].Lineup[position];

@@ -22,7 +22,7 @@ struct SubPass {
 
   /// The man at the line, who must stay.
   bool IsShooter(int side, int slot) const {
-    return freeThrow && side == game.OffenseSide && slot == game.BallPlayer;
+    return freeThrow && slot != 0 && side == game.OffenseSide && slot == game.BallPlayer;
   }
 };
 

@@ -1,6 +1,7 @@
 // Who has to leave the floor.
 #include "base/numbers.h"
 #include "coach/substitutions_pass.h"
+#include "engine/eligible.h"
 #include "engine/fatigue.h"
 
 namespace tipline {
@@ -32,7 +33,7 @@ bool StandsEarlier(const Side& side, int position) {
 bool MustGo(const SubPass& pass, int side, int position) {
   const int slot = game.side[side].Lineup[position];
   PlayerRecord& p = PlayerAt(side, slot);
-  if (!CanPlay(side, slot) || StandsEarlier(game.side[side], position)) {
+  if (!IsEligible(side, slot) || StandsEarlier(game.side[side], position)) {
     const int limit = league.rules.DqList;
     if (limit > 0 && p.Stats[3].Pf >= limit) ManAt(side, slot).FouledOutFlag = 1;
     return true;
@@ -48,7 +49,7 @@ bool BetterManReady(int side, int position) {
   const bool late = LastPeriod() && game.GameClock <= 12 * kMinute;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot) || PlayerAt(side, slot).DepthRank[position] <= onFloor) continue;
-    if (ManAt(side, slot).Energy != 100 || PositionOf(side, slot) != 0 || !CanPlay(side, slot)) continue;
+    if (ManAt(side, slot).Energy != 100 || PositionOf(side, slot) != 0 || !IsEligible(side, slot)) continue;
     if (!late || LoadedAt(side, slot).PlayLength + 600 >= game.GameClock) return true;
   }
   return false;

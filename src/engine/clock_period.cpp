@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "coach/substitutions.h"
 #include "engine/clock.h"
+#include "engine/execution.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
 
@@ -126,6 +127,7 @@ void OpenPeriod(int clock) {
   game.PlayKind = "";
   game.PlayResult = "";
   game.possession = {};
+  game.SecondChance = 0;
   game.LastSubClock = 99999;  // of the period before
   for (Side& side : game.side) side.TeamFouls = 0;
 }
@@ -188,6 +190,7 @@ void EndPeriod() {
   EndPeriodNotice();  // a tip or a held ball at the horn has had none
   const bool last = LastPeriod();
   if (last && IsFreeThrow(game.GameState) && game.PlayKind != "ENDPERIOD") return;
+  CountPossession(game.OffenseSide);
   ClosePeriod();
   if (!last) {
     NextPeriod();

@@ -1,5 +1,6 @@
 // A result is carried out: posted to the lines, with what only matters once it is known.
 #include "engine/execution.h"
+#include "engine/eligible.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
 #include "engine/fatigue.h"
+#include "engine/eligible.h"
 
 #include <algorithm>
 
@@ -48,12 +49,6 @@ bool FloorNeedsLook() {
   return longOut > Rnd(3);
 }
 
-int EligibleMen(int side) {
-  int count = 0;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) count += CanPlay(side, slot) ? 1 : 0;
-  return count;
-}
-
 bool SomebodyStandsTwice(const Side& side) {
   for (int a = 1; a < kPositions; ++a) {
     for (int b = a + 1; b <= kPositions; ++b) {
@@ -63,13 +58,43 @@ bool SomebodyStandsTwice(const Side& side) {
   return false;
 }
 
-}  // namespace
-
-bool CanPlay(int side, int slot) {
-  if (!OnTeam(side, slot) || LoadedAt(side, slot).PlayerOut != 0) return false;
-  const Man& man = ManAt(side, slot);
-  return man.GameInjury <= 0 && man.TemporaryInjury <= 0 && !FouledOut(side, slot);
+/// Minutes that a man should play, in a game of 48 minutes: his coach's target, else his real minutes.
+double MinutesOf48(const PlayerRecord& p) {
+  const StatLine& real = p.Stats[1];
+  int minutes = p.TargetMinutes;
+  if (minutes == 0 && real.G > 0) minutes = Int(static_cast<double>(real.Min) / real.G + 0.5);
+  return league.rules.PeriodList == 2 ? minutes * 48.0 / 40 : minutes;
 }
+
+/// A man's stint and rest by the minutes he should play, straight lines between the columns. Chosen by
+/// measurement, as what brings a man back is not his rest alone but who else is fresh: 3000 games each, of
+/// 150 pairs of made-up rosters of 12 to 15 men, whose minutes at each position come near the length of a
+/// game, with depth charts by minutes and plays of 8 to 18 seconds. Mean difference between minutes played
+/// and target:
+///   target    8-11  12-15  16-19  20-23  24-27  28-31  32-35  36-40    all   changes a team and game
+///   quarters   2.2    2.0    2.1    3.1    3.1    1.2    1.4    1.7    2.0   52
+///   halves     1.9    1.4    2.5    2.5    1.1    1.1    1.5      -    1.6   56
+/// One line through zero (a stint of 8/9 of his minutes a period, the shortest rest) leaves 4.7 and 3.7.
+struct StintTable {
+  double length[4], rest[4];
+};
+// clang-format off
+constexpr double kStintMinutes[4] =         {  10,   20,   30,   40};
+constexpr StintTable kQuarterStints = {{3000, 4200, 4200, 7200},
+                                       {2400, 2400, 2400,  800}};
+constexpr StintTable kHalfStints    = {{3000, 4400, 4800, 8400},
+                                       {2400, 2400, 2100,  300}};
+// clang-format on
+
+double OnLine(const double (&at)[4], double minutes) {
+  if (minutes <= kStintMinutes[0]) return at[0];
+  int i = 0;
+  while (i < 2 && minutes > kStintMinutes[i + 1]) ++i;
+  const double step = (at[i + 1] - at[i]) / (kStintMinutes[i + 1] - kStintMinutes[i]);
+  return at[i] + step * (minutes - kStintMinutes[i]);
+}
+
+}  // namespace
 
 void UpdateEnergy(int side, int slot) {
   Man& man = ManAt(side, slot);
@@ -120,9 +145,21 @@ void EmptyFouledOut() {
       if (slot != 0 && (FouledOut(side, slot) || LoadedAt(side, slot).PlayerOut != 0)) s.Lineup[position] = 0;
       if (s.Lineup[position] == 0) hole = true;
     }
-    refill = refill || SomebodyStandsTwice(s) || (hole && EligibleMen(side) >= kPositions);
+    refill = refill || SomebodyStandsTwice(s) || (hole && CountEligible(side) >= kPositions);
   }
   if (refill) LoadLineups();
+}
+
+void SetStints(int side) {
+  const StintTable& table = league.rules.PeriodList == 2 ? kHalfStints : kQuarterStints;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(side, slot)) continue;
+    const double minutes = MinutesOf48(PlayerAt(side, slot));
+    double rest = OnLine(table.rest, minutes);
+    if (program.PlayoffGame) rest *= 0.85;  // everything for this game
+    LoadedAt(side, slot).PlayLength = Clamp(Round(OnLine(table.length, minutes)), 3000, 14000);
+    LoadedAt(side, slot).RestLength = Clamp(Round(rest), 300, 2400);
+  }
 }
 
 }  // namespace tipline

@@ -3,8 +3,6 @@
 
 namespace tipline {
 
-/// Can still play in this game: on the team, under the foul limit, neither out, hurt nor shaken up.
-bool CanPlay(int side, int slot);
 /// Energy of one man from his load and rest. For every man of the team who is not out, after each play.
 void UpdateEnergy(int side, int slot);
 /// Fifteen seconds of rest for everybody, whoever called the timeout.

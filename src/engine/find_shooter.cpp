@@ -3,6 +3,7 @@
 #include <array>
 
 #include "coach/computer_coach.h"
+#include "engine/eligible.h"
 #include "engine/fast_break.h"
 #include "engine/game_state.h"
 #include "engine/resolution.h"

@@ -1,5 +1,6 @@
 // The three branches of a play's draw, and the free throw.
 #include "engine/outcome.h"
+#include "engine/eligible.h"
 
 #include <algorithm>
 

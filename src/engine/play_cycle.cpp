@@ -3,7 +3,9 @@
 #include <cstdlib>
 
 #include "coach/computer_coach.h"
+#include "coach/substitutions.h"
 #include "engine/clock.h"
+#include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/execution.h"
 #include "engine/game_state.h"
@@ -55,15 +57,6 @@ void FindWorstShooter() {
       game.WorstFreeThrowShooter = slot;
     }
   }
-}
-
-void FindCrunchTime() {
-  const int clock = game.GameClock;
-  const int margin = Margin();
-  game.CrunchTime = 0;
-  if (!LastPeriod() || clock >= 3600) return;
-  if ((margin <= 10 && clock < 1200) || (margin <= 12 && clock < 3000)) game.CrunchTime = 1;
-  if ((margin >= 7 && clock < 100) || (margin >= 10 && clock < 300)) game.CrunchTime = 0;
 }
 
 /// Somebody else shoots for a man who is gone.
@@ -277,7 +270,7 @@ bool NextStop() {
   if (game.OffenseSide == game.DefenseSide) game.DefenseSide = 3 - game.OffenseSide;
   DeadBallBooks();
   FindWorstShooter();
-  FindCrunchTime();
+  RefreshCrunchTime();
   ReplaceShooter();
   SetMatchups();
   if (game.GameDone || game.GameOver) return false;

@@ -1,5 +1,6 @@
 // Blocks, steals, assists and fouls: each a draw among the five, by what a man does in a real season.
 #include "engine/who.h"
+#include "engine/eligible.h"
 
 #include <algorithm>
 #include <array>

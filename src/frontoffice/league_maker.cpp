@@ -40,8 +40,9 @@ struct Plan {
 std::string NameProblem(const std::string& name) {
   if (name.empty()) return "The league needs a name.";
   if (name.size() > 60) return "The name of a league has at most 60 characters.";
-  if (name == "." || name == ".." || name.front() == ' ' || name.back() == ' ') {
-    return "\"" + name + "\" can't be the name of a league.";
+  if (name.front() == '.') return "The name of a league can't begin with a dot.";
+  if (name.front() == ' ' || name.back() == ' ') {
+    return "The name of a league can't begin or end with a blank.";
   }
   for (const char c : name) {
     if (static_cast<unsigned char>(c) < 32 || c == 127) {
@@ -161,7 +162,8 @@ class Recruiter {
 
 /// A number that no teammate wears: the drawn one or the next above it.
 void GiveUniform(PlayerRecord& man, std::set<std::string>& worn) {
-  int n = std::stoi("0" + man.UniformNumber.Str());
+  int n = 0;
+  for (const char digit : man.UniformNumber.View()) n = 10 * n + (digit - '0');
   while (!worn.insert(std::to_string(n)).second) n = (n + 1) % 100;
   man.UniformNumber = std::to_string(n);
 }
@@ -178,13 +180,19 @@ void TellNamesakesApart(Roster& roster, int men) {
   }
 }
 
-/// Positions go round, so that every one has its men: two at least on a roster of ten and more.
+/// Positions go round, so that every one has its men: two at least on a roster of ten and more. Some teams
+/// have been built well and some have not: of two men for a place the fortunate ones keep the better, the
+/// others the worse.
 void FillRoster(Roster& roster, int men, Recruiter& recruiter) {
+  constexpr auto kMix = FictionQuality::kVeteranRookieMix;
   std::set<std::string> worn;
+  const double fortune = Rnd();
   for (int slot = 1; slot <= men; ++slot) {
     const int position = (slot - 1) % 5 + 1;
-    roster.player[slot] =
-        recruiter.Draw(roster.TeamNo, position, FictionQuality::kVeteranRookieMix, roster.team);
+    const PlayerRecord one = recruiter.Draw(roster.TeamNo, position, kMix, roster.team);
+    const PlayerRecord other = recruiter.Draw(roster.TeamNo, position, kMix, roster.team);
+    const bool better = PlayerOverall(one) >= PlayerOverall(other);
+    roster.player[slot] = better == (Rnd() < fortune) ? one : other;
     GiveUniform(roster.player[slot], worn);
   }
   TellNamesakesApart(roster, men);

@@ -1,5 +1,7 @@
 #include "frontoffice/season_lines.h"
 
+#include <array>
+
 #include "base/random.h"
 #include "frontoffice/rating_math.h"
 #include "frontoffice/ratings.h"
@@ -27,7 +29,7 @@ SeasonNorm NormOf(GameLevel level, int year) {
   return {era,
           games,
           games * 5 * (shortGame ? 40.5 : 48.5),
-          games * kMostMinutes * (shortGame ? 40.0 / 48 : 1),
+          kMostMinutes * (shortGame ? 40.0 / 48 : 1),
           women ? 0.79 : 1,
           women ? 0.92 : 1};
 }
@@ -63,23 +65,29 @@ void ScaleLine(StatLine& line, int minutes) {
   Mend(line);
 }
 
-/// x, the part of the most a man can play, becomes x - k x (1 - x): both ends stay, the middle gives way (or
-/// gains, for a k below 0) so that the team's sum is met. What k can't do alone is done in proportion.
-void SettleMinutes(Roster& team, const SeasonNorm& norm) {
+/// x, the part of the most he can play in his games, becomes x - k x (1 - x): both ends stay, the middle
+/// gives way (or gains, for a k below 0) so that the men of a position fill it. What k can't do alone is done
+/// in proportion.
+void SettleMinutes(Roster& team, int position, const SeasonNorm& norm) {
   double sum = 0, room = 0;
-  const auto part = [&](const StatLine& line) { return std::min(1.0, line.Min / norm.mostMinutes); };
-  ForMen(team, [&](PlayerRecord& man) {
-    const double x = part(man.Stats[1]);
-    sum += x;
-    room += x * (1 - x);
+  const auto most = [&](const StatLine& line) { return line.G * norm.mostMinutes; };
+  const auto part = [&](const StatLine& line) { return std::min(1.0, Share(line.Min, most(line))); };
+  const auto forPosition = [&](auto&& visit) {
+    ForMen(team, [&](PlayerRecord& man) {
+      if (man.PrimaryPosition == position) visit(man.Stats[1]);
+    });
+  };
+  forPosition([&](const StatLine& line) {
+    const double x = part(line);
+    sum += most(line) * x;
+    room += most(line) * x * (1 - x);
   });
-  const double target = norm.teamMinutes / norm.mostMinutes;
+  const double target = norm.teamMinutes / 5;
   const double k = room > 0 ? Clamp((sum - target) / room, -0.9, 0.9) : 0;
   const double proportion = Share(target, sum - k * room);
-  ForMen(team, [&](PlayerRecord& man) {
-    StatLine& line = man.Stats[1];
+  forPosition([&](StatLine& line) {
     const double x = part(line);
-    const double minutes = (x - k * x * (1 - x)) * proportion * norm.mostMinutes;
+    const double minutes = std::min(1.0, (x - k * x * (1 - x)) * proportion) * most(line);
     ScaleLine(line, Clamp(Round(minutes), 1, 32767));
   });
 }
@@ -106,6 +114,48 @@ constexpr Figure kFigures[] = {
     {&StatLine::To, &RealTotalsLine::To, &EraRecord::TO, true},
     {&StatLine::Pf, &RealTotalsLine::Pf, &EraRecord::PF, true},
 };
+
+/// Counts that go together: a team's surplus of the first moves all of them. `kept` is the part of it that
+/// stays; the lead counts of real teams lie about so far apart.
+struct FigureGroup {
+  i16 StatLine::*lead;
+  std::array<i16 StatLine::*, 3> others;
+  double kept;
+};
+constexpr FigureGroup kGroups[] = {
+    {&StatLine::FGA, {&StatLine::FGM, &StatLine::F3A, &StatLine::F3M}, 0.35},
+    {&StatLine::FTA, {&StatLine::FTM}, 0.7},
+    {&StatLine::Reb, {&StatLine::Off}, 0.5},
+    {&StatLine::Ast, {}, 0.7},
+    {&StatLine::St, {}, 0.7},
+    {&StatLine::Bk, {}, 0.8},
+    {&StatLine::To, {}, 0.5},
+    {&StatLine::Pf, {}, 0.8},
+};
+
+/// Men drawn one by one make teams that shoot 70 or 110 times a game; men who play together share one ball.
+void EvenTeams(std::vector<Roster>& teams) {
+  for (const FigureGroup& group : kGroups) {
+    const auto sumOf = [&](Roster& team) {
+      double sum = 0;
+      ForMen(team, [&](PlayerRecord& man) { sum += man.Stats[1].*group.lead; });
+      return sum;
+    };
+    double mean = 0;
+    for (auto& team : teams) mean += sumOf(team) / static_cast<double>(teams.size());
+    for (auto& team : teams) {
+      const double sum = sumOf(team);
+      const double factor = Share(mean + (sum - mean) * group.kept, sum);
+      ForMen(team, [&](PlayerRecord& man) {
+        StatLine& line = man.Stats[1];
+        line.*group.lead = Scaled(line.*group.lead, factor);
+        for (const auto other : group.others) {
+          if (other) line.*other = Scaled(line.*other, factor);
+        }
+      });
+    }
+  }
+}
 
 void SettleFigures(std::vector<Roster>& teams, const SeasonNorm& norm) {
   for (const Figure& figure : kFigures) {
@@ -228,7 +278,10 @@ void FillIn(Roster& team) {
 void SettleSeasonLines(std::vector<Roster>& teams, GameLevel level, int year) {
   if (teams.empty()) return;
   const SeasonNorm norm = NormOf(level, year);
-  for (auto& team : teams) SettleMinutes(team, norm);
+  for (auto& team : teams) {
+    for (int position = 1; position <= 5; ++position) SettleMinutes(team, position, norm);
+  }
+  EvenTeams(teams);
   SettleFigures(teams, norm);
   for (auto& team : teams) {
     SettleStarts(team, static_cast<int>(norm.games));

@@ -11,10 +11,12 @@ namespace tipline {
 /// Brings the drawn real lines of all rosters together. Needs lines, positions and defensive ratings; writes
 /// `Stats[1]` of the men and `RealTotals` of the teams. Reads the era tables; draws.
 ///
-/// 1. Minutes: a team's men together play its season, overtime counted in. A man of many minutes keeps them,
-///    the bench gives way; all counts go with the minutes.
-/// 2. Figures: every count of the league as a whole comes to the season's average of its era, shooting and
-///    free throws too, so that each made-up season looks like its year.
+/// 1. Minutes: the men of a position together fill it for the season, overtime counted in. A man of many
+///    minutes keeps them, the bench gives way; all his counts go with his minutes.
+/// 2. Figures: a team keeps only a part of what it has above or below the others, since its men share one
+/// ball
+///    and one floor. Then every count of the league comes to the season's average of its era, shooting and
+///    free throws too, so that a made-up season looks like its year.
 /// 3. Starts: at each position the man with most minutes starts whenever he plays, the next one fills in.
 /// 4. Totals: a team's own are the sums of its men. Its opponents are the league's mean side at the team's
 ///    pace, shooting worse against good defenders and losing more balls to thieves; every opponents' figure

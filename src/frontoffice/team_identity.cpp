@@ -213,7 +213,7 @@ std::vector<TeamIdentity> DrawIdentities(const NameData& data, int count, bool c
            std::make_pair(Westward(b.place), b.place.state);
   });
   std::vector<std::string> taken;
-  for (auto& team : teams) taken.push_back(team.abbrev = FreeAbbreviation(team.label, taken));
+  for (auto& team : teams) taken.push_back(team.abbrev = FreeAbbreviation(team.place.name, taken));
   return teams;
 }
 

@@ -1,0 +1,266 @@
+#include "coach/substitutions.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+#include "coach/sub_screens.h"
+#include "platform/dialogs.h"
+#include "support/two_teams.h"
+
+namespace tipline {
+namespace {
+
+using Change = std::function<void()>;
+
+/// Side 1 leaves its substitutions to the computer; its man at position 2 is looked at.
+void Watched() {
+  TwoTeams();
+  random.Seed(5);
+  game.side[1].AutoSubWhenTired = game.side[1].AutoSubWhenFoulTrouble = 1;
+  PlayerAt(1, 7).TargetMinutes = 34;  // ranked behind him, but used as much
+}
+
+TEST(LoadLineups, TakesOffWhoHasToGo) {
+  const auto lastPeriod = [](int clock, int margin) {
+    game.Period = 4;
+    game.GameClock = clock;
+    game.side[1].Score = margin;
+  };
+  // clang-format off
+  const struct {
+    const char* why;
+    Change change;
+    bool stays;
+  } cases[] = {
+      {"fresh", [] {}, true},
+      {"tired at 83", [] { ManAt(1, 2).Energy = 83; }, false},
+      {"not at 84", [] { ManAt(1, 2).Energy = 84; }, true},
+      {"plays on when tired", [] { ManAt(1, 2).Energy = 83, PlayerAt(1, 2).DontPlayWhenTired = 0; }, true},
+      {"until his stint is over", [] { ManAt(1, 2).Energy = 82, PlayerAt(1, 2).DontPlayWhenTired = 0; },
+       false},
+      {"but to the end of a game",
+       [&] { lastPeriod(1200, 0), ManAt(1, 2).Energy = 70, PlayerAt(1, 2).DontPlayWhenTired = 0; }, true},
+      {"early in the period", [] { game.GameClock = 5401, ManAt(1, 2).Energy = 81; }, true},
+      {"early, too tired", [] { game.GameClock = 5401, ManAt(1, 2).Energy = 80; }, false},
+      {"three minutes have run", [] { game.GameClock = 5400, ManAt(1, 2).Energy = 81; }, false},
+      {"just after a change", [] { game.LastSubClock = 5089, ManAt(1, 2).Energy = 70; }, true},
+      {"nine seconds after one", [] { game.LastSubClock = 5090, ManAt(1, 2).Energy = 70; }, false},
+      {"named for the free throws", [] { game.side[1].FreeThrowMan = 2, ManAt(1, 2).Energy = 82; }, true},
+      {"a better man is ready", [] { PlayerAt(1, 7).DepthRank[2] = 6, PlayerAt(1, 2).DepthRank[2] = 5; },
+       false},
+      {"a better man is not fresh",
+       [] { PlayerAt(1, 7).DepthRank[2] = 6, PlayerAt(1, 2).DepthRank[2] = 5, ManAt(1, 7).Energy = 99; },
+       true},
+      {"close game: no crunch man", [&] { lastPeriod(1000, 2), PlayerAt(1, 2).DepthRank[2] = 5; }, false},
+      {"close game: tired crunch man",
+       [&] { lastPeriod(1000, 2), ManAt(1, 2).Energy = 30, PlayerAt(1, 2).PlayAtCrunchTime = 1; }, true},
+      {"the end of a decided game", [&] { lastPeriod(99, 7), ManAt(1, 2).Energy = 60; }, true},
+      {"no blowouts for him", [&] { lastPeriod(1199, 16), PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, false},
+      {"not yet a blowout", [&] { lastPeriod(1200, 16), PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, true},
+      {"third period, 35 ahead",
+       [] { game.Period = 3, game.side[1].Score = 35, PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, false},
+      {"third period, 29 ahead",
+       [] { game.Period = 3, game.side[1].Score = 29, PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, true},
+      {"two fouls in the first", [] { PlayerAt(1, 2).Stats[3].Pf = 2; }, false},
+      {"two fouls in the second", [] { game.Period = 2, PlayerAt(1, 2).Stats[3].Pf = 2; }, true},
+      {"five in the last, too early", [&] { lastPeriod(3601, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, false},
+      {"five in the last, for the end", [&] { lastPeriod(3600, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, true},
+      {"four in the second half, too early",
+       [] { league.rules.PeriodList = 2, game.Period = 2, PlayerAt(1, 2).Stats[3].Pf = 4; }, false},
+      {"foul trouble, check off",
+       [] { game.side[1].AutoSubWhenFoulTrouble = 0, PlayerAt(1, 2).Stats[3].Pf = 2; }, true},
+      {"a man who never sits",
+       [] { PlayerAt(1, 2).Stats[3].Pf = 2, PlayerAt(1, 2).Stats[1].G = 10,
+       PlayerAt(1, 2).Stats[1].Min = 480; }, true},
+      {"out of position",
+       [] { PlayerAt(1, 2).PrimaryPosition = 5, PlayerAt(1, 2).DepthRank = {},
+       PlayerAt(1, 2).PositionAllowed = {}; }, false},
+      {"fouled out", [] { PlayerAt(1, 2).Stats[3].Pf = 6; }, false},
+      {"hurt", [] { ManAt(1, 2).GameInjury = 1; }, false},
+      {"in a trip of three", [] { game.PlayKind = "SHOOT3", ManAt(1, 2).Energy = 10; }, true},
+      {"the last of a trip, on defense",
+       [] { game.PlayKind = "SHOOT1", game.GameState = "FREETHROW-WAIT", ManAt(1, 2).Energy = 10; }, false},
+      {"the period dies with this play", [] { game.PlayTime = 5000, ManAt(1, 2).Energy = 10; }, true},
+      {"the grid has another man",
+       [] { game.side[1].UseRotationGrid = 1, PlayerAt(1, 7).RotationGrid[1][4] = 2; }, false},
+      {"nobody made a grid", [] { game.side[1].UseRotationGrid = 1; }, true},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    Watched();
+    c.change();
+    LoadLineups();
+    EXPECT_EQ(game.side[1].Lineup[2] == 2, c.stays) << c.why;
+    std::set<int> five(game.side[1].Lineup.begin(), game.side[1].Lineup.end());
+    EXPECT_EQ(five.size(), 5u) << c.why;
+    EXPECT_EQ(five.count(0), 0u) << c.why;
+  }
+}
+
+TEST(LoadLineups, LeavesAHumanAloneButForFouls) {
+  TwoTeams();
+  for (int slot = 1; slot <= 5; ++slot) ManAt(1, slot).Energy = 5, PlayerAt(1, slot).Stats[3].Pf = 5;
+  PlayerAt(1, 4).Stats[3].Pf = 6;
+  game.PlayResult = "TO";
+  LoadLineups();
+  for (const int slot : {1, 2, 3, 5}) EXPECT_EQ(PositionOf(1, slot), slot);
+  EXPECT_EQ(game.side[1].Lineup[4], 9) << "the next on the depth chart";
+  EXPECT_EQ(ManAt(1, 4).FouledOutFlag, 1);
+  EXPECT_TRUE(game.PlayResult == "") << "the change ends what hangs on the result";
+  EXPECT_EQ(game.LastSubClock, 5000);
+}
+
+TEST(LoadLineups, BuildsAFreshFiveAtAPeriodStart) {
+  for (const int periods : {4, 2}) {
+    Watched();
+    league.rules.PeriodList = static_cast<u8>(periods);
+    game.Period = 2;
+    game.GameClock = 7200;
+    for (int slot = 1; slot <= 5; ++slot) {
+      game.side[1].Lineup[slot] = slot + 5;
+      ManAt(1, slot + 5).FatigueLoad = 8000;
+    }
+    LoadLineups();
+    EXPECT_EQ(ManAt(1, 6).FatigueLoad, periods == 4 ? 800 : 8000);
+    EXPECT_EQ(game.BallPlayer, periods == 4 ? 0 : 1);
+    EXPECT_EQ(PositionOf(1, 1), periods == 4 ? 1 : 0) << "the starters are back";
+  }
+}
+
+TEST(LoadLineups, KeepsBenchMenOutOfReachInABlowout) {
+  Watched();
+  game.Period = 4;
+  game.GameClock = 1100;
+  game.side[1].Score = 30;
+  game.side[1].CoachMode = "C";
+  game.side[1].Lineup[3] = 0;
+  PlayerAt(1, 8).NeverPlayInBlowouts = 1;
+  LoadLineups();
+  EXPECT_NE(game.side[1].Lineup[3], 8);
+}
+
+TEST(LoadLineups, FillsAPositionThatNobodyPlays) {
+  Watched();
+  game.side[1].Lineup[5] = 0;
+  for (const int slot : {5, 10}) LoadedAt(1, slot).PlayerOut = 1;
+  PlayerAt(1, 9).PositionAllowed[5] = 1;
+  ManAt(1, 9).Energy = 80;
+  LoadLineups();
+  EXPECT_EQ(PositionOf(1, 9), 5) << "his coach allows it";
+}
+
+TEST(LoadLineups, PlaysShortWhenNobodyIsLeft) {
+  const struct {
+    const char* why;
+    int men, minutes, dq;
+  } cases[] = {{"four men", 4, 12, 6}, {"nobody", 0, 12, 6}, {"short periods, one foul", 10, 1, 1}};
+  for (const auto& c : cases) {
+    Watched();
+    league.rules.MinuteList = static_cast<u8>(c.minutes);
+    league.rules.DqList = static_cast<u8>(c.dq);
+    game.GameClock = c.minutes * kMinute;
+    for (int slot = 1; slot <= kMen; ++slot) {
+      PlayerAt(1, slot).TargetMinutes = 0;
+      if (slot > c.men) PlayerAt(1, slot) = {};
+    }
+    LoadLineups();
+    int men = 0;
+    for (const int slot : game.side[1].Lineup) men += slot > 0 ? 1 : 0;
+    EXPECT_EQ(men, std::min(c.men, 5)) << c.why;
+  }
+}
+
+// Any state of a game: five different men who can play, whenever there are five.
+TEST(LoadLineups, AlwaysLeavesFiveDifferentMen) {
+  for (unsigned seed = 1; seed <= 400; ++seed) {
+    TwoTeams();
+    random.Seed(seed);
+    program.Autoplaying = seed % 2 == 0;
+    game.Period = Rnd(6);
+    game.GameClock = Rnd(7200);
+    game.side[2].Score = Rnd(40);
+    for (int side = 1; side <= 2; ++side) {
+      if (Rnd(2) == 1) game.side[side].CoachMode = "C";
+      for (int slot = 1; slot <= kMen; ++slot) {
+        ManAt(side, slot).Energy = Rnd(100);
+        ManAt(side, slot).FatigueLoad = Rnd(9000);
+        ManAt(side, slot).PlayerGameTime = Rnd(20000);
+        PlayerAt(side, slot).SecondaryPosition = static_cast<u8>(Rnd(5));
+        PlayerAt(side, slot).RotationGrid[Clamp(game.Period, 1, 5)][3] = static_cast<u8>(Rnd(7) - 1);
+      }
+      game.side[side].Lineup[Rnd(5)] = Rnd(kMen);
+    }
+    LoadLineups();
+    for (Side& side : game.side) {
+      std::set<int> five(side.Lineup.begin(), side.Lineup.end());
+      EXPECT_TRUE(five.size() == 5 && five.count(0) == 0) << seed;
+    }
+  }
+}
+
+TEST(RefreshCrunchTime, NeedsACloseEnd) {
+  const struct {
+    int period, clock, margin, crunch;
+  } cases[] = {{4, 1199, 10, 1}, {4, 1200, 12, 1}, {4, 2999, 12, 1}, {4, 3000, 0, 0}, {4, 1000, 13, 0},
+               {4, 299, 10, 0},  {4, 300, 10, 1},  {4, 99, 7, 0},    {4, 99, 6, 1},   {3, 500, 0, 0}};
+  for (const auto& c : cases) {
+    TwoTeams();
+    game.Period = c.period;
+    game.GameClock = c.clock;
+    game.side[2].Score = c.margin;
+    RefreshCrunchTime();
+    EXPECT_EQ(game.CrunchTime, c.crunch) << c.clock << " " << c.margin;
+  }
+}
+
+TEST(SubScreens, RefuseWithTheirMessages) {
+  TwoTeams();
+  platform::ScriptedDialogs dialogs;
+  PlayerAt(2, 7).FirstName = "Al";
+  PlayerAt(2, 7).LastName = "Reed";
+  ManAt(2, 7).Energy = 79;
+  game.side[2].AutoSubWhenTired = 1;
+  HCQUICKSUB panel(2);
+  EXPECT_FALSE(panel.PutIn(2, 0));
+  EXPECT_FALSE(panel.PutIn(2, 7));
+  game.side[2].AutoSubWhenTired = 0;
+  game.side[2].AutoSubWhenFoulTrouble = 1;
+  PlayerAt(2, 7).Stats[3].Pf = 2;
+  EXPECT_FALSE(panel.PutIn(2, 7));
+  game.side[2].AutoSubWhenFoulTrouble = 0;
+  EXPECT_TRUE(panel.PutIn(1, 7));
+  panel.lineup[3] = 0;
+  EXPECT_FALSE(panel.Ok());
+  EXPECT_TRUE(panel.PutIn(3, 8));
+  game.GameState = "FREETHROW-WAIT";
+  EXPECT_FALSE(panel.Ok()) << "the shooter is missing";
+  EXPECT_EQ(game.side[2].Lineup[1], 1);
+  EXPECT_TRUE(panel.PutIn(2, 1));
+  EXPECT_TRUE(panel.Ok());
+  EXPECT_EQ(game.side[2].Lineup[2], 1);
+  ASSERT_EQ(dialogs.told.size(), 5u);
+  EXPECT_EQ(dialogs.told[0], "You must select a player!");
+  EXPECT_EQ(dialogs.told[1].substr(0, 20), "Al Reed is tired!. U");
+  EXPECT_EQ(dialogs.told[2].substr(0, 28), "Al Reed is in foul trouble!.");
+  EXPECT_EQ(dialogs.told[3], "You must fill all 5 lineup spots!");
+  EXPECT_NE(dialogs.told[4].find(" is at the line..he must be in the game!"), std::string::npos);
+}
+
+TEST(SubScreens, AskBeforeUsingAManOutOfPosition) {
+  TwoTeams();
+  platform::ScriptedDialogs dialogs;
+  dialogs.answers = {false, true};
+  HCquickOnePlayerSub list{1, 4};
+  EXPECT_FALSE(list.Choose(8));
+  EXPECT_EQ(game.side[1].Lineup[4], 4);
+  EXPECT_TRUE(list.Choose(8));
+  EXPECT_TRUE(list.Choose(9)) << "no question for a man who plays there";
+  EXPECT_EQ(game.side[1].Lineup[4], 9);
+  EXPECT_EQ(dialogs.asked.size(), 2u);
+}
+
+}  // namespace
+}  // namespace tipline

@@ -1,0 +1,338 @@
+#include "engine/clock.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+#include "support/two_teams.h"
+
+namespace tipline {
+namespace {
+
+using Change = std::function<void()>;
+
+/// A five that does just what its era does: neither changes the pace.
+void EvenPace() {
+  TwoTeams();
+  for (EraRecord& row : league.EraPro) row.PF = 99.9F;
+  league.EraCollege = league.EraPro;
+  game.MixedEras = 1;
+  game.side[2].CoachMode = "C";  // a human plays a little faster
+  for (int slot = 1; slot <= 5; ++slot) {
+    PlayerAt(2, slot).Stats[1].Pf = 1000;
+    PlayerAt(2, slot).Stats[1].Min = 2400;
+  }
+  game.PlayKind = "INSIDE";
+}
+
+// Draws of every play: before the era's pace, the era's own, those between it and the last trims, the trims
+// (five per cent off above eight seconds), those of the end.
+TEST(ChargeTime, TakesWhatThePlayTakes) {
+  // clang-format off
+  const struct {
+    const char* why;
+    Change change;
+    std::vector<double> base, middle, end;
+    int time;
+  } cases[] = {
+      {"fresh shot clock", [] {}, {30, 10}, {}, {}, 148},
+      {"very fast", [] { Offense().OffensePace = 4; }, {30, 10}, {}, {}, 91},
+      {"very slow", [] { Offense().OffensePace = 0; }, {30, 10}, {}, {}, 205},
+      {"a second and a half gone is still fresh", [] { game.ShotClock = 225; }, {30, 10}, {}, {}, 148},
+      {"any more is not", [] { game.ShotClock = 224; }, {10, 10}, {}, {}, 60},
+      {"as long as the shot clock: cut", [] { game.ShotClock = 81, Offense().OffensePace = 0; }, {20, 9, 11},
+       {}, {}, 70},
+      {"very slow plays the shot clock out", [] { game.ShotClock = 80, Offense().OffensePace = 0; }, {20},
+       {3}, {}, 77},
+      {"no shot clock", [] { league.rules.ShotClockList = 0; }, {30}, {}, {}, 157},
+      {"no shot clock, 1954", [] { league.rules.ShotClockList = 0, PlayerAt(2, 1).Year = 1954; }, {25}, {},
+       {}, 137},
+      {"bring-up before the last period", [] { setup.MoveUpList[1] = 2; }, {30, 10}, {}, {}, 150},
+      {"two minutes are too few in the last", [] { setup.MoveUpList[2] = 2, game.Period = 4; }, {30, 10}, {},
+       {}, 148},
+      {"late and behind", [] { game.Period = 4, game.GameClock = 249, game.side[1].Score = 1; }, {30, 10}, {},
+       {}, 47},
+      {"late, not late enough", [] { game.Period = 4, game.GameClock = 250, game.side[1].Score = 1; },
+       {30, 10}, {}, {}, 78},
+      {"break", [] { game.PlayKind = "FASTBREAK"; }, {30, 10, 10}, {}, {}, 40},
+      {"putback", [] { game.PlayKind = "OFFREB"; }, {30, 10, 10}, {}, {}, 35},
+      {"intentional foul", [] { game.play.IntentionalFoul = 1; }, {30, 10}, {}, {}, 47},
+      {"pass with a full shot clock", [] { game.call.PassMade = 1; }, {30, 10, 10}, {}, {}, 104},
+      {"quick shot", [] { Offense().QuickShot = 1, game.GameClock = 599; }, {30, 10}, {10, 20, 9}, {}, 39},
+      {"last shot", [] { Offense().LastShot = 1, game.GameClock = 239, game.ShotClock = 239; }, {30, 10}, {4},
+       {}, 223},
+      {"steal or foul in the last period", [] { Defense().StealFoul = 1, game.Period = 4; }, {30, 10},
+       {1000, 5, 7}, {}, 17},
+      {"burn", [] { game.PlayResult = "BURN", game.ShotClock = 120; }, {10, 10}, {12}, {}, 87},
+      {"burn with little left", [] { game.PlayResult = "BURN", game.ShotClock = 59; }, {10}, {20}, {}, 30},
+      {"up the floor", [] { game.PlayResult = "MOVE-UP"; }, {30, 10}, {10}, {}, 74},
+      {"up the floor, held to 9.9", [] { game.PlayResult = "MOVE-UP", Offense().OffensePace = 0; }, {30, 10},
+       {20}, {}, 94},
+      {"lost on the way", [] { game.PlayResult = "MOVE-UP-ST"; }, {30, 10}, {10}, {}, 48},
+      {"in from the backcourt", [] { game.DeadBallKind = 3, game.PlayResult = "IN-EZ"; }, {30, 10}, {10}, {},
+       75},
+      {"in from the frontcourt", [] { game.DeadBallKind = 2, game.PlayResult = "IN-EZ"; }, {30, 10}, {}, {},
+       1},
+      {"lost from the backcourt", [] { game.DeadBallKind = 4, game.PlayResult = "IN-OB"; }, {30, 10}, {10},
+       {}, 45},
+      {"lost from the frontcourt", [] { game.DeadBallKind = 1, game.PlayResult = "IN-ST"; }, {30, 10}, {3},
+       {}, 6},
+      {"five seconds", [] { game.DeadBallKind = 4, game.PlayResult = "IN-5"; }, {30, 10}, {}, {}, 1},
+      {"foul any shooter, at once", [] { Defense().QuickFoul = 1, game.GameClock = 500; }, {30, 10}, {},
+       {1, 5}, 8},
+      {"foul any shooter, a tenth earlier", [] { Defense().QuickFoul = 1, game.GameClock = 501; }, {30, 10},
+       {}, {1, 1, 10}, 13},
+      {"foul a poor shooter", [] { Defense().QuickFoul = 2, game.GameClock = 2400; }, {30, 10}, {},
+       {1, 1, 15}, 18},
+      {"foul the worst, long before the end", [] { Defense().QuickFoul = 3; }, {30, 10}, {},
+       {1, 1, 1, 10, 1, 7}, 20},
+      {"after a quick pass", [] { game.possession.JustQuickPassed = 1; }, {30, 10}, {}, {15}, 20},
+      {"no shot takes all", [] { game.PlayResult = "NOSHOT", game.GameClock = game.ShotClock = 100; },
+       {10, 10}, {}, {1}, 100},
+      {"held too early", [] { game.PlayResult = "HOLD BALL", game.GameClock = game.ShotClock = 100; },
+       {10, 10}, {}, {90}, 60},
+      {"held to the end", [] { game.PlayResult = "HOLD BALL", game.GameClock = game.ShotClock = 100; },
+       {10, 10}, {}, {91}, 100},
+      {"violation", [] { game.PlayResult = "SHOTCLOCK", game.ShotClock = 33; }, {10}, {}, {}, 33},
+      {"never more than is left", [] { game.GameClock = 41; }, {30, 10}, {}, {}, 41},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    EvenPace();
+    c.change();
+    std::vector<double> draws = c.base;
+    for (const auto& part : {std::vector<double>{1, 0, 0, 10}, c.middle, {40, 30, 1, 1}, c.end}) {
+      draws.insert(draws.end(), part.begin(), part.end());
+    }
+    random.Script(draws);
+    ChargeTime();
+    EXPECT_EQ(random.ScriptLeft(), 0u) << c.why;
+    random.Script({});
+    EXPECT_EQ(game.PlayTime, c.time) << c.why;
+  }
+}
+
+TEST(ChargeTime, ScalesAndWidensCollegePlays) {
+  EvenPace();
+  game.team[2].TeamType = "C";
+  for (int slot = 1; slot <= 5; ++slot) PlayerAt(2, slot).Year = 2009;  // no run-and-gun
+  PlayerAt(2, 5).Year = 1990;                                           // seasons far apart
+  std::vector<double> draws = {30, 10, 5, 1};
+  draws.insert(draws.end(), 16, 9.0);  // 10 + 9 years are a gap
+  for (const double d : {0.0, 0.0, 10.0, 40.0, 10.0, 30.0, 1.0, 1.0}) draws.push_back(d);
+  random.Script(draws);
+  ChargeTime();
+  random.Script({});
+  EXPECT_EQ(game.PlayTime, 211);  // 156 x 1.14 = 178, x 1.2 = 214, x 0.95 = 203, x 1.04 = 211
+}
+
+TEST(ChargeTime, LeavesTheClocksInOrder) {
+  EvenPace();
+  league.rules.ShotClockList = 0;
+  game.MomentumTime = 20;
+  random.Seed(3);
+  ChargeTime();
+  EXPECT_EQ(game.ShotClock, kNoShotClock);
+  EXPECT_EQ(game.MomentumTime, 0);
+  EXPECT_EQ(game.side[1].TimeSinceScore, game.PlayTime);
+  EvenPace();
+  game.GameClock = 249;
+  ChargeTime();
+  EXPECT_EQ(game.ShotClock, 249) << "without tenths the two clocks agree at the end";
+}
+
+TEST(ChargeTime, StandsBadData) {
+  for (unsigned seed = 1; seed <= 200; ++seed) {
+    TwoTeams();
+    league.EraPro = league.EraCollege = {};
+    random.Seed(seed);
+    game.team[2].TeamType = seed % 2 == 0 ? "C" : "A";
+    game.BallPlayer = 0;
+    game.side[2].Lineup.Fill(seed % 3 == 0 ? 0 : 2);
+    game.GameClock = static_cast<int>(seed % 7) * 30;
+    ChargeTime();
+    EXPECT_GE(game.PlayTime, 0);
+    EXPECT_LE(game.PlayTime, game.GameClock);
+  }
+}
+
+/// A play that uses up the period.
+void AtTheHorn(int period) {
+  TwoTeams();
+  random.Seed(11);
+  game.Period = period;
+  game.GameClock = game.PlayTime = 100;
+}
+
+TEST(EndPlay, KeepsThePeriodForFreeThrows) {
+  const struct {
+    const char* why;
+    Change change;
+    int period;
+  } cases[] = {
+      {"a miss ends it", [] { game.PlayResult = "M"; }, 2},
+      {"fouled on a made shot", [] { game.PlayResult = "GF"; }, 1},
+      {"fouled on a three", [] { game.PlayResult = "M3F"; }, 1},
+      {"one and one", [] { game.PlayResult = "F1-1"; }, 1},
+      {"no shots for this one", [] { game.PlayResult = "F0"; }, 2},
+      {"between the shots", [] { game.PlayResult = "FTG", game.PlayKind = "SHOOT1"; }, 1},
+      {"after the last", [] { game.PlayKind = "ENDPERIOD", game.GameState = "FREETHROW-SHOOT"; }, 2},
+      {"no shot ends it at once", [] { game.PlayResult = "NOSHOT", game.PlayKind = "SHOOT1"; }, 2},
+      {"so does its mark", [] { game.PlayResult = "F2", game.play.NoShotEnd = 1; }, 2},
+      {"a tenth is left", [] { game.PlayTime = 99; }, 1},
+  };
+  for (const auto& c : cases) {
+    AtTheHorn(1);
+    c.change();
+    EndPlay();
+    EXPECT_EQ(game.Period, c.period) << c.why;
+  }
+}
+
+TEST(EndPlay, GivesTheBallByTheOpeningTip) {
+  const struct {
+    const char* why;
+    int periods, ended, winner, offense;
+    bool jump;
+  } cases[] = {
+      {"second of four: the loser", 4, 1, 2, 1, false},  {"third of four: the loser", 4, 2, 1, 2, false},
+      {"fourth of four: the winner", 4, 3, 2, 2, false}, {"second half: the loser", 2, 1, 1, 2, false},
+      {"unknown: side 1 won it", 2, 1, 0, 2, false},     {"three periods: as it was", 3, 1, 1, 2, false},
+      {"a jump opens every period", 4, 1, 2, 2, true},
+  };
+  for (const auto& c : cases) {
+    AtTheHorn(c.ended);
+    league.rules.PeriodList = static_cast<u8>(c.periods);
+    league.rules.QuarterJumpCheck = c.jump ? 1 : 0;
+    game.OpeningTipWinner = c.winner;
+    game.side[1].TeamFouls = 4;
+    game.LastSubClock = 50;
+    game.PlayResult = "M";
+    EndPlay();
+    EXPECT_EQ(game.OffenseSide, c.offense) << c.why;
+    EXPECT_EQ(game.DefenseSide, 3 - c.offense) << c.why;
+    EXPECT_TRUE(game.GameState == (c.jump ? GameState("JUMPBALL-1") : GameState("QUARTER-DEFENSE"))) << c.why;
+    EXPECT_EQ(game.GameClock, 7200) << c.why;
+    EXPECT_EQ(game.side[1].TeamFouls, 0) << c.why;
+  }
+}
+
+TEST(EndPlay, EndsOrProlongsTheGame) {
+  AtTheHorn(4);
+  game.side[2].Score = 1;
+  EndPlay();
+  EXPECT_TRUE(game.GameOver && game.GameDone);
+  EXPECT_EQ(game.Period, 4);
+  for (const int period : {4, 5, 45}) {  // a tie after the last period and after any overtime
+    AtTheHorn(period);
+    league.rules.OverTimeList = period == 5 ? 0 : 5;
+    ManAt(1, 3).FatigueLoad = 9000;
+    ManAt(1, 3).Energy = 12;
+    EndPlay();
+    EXPECT_FALSE(game.GameOver);
+    EXPECT_EQ(game.Period, period + 1);
+    EXPECT_EQ(game.GameClock, period == 5 ? 600 : 3000);
+    EXPECT_EQ(ManAt(1, 3).Energy, 100);
+    EXPECT_TRUE(game.GameState == "JUMPBALL-1");
+  }
+}
+
+TEST(EndPlay, FoldsPeriodsIntoHalves) {
+  TwoTeams();
+  random.Seed(1);
+  for (const int points : {9, 4, 6}) {
+    game.GameClock = game.PlayTime = 100;
+    game.side[1].Score += points;
+    ManAt(1, 2).PeriodStatLine.Points = points;
+    EndPlay();
+  }
+  EXPECT_EQ(game.side[1].HalfScore, 13);
+  EXPECT_EQ(ManAt(1, 2).BestPeriodLine.Points, 9);
+  EXPECT_EQ(ManAt(1, 2).BestHalfLine.Points, 13);
+  EXPECT_EQ(ManAt(1, 2).HalfStatLine.Points, 6);
+  EXPECT_EQ(ManAt(1, 2).PeriodStatLine.Points, 0);
+}
+
+TEST(EndPlay, ChargesTimeAndThePress) {
+  TwoTeams();
+  game.PlayTime = 102;
+  game.PlayKind = "OFFREB";
+  league.rules.ShotClockResetList = 14;
+  Defense().Pressure = 2;
+  EndPlay();
+  EXPECT_EQ(game.GameClock, 4898);
+  EXPECT_EQ(game.ShotClock, 140) << "off the rim";
+  EXPECT_EQ(ManAt(1, 4).FatigueLoad, 153);
+  EXPECT_EQ(ManAt(2, 4).FatigueLoad, 102) << "the offense does not press";
+  EXPECT_EQ(ManAt(1, 4).PositionTime[4], 102);
+  EXPECT_EQ(ManAt(1, 4).PlayerGameTime, 102);
+  EXPECT_EQ(ManAt(1, 9).RestTime, 302);
+  EXPECT_EQ(ManAt(1, 4).RestTime, 0);
+  game.play.Blocked = true;
+  EndPlay();
+  EXPECT_EQ(game.ShotClock, 38) << "no rim";
+}
+
+TEST(EndPlay, RaisesTeamFoulsLateInThePeriod) {
+  const struct { int clock, fouls, then; } cases[] = {{1201, 0, 0}, {1200, 0, 3}, {1200, 4, 4}};
+  for (const auto& c : cases) {
+    TwoTeams();
+    league.rules.PenaltyUnderTwoMinutesCheck = 1;
+    league.rules.FoulLimit[1] = 5;
+    game.GameClock = c.clock;
+    game.side[2].TeamFouls = c.fouls;
+    EndPlay();
+    EXPECT_EQ(game.side[2].TeamFouls, c.then) << c.clock;
+  }
+}
+
+TEST(EndPeriodNotice, WaitsForFreeThrowsAndRunsOnce) {
+  AtTheHorn(2);
+  ManAt(1, 1).TemporaryInjury = 9;
+  ManAt(2, 1).TemporaryInjury = 3;
+  game.PlayResult = "G3F";
+  EndPeriodNotice();
+  EXPECT_TRUE(game.PlayKind == "");
+  game.PlayResult = "M";
+  Offense().OffensePace = 4;
+  Offense().QuickFoul = 2;
+  EndPeriodNotice();
+  EndPeriodNotice();
+  EXPECT_TRUE(game.PlayKind == "ENDPERIOD");
+  EXPECT_EQ(Offense().OffensePace, 2);
+  EXPECT_EQ(Offense().QuickFoul, 0);
+  EXPECT_EQ(ManAt(1, 1).TemporaryInjury, 7);
+  EXPECT_EQ(ManAt(2, 1).TemporaryInjury, 0);
+}
+
+TEST(EndPeriodNotice, LimitsTimeoutsInTheirOrder) {
+  const struct {
+    const char* why;
+    int lastPeriod, last3, overtime, period, clock, left, then;
+  } cases[] = {
+      {"third quarter is over", 4, 2, 1, 3, 0, 6, 4}, {"second is not the one", 4, 2, 1, 2, 0, 6, 6},
+      {"no list, no limit", 0, 0, 0, 3, 0, 6, 6},     {"last three minutes", 4, 2, 1, 4, 1799, 6, 2},
+      {"just before them", 4, 2, 1, 4, 1800, 6, 6},   {"no list for them", 4, 0, 1, 4, 900, 6, 6},
+      {"a number for overtime", 0, 0, 3, 4, 0, 1, 3}, {"one more for overtime", 0, 0, 4, 4, 0, 1, 2},
+      {"two more for overtime", 0, 0, 5, 5, 0, 1, 3}, {"no list for overtime", 0, 0, 0, 4, 0, 1, 1},
+  };
+  for (const auto& c : cases) {
+    TwoTeams();
+    league.rules.LastPeriodTimeoutList = static_cast<u8>(c.lastPeriod);
+    league.rules.Last3MinTimeoutList = static_cast<u8>(c.last3);
+    league.rules.OvertimeTimeoutList = static_cast<u8>(c.overtime);
+    game.Period = c.period;
+    game.side[1].TimeoutsLeft = c.left;
+    if (c.clock == 0) {
+      EndPeriodNotice();
+    } else {
+      game.GameClock = c.clock;
+      EndPlay();
+    }
+    EXPECT_EQ(game.side[1].TimeoutsLeft, c.then) << c.why;
+  }
+}
+
+}  // namespace
+}  // namespace tipline

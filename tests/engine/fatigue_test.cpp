@@ -1,0 +1,115 @@
+#include "engine/fatigue.h"
+
+#include <gtest/gtest.h>
+
+#include "support/two_teams.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kOnFloor = 3, kOnBench = 8;  // both with a stint of 5000 and a rest of 1200
+
+TEST(UpdateEnergy, FallsWithTheLoad) {
+  const struct {
+    const char* why;
+    int slot, load, rest, energy, loadThen, restThen;
+  } cases[] = {
+      {"the first tenth of a stint is free", kOnFloor, 499, 0, 100, 499, 0},
+      {"tiring begins", kOnFloor, 500, 0, 99, 500, 0},
+      {"half way", kOnFloor, 2765, 0, 90, 2765, 0},
+      {"end of the stint", kOnFloor, 5029, 0, 80, 5029, 0},
+      {"overworked", kOnFloor, 5030, 0, 79, 5030, 0},
+      {"a point for six seconds", kOnFloor, 5330, 0, 74, 5330, 0},
+      {"nothing left", kOnFloor, 90000, 0, 0, 90000, 0},
+      {"rest on the floor does not count", kOnFloor, 5030, 4000, 79, 5030, 4000},
+      {"early in the rest", kOnBench, 5030, 299, 79, 5030, 299},
+      {"late in it the load falls", kOnBench, 5030, 300, 79, 4730, 300},
+      {"never below nothing", kOnBench, 200, 1199, 100, 0, 1199},
+      {"rested: all is back at once", kOnBench, 5030, 1200, 100, 0, 0},
+      {"rest is held to eight minutes", kOnFloor, 0, 9000, 100, 0, 4800},
+  };
+  for (const auto& c : cases) {
+    TwoTeams();
+    Man& man = ManAt(1, c.slot);
+    man.FatigueLoad = c.load;
+    man.RestTime = c.rest;
+    UpdateEnergy(1, c.slot);
+    EXPECT_EQ(man.Energy, c.energy) << c.why;
+    EXPECT_EQ(man.FatigueLoad, c.loadThen) << c.why;
+    EXPECT_EQ(man.RestTime, c.restThen) << c.why;
+  }
+}
+
+TEST(TimeoutRest, GivesFifteenSecondsToAllWhoAreIn) {
+  TwoTeams();
+  for (int slot = 1; slot <= kMen; ++slot) ManAt(2, slot).FatigueLoad = 3000;
+  LoadedAt(2, 4).PlayerOut = 1;
+  TimeoutRest();
+  EXPECT_EQ(ManAt(2, kOnFloor).FatigueLoad, 2850);
+  EXPECT_EQ(ManAt(2, kOnBench).RestTime, 350);
+  EXPECT_EQ(ManAt(2, 4).FatigueLoad, 3000);
+}
+
+TEST(SetStints, StaysInBoundsAndRunsWithTheMinutes) {
+  TwoTeams();
+  for (int slot = 1; slot <= kMen; ++slot) PlayerAt(1, slot).TargetMinutes = static_cast<u8>(slot * 5);
+  PlayerAt(1, 1).TargetMinutes = 0;  // 30.5 real minutes round to 31
+  PlayerAt(1, 1).Stats[1].G = 10;
+  PlayerAt(1, 1).Stats[1].Min = 305;
+  SetStints(1);
+  EXPECT_EQ(LoadedAt(1, 1).PlayLength, 4500);
+  EXPECT_EQ(LoadedAt(1, 2).PlayLength, 3000);
+  EXPECT_EQ(LoadedAt(1, 2).RestLength, 2400);
+  EXPECT_EQ(LoadedAt(1, 8).PlayLength, 7200);
+  EXPECT_EQ(LoadedAt(1, 8).RestLength, 800);
+  EXPECT_EQ(LoadedAt(1, 10).RestLength, 300);
+  program.PlayoffGame = true;
+  SetStints(1);
+  EXPECT_EQ(LoadedAt(1, 8).RestLength, 680);
+  program.PlayoffGame = false;
+  league.rules.PeriodList = 2;
+  SetStints(1);
+  EXPECT_EQ(LoadedAt(1, 5).PlayLength, 4800) << "25 of 40 minutes are 30 of 48";
+}
+
+TEST(EmptyFouledOut, RefillsOnlyWithFiveMenLeft) {
+  const struct {
+    const char* why;
+    int men, left;
+  } cases[] = {{"a bench", kMen, 5}, {"six men, five can play", 6, 5}, {"five men, four can play", 5, 4}};
+  for (const auto& c : cases) {
+    TwoTeams();
+    for (int slot = c.men + 1; slot <= kMen; ++slot) PlayerAt(1, slot) = {};
+    PlayerAt(1, 2).Stats[3].Pf = 6;
+    EmptyFouledOut();
+    int left = 0;
+    for (const int slot : game.side[1].Lineup) left += slot > 0 ? 1 : 0;
+    EXPECT_EQ(left, c.left) << c.why;
+    EXPECT_EQ(PositionOf(1, 2), 0) << c.why;
+  }
+}
+
+TEST(LineupCheck, LooksOnlyWithAReason) {
+  const auto changed = [] {
+    game.side[1].Lineup[4] = 3;  // a man who stands twice tells whether anybody looked
+    for (int side = 1; side <= 2; ++side) {
+      for (int slot = 1; slot <= 5; ++slot) LoadedAt(side, slot).PlayLength = 14000;
+    }
+    PlayerAt(1, 3).DepthRank[4] = 6;
+    LineupCheck();
+    return game.side[1].Lineup[4] != 3;
+  };
+  TwoTeams();
+  EXPECT_FALSE(changed());
+  TwoTeams();
+  ManAt(2, 5).Energy = 99;
+  EXPECT_TRUE(changed());
+  TwoTeams();
+  game.play.Fouler = 9;
+  game.play.FoulingSide = 2;
+  PlayerAt(2, 9).Stats[3].Pf = 2;
+  EXPECT_TRUE(changed()) << "more fouls than periods";
+}
+
+}  // namespace
+}  // namespace tipline

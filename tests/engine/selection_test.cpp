@@ -1,0 +1,226 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "engine/shot_selection.h"
+#include "support/neutral_game.h"
+
+namespace tipline {
+namespace {
+
+void SetUpSet() {
+  SetUpNeutralGame();
+  game.GameState = "OFFENSE";
+  game.PlayKind = "";
+  game.PutbackClass = 0;
+  for (int s = 1; s <= 2; ++s) {
+    game.side[s].Option = {};
+    game.coach[s].Coverage3[0] = game.coach[s].Coverage4[0] = game.coach[s].Coverage5[0] = 2;
+    for (int p = 1; p <= 5; ++p) {
+      for (int k = 1; k <= 5; ++k) game.player[s][p].ShotSelection[k] = 3;
+      game.player[s][p].HeightFeet = 6;
+      game.player[s][p].HeightInches = static_cast<u8>(p * 2);
+      game.player[s][p].RateDefInside = 4;
+    }
+  }
+}
+
+struct Picks {
+  int count[4] = {};
+};
+Picks Draw(void (*change)(), int times = 400) {
+  Picks picks;
+  SetUpSet();
+  change();
+  const Game start = game;
+  for (int k = 0; k < times; ++k) {
+    game = start;
+    random.Seed(static_cast<std::uint64_t>(k));
+    SetOpenStatus();
+    for (int p = 1; p <= 5; ++p) ++picks.count[game.man[2][p].ShotPick];
+  }
+  return picks;
+}
+
+TEST(OpenStatus, PicksFollowTheRealMix) {
+  const Picks plain = Draw([] {});
+  EXPECT_EQ(plain.count[0], 0);
+  // 121 threes against 1315 plays less the breaks' six per cent.
+  EXPECT_NEAR(plain.count[kThree], 2000 * 121 / 1236.0, 60);
+  EXPECT_EQ(Draw([] { Rules().ThreePointCheck = 0; }).count[kThree], 0) << "no line, no threes";
+  EXPECT_GT(Draw([] { game.coach[2].Coverage5[0] = 4; }).count[kThree], plain.count[kThree]);
+  EXPECT_GT(Draw([] {
+              for (int p = 1; p <= 5; ++p) game.player[2][p].ShotSelection[3] = 5;
+            }).count[kThree],
+            plain.count[kThree] * 4 / 3);
+  EXPECT_LT(Draw([] { D().DefenseType = 2; }).count[kInside], plain.count[kInside])
+      << "a zone keeps them out";
+}
+
+TEST(OpenStatus, TheWishForNoInsideMenHoldsHalfOfTheTime) {
+  int none = 0;
+  SetUpSet();
+  const Game start = game;
+  for (int k = 0; k < 600; ++k) {
+    game = start;
+    O().InsideOffense = 0;
+    random.Seed(static_cast<std::uint64_t>(k));
+    SetOpenStatus();
+    int inside = 0;
+    for (int p = 1; p <= 5; ++p) inside += game.man[2][p].ShotPick == kInside ? 1 : 0;
+    none += inside == 0 ? 1 : 0;
+  }
+  EXPECT_GT(none, 30);
+  EXPECT_LT(none, 300);
+}
+
+TEST(OpenStatus, StandingOrders) {
+  for (const int order : {kInside, kOutside, kThree}) {
+    int same = 0;
+    for (int k = 0; k < 300; ++k) {
+      SetUpSet();
+      for (int p = 1; p <= 5; ++p) game.man[2][p].GlobalOffense = order;
+      random.Seed(static_cast<std::uint64_t>(k));
+      O().InsideOffense = 9;
+      SetOpenStatus();
+      same += game.man[2][2].ShotPick == order ? 1 : 0;
+    }
+    EXPECT_GT(same, order == kInside ? 120 : 150) << order;
+  }
+}
+
+TEST(OpenStatus, NoTwoMenOnOneSpot) {
+  SetUpSet();
+  const Game start = game;
+  for (int k = 0; k < 300; ++k) {
+    game = start;
+    random.Seed(static_cast<std::uint64_t>(k));
+    SetOpenStatus();
+    std::set<int> spots;
+    for (int p = 1; p <= 5; ++p) {
+      const Man& man = game.man[2][p];
+      spots.insert(man.CourtSpot);
+      EXPECT_EQ(man.CourtSpot / 100, man.ShotPick);
+      EXPECT_EQ(man.NaturalZone, man.ShotPick);
+    }
+    EXPECT_EQ(spots.size(), 5u);
+  }
+}
+
+TEST(OpenStatus, AQuickPassOnlyShiftsTheOrder) {
+  SetUpSet();
+  game.possession.JustQuickPassed = 1;
+  game.possession.PreviousSlot = 2;
+  game.BallSlot = 4;
+  game.man[2][3].ShotPick = kThree;
+  SetOpenStatus();
+  EXPECT_EQ(O().Option[4], 3);
+  EXPECT_GE(O().Option[2], 2);
+  EXPECT_EQ(game.man[2][3].ShotPick, kThree);
+}
+
+int WithBall(int position, void (*change)(), int times = 1000) {
+  int count = 0;
+  SetUpSet();
+  for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kInside;
+  change();
+  const Game start = game;
+  for (int k = 0; k < times; ++k) {
+    game = start;
+    random.Seed(static_cast<std::uint64_t>(k));
+    FindShooter();
+    count += game.BallSlot == position ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(Shooter, OptionsRatingsAndOrders) {
+  EXPECT_NEAR(WithBall(3, [] {}), 200, 60) << "all alike";
+  EXPECT_GT(WithBall(3, [] { O().Option[3] = 3; }), 500) << "the drawn place may have a first option too";
+  EXPECT_LT(WithBall(3, [] { game.player[2][3].ShotSelection[1] = 1; }), 5);
+  EXPECT_EQ(WithBall(3, [] { O().Lineup[3] = 0; }), 0);
+  EXPECT_LT(WithBall(3, [] { game.player[2][3].PrimaryPosition = 0; }), 5)
+      << "a man without a position of his own";
+}
+
+TEST(Shooter, AFoulingDefenseFindsThePoorestShooter) {
+  EXPECT_GT(WithBall(4,
+                     [] {
+                       D().QuickFoul = 2;
+                       game.player[2][4].Stats[1].FTM = 100;
+                     }),
+            800);
+}
+
+TEST(Shooter, EndsEvenWithNobodyToChoose) {
+  SetUpSet();
+  for (int p = 1; p <= 5; ++p) game.player[2][p].PrimaryPosition = 0;
+  FindShooter();
+  EXPECT_GT(game.BallPlayer, 0);
+  O().Lineup = {};
+  FindShooter();
+  EXPECT_EQ(game.BallPlayer, 0);
+}
+
+TEST(FastBreak, NumbersAndPlaces) {
+  SetUpSet();
+  const Game start = game;
+  for (int k = 0; k < 500; ++k) {
+    game = start;
+    game.GameState = "FASTBREAK";
+    game.PlayResult = k % 2 ? PlayResult("ST") : PlayResult("DEFREB");
+    game.fastBreak.BreakStealer = k % 2 ? 3 : 0;
+    random.Seed(static_cast<std::uint64_t>(k));
+    SetFastbreakNumbers();
+    int runners = 0, back = 0;
+    std::set<int> spots;
+    for (int p = 1; p <= 5; ++p) {
+      const Man& man = game.man[2][p];
+      runners += man.InBreak;
+      back += game.man[1][p].DefendsBreak;
+      if (!man.InBreak) continue;
+      spots.insert(man.BreakSpot);
+      EXPECT_TRUE((man.BreakSpot >= 101 && man.BreakSpot <= 104) ||
+                  (man.BreakSpot >= 201 && man.BreakSpot <= 208) ||
+                  (man.BreakSpot >= 301 && man.BreakSpot <= 309))
+          << man.BreakSpot;
+    }
+    EXPECT_EQ(runners, game.fastBreak.BreakAttackers);
+    EXPECT_EQ(back, game.fastBreak.BreakDefenders);
+    EXPECT_GE(runners, 2);
+    EXPECT_EQ(spots.size(), static_cast<std::size_t>(runners));
+    if (k % 2) {
+      EXPECT_EQ(game.man[2][3].InBreak, 1) << "the thief runs";
+    }
+    FindShooter();
+    EXPECT_EQ(game.man[2][game.BallPlayer].InBreak, 1);
+  }
+}
+
+TEST(KickOut, NeedsRoom) {
+  const struct {
+    const char* why;
+    int clock, time, lead;
+    const char* kind;
+    bool done;
+  } cases[] = {{"time enough", 3000, 50, 0, "DRIVE", true},
+               {"five seconds", 49, 0, 0, "DRIVE", false},
+               {"five seconds, three ahead", 49, 0, 3, "DRIVE", true},
+               {"no time behind the first move", 79, 50, 0, "DRIVE", false},
+               {"a three by a side three ahead", 500, 50, 3, "THREE", false}};
+  for (const auto& c : cases) {
+    SetUpSet();
+    game.Period = 4;
+    game.GameClock = c.clock;
+    game.PlayTime = c.time;
+    O().Score = c.lead;
+    (void)game.PlayKind.Set(c.kind);
+    for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kOutside;
+    game.BallPlayer = game.BallSlot = 2;
+    EXPECT_EQ(KickOut(), c.done) << c.why;
+    EXPECT_EQ(game.BallPlayer != 2, c.done) << c.why;
+  }
+}
+
+}  // namespace
+}  // namespace tipline

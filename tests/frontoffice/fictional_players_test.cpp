@@ -1,0 +1,133 @@
+#include "frontoffice/fictional_players.h"
+
+#include <gtest/gtest.h>
+
+#include "base/random.h"
+#include "base/record_file.h"
+#include "frontoffice/league_maker.h"
+#include "league/files.h"
+#include "league/recent.h"
+#include "league/roster.h"
+#include "platform/dialogs.h"
+#include "support/eras.h"
+#include "support/temp_home.h"
+
+namespace tipline {
+namespace {
+
+/// A league of two teams of 12 men on the disk, opened.
+class FictionalPlayers : public testing::Test {
+ protected:
+  void SetUp() override {
+    LoadShippedEras();
+    LeagueRequest request;
+    request.Name = "Small";
+    request.Preset = "historic";
+    request.Divisions = 1;
+    request.Teams = 2;
+    std::string message;
+    ASSERT_TRUE(MakeLeague(request, message)) << message;
+    program.LeagueFolder = LeaguesFolder() / "Small";
+    LoadAllTeams();
+    random.Seed(1);
+  }
+  void TearDown() override { league.team = {}; }
+
+  HcCreateFictionalPlayer Request(int quantity, int team) const {
+    HcCreateFictionalPlayer screen;
+    screen.FictionQuantity = quantity;
+    screen.FictionPosition = 0;
+    screen.FictionQuality = 3;
+    screen.FictionTeam = team;
+    return screen;
+  }
+
+  TempHome home;
+  platform::ScriptedDialogs dialogs;
+};
+
+TEST_F(FictionalPlayers, RefusedWithTheirMessages) {
+  const struct {
+    int quantity, position, quality, team;
+    const char* message;
+  } cases[] = {
+      {1, -1, 3, 999, "Please Select A Position!"},
+      {1, 0, -1, 999, "Please Select A Player Quality!"},
+      {0, 0, 3, 999, "Select A Quantity Of Players To Create!"},
+      {5001, 0, 3, 999, "The Maximum Quantity Of Players To Create Is 5000!"},
+  };
+  const int rows = PlayerRows();
+  for (const auto& c : cases) {
+    HcCreateFictionalPlayer screen = Request(c.quantity, c.team);
+    screen.FictionPosition = c.position;
+    screen.FictionQuality = c.quality;
+    EXPECT_FALSE(screen.CreateCommand());
+    EXPECT_EQ(dialogs.told.back(), c.message);
+  }
+  EXPECT_FALSE(Request(19, 1).CreateCommand()) << "18 slots are free";
+  EXPECT_EQ(dialogs.told.back(),
+            "A Maximum Of 18 Players May Be Created For " + league.team[1].City.Str() + "!");
+  EXPECT_EQ(PlayerRows(), rows);
+}
+
+TEST_F(FictionalPlayers, FillOneTeam) {
+  const int rows = PlayerRows();
+  HcCreateFictionalPlayer screen = Request(18, 1);
+  screen.FictionYear = 2020;
+  ASSERT_TRUE(screen.CreateCommand());
+  EXPECT_EQ(dialogs.told.back(), "18 Players Created!");
+  EXPECT_EQ(PlayerRows(), rows + 18);
+  Roster roster;
+  ASSERT_TRUE(ReadRoster(1, roster));
+  for (int slot = 13; slot <= 30; ++slot) {
+    EXPECT_EQ(roster.player[slot].RecNo, rows + slot - 12);
+    EXPECT_EQ(roster.player[slot].TeamNo, 1);
+    EXPECT_EQ(roster.player[slot].Year, 1965) << "the team's year goes before the chosen one";
+  }
+  EXPECT_EQ(roster.player[13].PrimaryPosition, 1) << "mixed positions from point guard";
+  EXPECT_EQ(roster.player[30].PrimaryPosition, 5) << "to centre";
+}
+
+TEST_F(FictionalPlayers, LeagueWideToTheTeamInNeedThenToThePool) {
+  HcCreateFictionalPlayer screen = Request(5, kFreeAgent);
+  screen.LeagueWide = true;
+  screen.FictionMaxPerTeam = 14;  // two more on each of two teams
+  ASSERT_TRUE(screen.CreateCommand());
+  EXPECT_EQ(dialogs.told.back(), " Players Created: 5\nAssigned To Teams: 4\nFree Agents: 1");
+  PlayerRecord last;
+  ReadPlayer(PlayerRows(), last);
+  EXPECT_EQ(last.TeamNo, kFreeAgent);
+}
+
+TEST_F(FictionalPlayers, NeedIsCountedByPosition) {
+  TeamNeeds needs;
+  PlayerRecord p;
+  p.PrimaryPosition = 2, p.SecondaryPosition = 1, p.SpotPosition = 3;
+  p.Stats[1].Min = 800;
+  needs.Count(1, p, true);
+  EXPECT_EQ(needs.TeamNeed[1][2], 600);
+  EXPECT_EQ(needs.TeamNeed[1][1] + needs.TeamNeed[1][3], 200);
+  EXPECT_EQ(needs.NeediestTeam(2, 15), 2) << "team 2 has no minutes there";
+  EXPECT_EQ(needs.NeediestTeam(4, 15), 2) << "equal need: fewer men";
+  needs.Count(2, p, false);
+  EXPECT_EQ(needs.NeediestTeam(4, 15), 1) << "all equal: the lower number";
+  EXPECT_EQ(needs.NeediestTeam(4, 1), kFreeAgent) << "both full";
+}
+
+TEST_F(FictionalPlayers, NameFiles) {
+  const auto lastNames = program.ProgramFolder / "VTX-Fiction-Last.txt";
+  EXPECT_FALSE(std::filesystem::exists(lastNames));
+  EXPECT_GE(LoadFictionFiles().Last.size(), 1000u) << "filled at the first use";
+  EXPECT_TRUE(std::filesystem::exists(program.ProgramFolder / "VTX-Fiction-City.txt"));
+  ASSERT_TRUE(
+      WriteWholeFile(program.ProgramFolder / "VTX-Fiction-College.txt", "One,\"Two, Three\"\nFour\n"));
+  EXPECT_EQ(LoadFictionFiles().College, (std::vector<std::string>{"One", "Two, Three", "Four"}));
+  ASSERT_TRUE(WriteWholeFile(lastNames, "Only\nNine\n"));
+  const int rows = PlayerRows();
+  EXPECT_FALSE(Request(1, kFreeAgent).CreateCommand());
+  EXPECT_EQ(dialogs.told.back(), "Missing ORV Fiction Data Files!");
+  EXPECT_EQ(PlayerRows(), rows);
+}
+
+}  // namespace
+}  // namespace tipline
