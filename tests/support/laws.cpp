@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "engine/fatigue.h"
+#include "engine/eligible.h"
 #include "engine/game_state.h"
 
 namespace tipline {
@@ -47,7 +47,7 @@ struct Sums {
 
 /// Can play, and the limit of men who may appear in a game does not keep him on the bench.
 bool MayPlay(int side, int slot) {
-  if (!CanPlay(side, slot)) return false;
+  if (!IsEligible(side, slot)) return false;
   const int limit = league.rules.RosterLimitList;
   int played = 0;
   for (int k = 1; k <= kRosterSlots; ++k) played += ManAt(side, k).PlayerGameTime > 0 ? 1 : 0;
@@ -186,7 +186,7 @@ void JudgeFloor(Judge& judge, int side) {
     judge.Law(slot >= 0 && slot <= kRosterSlots, "a man on the floor has a roster place", side, slot);
     if (slot == 0) continue;
     judge.Law(OnTeam(side, slot), "a man on the floor belongs to the team", side, slot);
-    judge.Law(CanPlay(side, slot), "nobody on the floor is out, hurt or at the foul limit", side, slot);
+    judge.Law(IsEligible(side, slot), "nobody on the floor is out, hurt or at the foul limit", side, slot);
     for (int b = a + 1; b <= kPositions; ++b) {
       judge.Law(s.Lineup[b] != slot, "nobody stands in two positions", side, slot, a);
     }
