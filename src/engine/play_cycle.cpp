@@ -344,7 +344,7 @@ void JumpBall() {
   EndPlay();
   if (game.GameOver || game.Period != period) return;
   if (!game.PeriodStart && league.rules.ShotClockList > 0) {
-    game.ShotClock = changed ? FullShotClock() : std::max(game.ShotClock, 50);
+    game.ShotClock = changed ? FullShotClock() : std::min(std::max(game.ShotClock, 50), FullShotClock());
   }
   game.DeadBallKind = game.NeedsBringUp = 0;
   game.GameState = "OFFENSE";

@@ -284,9 +284,10 @@ void OffensiveRebound() {
   game.GameState = running ? GameState("OFFENSE") : GameState("OFFREB");
   game.PlayKind = "OFFREB";
   if (!game.play.Blocked && !game.play.AirBall) {
-    const int reset = league.rules.ShotClockResetList;
-    game.ShotClock = reset > 0 && league.rules.ShotClockList > 0 ? reset * 10 : FullShotClock();
-    game.ShotClock = std::min(game.ShotClock, game.GameClock);
+    const int full = FullShotClock();
+    const int reset = league.rules.ShotClockResetList * 10;
+    const int rule = reset > 0 && league.rules.ShotClockList > 0 ? std::min(reset, full) : full;
+    game.ShotClock = std::min<int>(rule, game.GameClock);
   }
 }
 
