@@ -72,7 +72,7 @@ std::vector<int> BoxOrder(int side) {
   const auto starters = static_cast<std::ptrdiff_t>(order.size());
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     const bool listed = std::find(order.begin(), order.begin() + starters, slot) != order.begin() + starters;
-    if (OnTeam(side, slot) && !listed && PlayerAt(side, slot).Stats[3].G > 0) order.push_back(slot);
+    if (OnTeam(side, slot) && !listed && ManAt(side, slot).PlayerGameTime > 0) order.push_back(slot);
   }
   std::stable_sort(order.begin() + starters, order.end(), [side](int a, int b) {
     return ManAt(side, a).PlayerGameTime > ManAt(side, b).PlayerGameTime;

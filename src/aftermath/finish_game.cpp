@@ -1,11 +1,10 @@
 #include "aftermath/finish_game.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <limits>
 
 #include "engine/eligible.h"
 #include "engine/game_state.h"
-#include "engine/resolution.h"
 #include "league/program.h"
 
 namespace tipline {
@@ -19,10 +18,12 @@ void Add(Counter& counter, int value) {
   counter = static_cast<Counter>(Clamp(counter + value, low, high));
 }
 
-constexpr i16 StatLine::*kCounters[] = {&StatLine::FGA, &StatLine::FGM,  &StatLine::F3A, &StatLine::F3M,
-                                        &StatLine::FTA, &StatLine::FTM,  &StatLine::Reb, &StatLine::Off,
-                                        &StatLine::Ast, &StatLine::St,   &StatLine::Bk,  &StatLine::To,
-                                        &StatLine::Pf,  &StatLine::Dunks};
+// clang-format off
+constexpr i16 StatLine::*kCounters[] = {
+    &StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA, &StatLine::FTM, &StatLine::Reb,
+    &StatLine::Off, &StatLine::Ast, &StatLine::St,  &StatLine::Bk,  &StatLine::To,  &StatLine::Pf,  &StatLine::Dq,
+    &StatLine::Dunks};
+// clang-format on
 
 void AddLine(StatLine& to, const StatLine& from) {
   for (const auto counter : kCounters) Add(to.*counter, from.*counter);
@@ -42,28 +43,44 @@ bool HasPlayed(int side, int slot) {
 void CloseGameLine(int side, int slot) {
   StatLine& line = PlayerAt(side, slot).Stats[3];
   line.Min = static_cast<i16>(ManAt(side, slot).PlayerGameTime / kMinute);
-  line.G = 1;
+  line.G = line.Min > 0 ? 1 : 0;
   line.Dq = FouledOut(line) ? 1 : 0;
 }
 
-constexpr Table<i16, 2, 3> PlayerRecord::*kSplits[] = {&PlayerRecord::ShotAttInside,
-                                                       &PlayerRecord::ShotAttOutside,
-                                                       &PlayerRecord::ShotAttThree,
-                                                       &PlayerRecord::ShotAttDrive,
-                                                       &PlayerRecord::ShotAttFastbreak2,
-                                                       &PlayerRecord::ShotAttOffReb2,
-                                                       &PlayerRecord::ShotAttFastbreak3,
-                                                       &PlayerRecord::ShotAttOffReb3,
-                                                       &PlayerRecord::ShotMadeInside,
-                                                       &PlayerRecord::ShotMadeOutside,
-                                                       &PlayerRecord::ShotMadeThree,
-                                                       &PlayerRecord::ShotMadeDrive,
-                                                       &PlayerRecord::ShotMadeFastbreak2,
-                                                       &PlayerRecord::ShotMadeOffReb2,
-                                                       &PlayerRecord::ShotMadeFastbreak3,
-                                                       &PlayerRecord::ShotMadeOffReb3,
-                                                       &PlayerRecord::OppFGA,
-                                                       &PlayerRecord::OppFGM};
+/// The shot table: a man's counters and the team's, which stand in another order.
+struct Split {
+  Table<i16, 2, 3> PlayerRecord::*man;
+  i16 TeamRecord::*team;
+};
+// clang-format off
+constexpr Split kSplits[] = {
+    {&PlayerRecord::ShotAttInside, &TeamRecord::ShotAttInside},
+    {&PlayerRecord::ShotAttOutside, &TeamRecord::ShotAttOutside},
+    {&PlayerRecord::ShotAttThree, &TeamRecord::ShotAttThree},
+    {&PlayerRecord::ShotAttDrive, &TeamRecord::ShotAttDrive},
+    {&PlayerRecord::ShotAttFastbreak2, &TeamRecord::ShotAttFastbreak2},
+    {&PlayerRecord::ShotAttOffReb2, &TeamRecord::ShotAttOffReb2},
+    {&PlayerRecord::ShotAttFastbreak3, &TeamRecord::ShotAttFastbreak3},
+    {&PlayerRecord::ShotAttOffReb3, &TeamRecord::ShotAttOffReb3},
+    {&PlayerRecord::ShotMadeInside, &TeamRecord::ShotMadeInside},
+    {&PlayerRecord::ShotMadeOutside, &TeamRecord::ShotMadeOutside},
+    {&PlayerRecord::ShotMadeThree, &TeamRecord::ShotMadeThree},
+    {&PlayerRecord::ShotMadeDrive, &TeamRecord::ShotMadeDrive},
+    {&PlayerRecord::ShotMadeFastbreak2, &TeamRecord::ShotMadeFastbreak2},
+    {&PlayerRecord::ShotMadeOffReb2, &TeamRecord::ShotMadeOffReb2},
+    {&PlayerRecord::ShotMadeFastbreak3, &TeamRecord::ShotMadeFastbreak3},
+    {&PlayerRecord::ShotMadeOffReb3, &TeamRecord::ShotMadeOffReb3},
+};
+// clang-format on
+
+/// The line of the games at home or on the road: index 3 the last such game, 2 all of them.
+void AddPlaceLine(Table<StatLine, 1, 3>& lines, const StatLine& line) {
+  lines[3] = line;
+  AddLine(lines[2], line);
+  Add(lines[2].Min, line.Min);
+  Add(lines[2].G, 1);
+  if (line.GS == 1) Add(lines[2].GS, 1);
+}
 
 void AddToSeason(int side, int slot) {
   PlayerRecord& p = PlayerAt(side, slot);
@@ -75,9 +92,11 @@ void AddToSeason(int side, int slot) {
   Add(season.Min, line.Min);
   AddLine(season, line);
   Add(season.Ejections, man.Ejected);
-  Add(season.Dq, line.Dq);
   Add(p.Flagrants[2], p.Flagrants[3]);
-  for (const auto split : kSplits) Add((p.*split)[2], (p.*split)[3]);
+  for (const Split& split : kSplits) Add((p.*split.man)[2], (p.*split.man)[3]);
+  Add(p.OppFGA[2], p.OppFGA[3]);
+  Add(p.OppFGM[2], p.OppFGM[3]);
+  AddPlaceLine(side == 2 ? p.HomeStats : p.RoadStats, line);
   for (int period = 1; period <= 5; ++period) Add(p.QuarterPoints[period][2], p.QuarterPoints[period][3]);
   Add(p.PlusMinus, man.PlusMinus);
   Add(p.ShareShots, man.ShareShots);
@@ -93,17 +112,24 @@ void AddToSeason(int side, int slot) {
   }
 }
 
+void AddManToTeam(int side, TeamRecord& team, const PlayerRecord& p) {
+  AddLine(team.TeamStats[1], p.Stats[3]);
+  if (side == 2) AddLine(team.HomeStats[1], p.Stats[3]);
+  for (const Split& split : kSplits) Add(team.*split.team, (p.*split.man)[3]);
+}
+
 /// Both teams' lines of the season: their own and their opponents'.
 void AddTeamLines() {
   for (int s = 1; s <= 2; ++s) {
     TeamRecord& team = game.team[s];
     const int other = 3 - s;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (OnTeam(s, slot)) AddLine(team.TeamStats[1], PlayerAt(s, slot).Stats[3]);
+      if (OnTeam(s, slot)) AddManToTeam(s, team, PlayerAt(s, slot));
       if (OnTeam(other, slot)) AddLine(team.TeamStats[2], PlayerAt(other, slot).Stats[3]);
     }
     Add(team.TeamStats[1].G, 1);
     Add(team.TeamStats[2].G, 1);
+    if (s == 2) Add(team.HomeStats[1].G, 1);
     Add(team.TeamRebounds[2], game.side[s].GameTeamRebounds);
     Add(team.OppTeamRebounds, game.side[other].GameTeamRebounds);
     Add(team.TeamTurnovers[1], game.side[s].GameTeamTurnovers);

@@ -206,7 +206,8 @@ void CallPress(int side, int plan) {
   const int slider = game.coach[side].OffAdjust6[plan];
   if (slider == 0) return;
   if (game.Period < league.rules.PeriodList && Rnd(10) <= 8) return;
-  if (Rnd(100) <= PressOdds(side, slider)) pressure = Rnd(4);
+  const int odds = PressOdds(side, slider);
+  if (Rnd(100) <= odds) pressure = Rnd(4);
 }
 
 /// Zone or man; the pros mostly go back to man.

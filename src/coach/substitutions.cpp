@@ -88,7 +88,7 @@ SubPass ReadStop() {
   const bool overtime = game.Period > league.rules.PeriodList;
   const int minutes = Clamp<int>(overtime ? league.rules.OverTimeList : league.rules.MinuteList, 1, 20);
   const int full = FullPeriod();
-  pass.period = Clamp(game.Period, 1, 5);
+  pass.period = overtime ? 5 : Clamp(game.Period, 1, 4);
   pass.minute = Clamp(minutes - game.GameClock / kMinute, 1, minutes);
   pass.foulLimit = FoulTroubleLimit();
   if (LastPeriod()) pass.subTimeLeft = game.GameClock;
@@ -181,7 +181,8 @@ int GridCell(const SubPass& pass, PlayerRecord& p) {
 }
 
 void LoadLineups() {
-  if (game.GameClock - game.PlayTime <= 0 && !AnyHole()) return;
+  // No change in the dying second, but for a man who has to go.
+  if (game.GameClock <= 0 || (game.GameClock - game.PlayTime <= 0 && !AnyHole())) return;
   for (Side& side : game.side) side.PreviousLineup = side.Lineup;
   ClearReasons();
   if (BetweenFreeThrows() && !AnyHole()) return;

@@ -14,13 +14,6 @@ bool FirstChoiceSomewhere(const PlayerRecord& p) {
   return false;
 }
 
-bool RankedSomewhere(const PlayerRecord& p) {
-  for (const u8 rank : p.DepthRank) {
-    if (rank != 0) return true;
-  }
-  return false;
-}
-
 /// He has been on the floor so much this season that his computer coach saves him minutes.
 bool OverTarget(const PlayerRecord& p) {
   const StatLine& season = p.Stats[2];
@@ -159,7 +152,7 @@ void WeighFatigue(Candidate& c, const Bench& bench) {
 void WeighRole(Candidate& c, const Bench& bench) {
   const bool worn = game.CrunchTime == 0 && c.man.FatigueLoad > c.loaded.PlayLength * 1.01;
   if ((c.allowed || c.rank == 6) && !worn) c.weight += 1000;
-  if (!c.allowed && !RankedSomewhere(c.p)) c.Times(0.01);
+  if (!c.allowed && c.rank == 0) c.Times(0.01);
   if (game.Blowout == 1) {
     if (c.p.NeverPlayInBlowouts != 0) c.Times(0.001);
     if (c.p.OnlyPlayInBlowouts != 0 && Lists(c.p, c.position)) c.weight += 10000;

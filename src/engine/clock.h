@@ -22,4 +22,8 @@ void AdvanceBallOnTimeout();
 /// Charges a timeout to a side: its count, and the tables by period and minute.
 void ChargeTimeout(int side);
 
+/// The shot clock after an offensive rebound off the rim: the rule's reset, never above the full clock or the
+/// period's.
+int ReboundShotClock();
+
 }  // namespace tipline

@@ -129,6 +129,7 @@ bool SeasonsFarApart() {
   bool apart = false;
   for (int a = 1; a <= 4; ++a) {
     for (int b = 2; b <= 5; ++b) {
+      if (Offense().Lineup[a] == 0 || Offense().Lineup[b] == 0) continue;
       const int gap = std::abs(OnFloor(game.OffenseSide, a).Year - OnFloor(game.OffenseSide, b).Year);
       if (gap >= 10 + Rnd(10)) apart = true;
     }

@@ -32,14 +32,6 @@ void CutTimeouts(int most) {
   for (Side& side : game.side) side.TimeoutsLeft = std::min(side.TimeoutsLeft, most);
 }
 
-/// The shot clock after an offensive rebound off the rim.
-int ReboundShotClock() {
-  const int reset = league.rules.ShotClockResetList * 10;
-  const int full = FullShotClock();
-  return std::min<int>(reset == 0 || league.rules.ShotClockList == 0 ? full : std::min(reset, full),
-                       game.GameClock);
-}
-
 void RunTheClocks() {
   game.GameClock = std::max(game.GameClock - game.PlayTime, 0);
   game.ShotClock = std::max(game.ShotClock - game.PlayTime, 10);
@@ -231,6 +223,13 @@ void GrantOvertimeTimeouts() {
 }
 
 }  // namespace
+
+int ReboundShotClock() {
+  const int reset = league.rules.ShotClockResetList * 10;
+  const int full = FullShotClock();
+  return std::min<int>(reset == 0 || league.rules.ShotClockList == 0 ? full : std::min(reset, full),
+                       game.GameClock);
+}
 
 void EndPlay() {
   PenaltyUnderTwoMinutes();

@@ -21,7 +21,7 @@ void SetPlayBox();
 /// time.
 void JumpBall();
 
-// The commands of a coach. Each ends in SetPlayBox.
+// The commands of a coach. Each ends in SetPlayBox; at a stop that does not ask for it, it does nothing.
 enum class Refusal {
   kNone,
   kNotNow,       ///< game over, or no human to ask
@@ -39,7 +39,7 @@ void FastBreakChosen();
 void FreeThrowChosen();
 void BurnChosen();
 void PassChosen();
-/// A pass aimed at `game.possession.QuickPassTarget`, a position; a value outside 0 to 5 is drawn.
+/// A pass aimed at `game.possession.QuickPassTarget`, a position; a value outside 1 to 5 is drawn.
 void QuickPassChosen();
 /// The coach picks position 1 to 5 from the play grid.
 void PlayGridChosen(int position);
@@ -49,7 +49,7 @@ void UsePlayNowRoutine();
 void DefensePlayCallChosen();
 /// The human hands this play to the computer.
 void ComputerChosen();
-/// A timeout of the acting side. Nothing when it has none left or one was just taken.
+/// A timeout of the acting side. Nothing when it has none left, one was just taken, or the ball is going up.
 void TimeoutChosen();
 
 /// What the acting side is asked at this stop, as the game screen shows it; empty when nobody is asked.

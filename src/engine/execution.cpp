@@ -20,6 +20,12 @@ bool CloseShot() {
   return k == "INSIDE" || k == "DRIVE" || k == "FASTBREAK" || k == "OFFREB";
 }
 
+/// What the play log will tell.
+void NotePosted() {
+  game.play.Posted = game.PlayResult;
+  game.play.PostedSlot = game.BallPlayer;
+}
+
 /// Form comes and goes within a game.
 void NewHands() {
   if (Rnd(30) != 1) return;
@@ -107,6 +113,7 @@ void PostMoveUp() {
   } else {
     PostTurnover(game.OffenseSide, game.BallPlayer);
     SwapSides();
+    game.ShotClock = FullShotClock();
     game.GameState = "DEADBALL-DEFENSE";
     game.DeadBallKind = 2;
   }
@@ -152,7 +159,7 @@ void MadeShot() {
   bool three = game.PlayResult == "G3" || game.PlayResult == "G3F";
   if (game.PlayResult == "G3" && Rnd(200) == 1) {  // his foot was on the line
     three = false;
-    game.PlayResult = "G";
+    game.PlayResult = play.Posted = "G";
     play.ShotValue = "TWO";
     if (game.PlayKind == "THREE") game.PlayKind = "OUTSIDE";
   }
@@ -212,18 +219,18 @@ void LooseBall() {
 }
 
 /// A tip at the rim by the man who came down with it: half of them drop. A missed one is rebounded again.
-void TipIn() {
+void TipIn(int classMissed) {
   Play& play = game.play;
   if (play.ReboundSide != game.OffenseSide || play.Rebounder == 0 || game.call.SetPlay) return;
   if (ManAt(game.OffenseSide, play.Rebounder).ShotPick != kInside || Rnd(6) != 1) return;
-  if (play.Rebounder == game.BallPlayer && game.PutbackClass > 1) return;
+  if (play.Rebounder == game.BallPlayer && classMissed > 1) return;
   const bool scored = Rnd(10) > 5;
   play.TipIn = scored ? 2 : 1;
-  game.BallPlayer = play.Rebounder;
+  play.Tipper = game.BallPlayer = play.Rebounder;
   game.BallSlot = PositionOf(game.OffenseSide, game.BallPlayer);
   game.PlayKind = "OFFREB";
   play.Blocked = play.Assisted = false;
-  play.Blocker = play.AirBall = play.BlockKept = 0;
+  play.AirBall = play.BlockKept = 0;
   PostShot(game.BallPlayer, false, scored);
   if (scored) {
     game.PlayResult = "G";
@@ -236,6 +243,7 @@ void TipIn() {
 /// The board, or what becomes of a ball that nobody gets.
 void FightForRebound() {
   Play& play = game.play;
+  const int classMissed = game.PutbackClass;
   FindRebounder();
   if (game.PlayResult == "OFFENSE-BASKET-INTERFERENCE" || game.PlayResult == "SHOTSTUCK") return;
   PostRebound();
@@ -243,8 +251,10 @@ void FightForRebound() {
     game.PlayResult = "REB";
     return;
   }
-  TipIn();
-  if (play.TipIn == 0) LooseBall();
+  if (TimeLeft()) {  // behind the horn nothing more can happen
+    TipIn(classMissed);
+    if (play.TipIn == 0) LooseBall();
+  }
   if (game.PlayResult == "M" || game.PlayResult == "M3") game.PlayResult = "REB";
 }
 
@@ -255,7 +265,6 @@ void MissedShot() {
     ++ManAt(game.DefenseSide, game.play.Blocker).PeriodStatLine.Bk;
   }
   DrawMissMarks();
-  if (!TimeLeft()) return;  // the horn sounds while the ball is in the air
   StuckOrTouched();
   FightForRebound();
 }
@@ -317,11 +326,10 @@ void PostOffensiveFoul() {
   game.BallSlot = PositionOf(game.OffenseSide, victim);
 }
 
-/// Out of bounds: as often off the one side as off the other.
+/// Out of bounds: mostly off a hand of the defense; one time in four the other side gets it.
 void PostOutOfBounds() {
   game.GameState = "DEADBALL-DEFENSE";
-  if (Rnd(2) == 1) return;
-  game.play.OutOfBoundsChange = 1;
+  if (Rnd(4) != 1) return;
   PostTurnover(game.OffenseSide, game.BallPlayer);
   SwapSides();
   game.ShotClock = FullShotClock();
@@ -420,15 +428,18 @@ void SetDeadBall() {
 void PlayByPlay() {
   if (game.PlayResult == "NOSHOT") {
     game.play.NoShotEnd = 1;
+    NotePosted();
     if (game.GameClock == 0 && LastPeriod() && Margin() > 0) game.GameOver = true;
-    EndPeriodNotice();
+    if (!TimeLeft()) EndPeriodNotice();
     return;
   }
   StolenLob();
   NewHands();
   if (game.PlayResult == "PASS" && !KickOut()) ShotBranch();
   if (IsShot(game.PlayResult)) game.LastShotKind = game.PlayKind;
+  NotePosted();
   Post();
+  if (game.play.Posted.Index() >= PlayResult("MOVE-UP").Index()) game.play.Posted = game.PlayResult;
   if (game.PlayResult == "OFFENSE-BASKET-INTERFERENCE") {
     game.ShotClock = FullShotClock();
     game.GameState = "DEADBALL-DEFENSE";

@@ -20,6 +20,9 @@ void PostPoints(int side, int slot, int points, char kind);
 /// defender, on-floor shares, streak, and the points when it went in.
 void PostShot(int slot, bool three, bool made);
 
+/// Shots made in a row; misses count below zero. The longest run is kept.
+void ContinueStreak(i16& streak, i16& longest, bool made);
+
 /// An assist of `game.play.Assister` when the basket was `Assisted`.
 void PostAssist();
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "coach/computer_coach.h"
+#include "engine/commands.h"
 #include "engine/eligible.h"
 #include "engine/fast_break.h"
 #include "engine/game_state.h"
@@ -86,14 +87,6 @@ Weights WeighFive(WeightOf weight) {
   return w;
 }
 
-void GiveBallTo(int position) {
-  game.BallSlot = position;
-  game.BallPlayer = position > 0 ? Offense().Lineup[position] : 0;
-  const int own = position > 0 ? Defense().Matchup[position] : 0;
-  game.BallDefender = own >= 1 && own <= kPositions ? Defense().Lineup[own] : 0;
-  if (game.BallDefender == 0) game.BallDefender = Defense().Lineup[kPositions];
-}
-
 bool PlaysSomewhere(int position) {
   const PlayerRecord& p = OnFloor(game.OffenseSide, position);
   return p.PrimaryPosition != 0 || p.SecondaryPosition != 0 || p.SpotPosition != 0;
@@ -107,12 +100,13 @@ void DrawShooter() {
     const bool accepted = position > 0 && PlaysSomewhere(position);
     const int spare = Rnd(kPositions);
     if (accepted || position == 0) {
-      GiveBallTo(position);
+      GiveBall(position);
       Offense().Option[spare] = 3;
       return;
     }
     if (Rnd(1000) == 1) {
-      GiveBallTo(Offense().Lineup[spare] > 0 ? spare : DrawPosition(game.OffenseSide));
+      GiveBall(spare);
+      Offense().Option[spare] = 3;
       return;
     }
   }
@@ -140,16 +134,16 @@ void PoorestShooter() {
       poorest = p;
     }
   }
-  if (poorest > 0) GiveBallTo(poorest);
+  if (poorest > 0) GiveBall(poorest);
 }
 
 void FindRunner() {
   const int thief = PositionOf(game.OffenseSide, game.fastBreak.BreakStealer);
   if (game.fastBreak.Breakaway && thief > 0) {
-    GiveBallTo(thief);
+    GiveBall(thief);
   } else {
     const int drawn = WeightedDraw(WeighFive(BreakWeight));
-    GiveBallTo(drawn >= 0 ? drawn + 1 : DrawPosition(game.OffenseSide));
+    GiveBall(drawn >= 0 ? drawn + 1 : DrawPosition(game.OffenseSide));
   }
   game.PlayKind = "FASTBREAK";
 }

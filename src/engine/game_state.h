@@ -121,7 +121,6 @@ struct Side {
   Table<int, 1, 20> TimeoutsByPeriod{};
   Table<int, 0, 20> TimeoutsByMinute{};
   int LastPossessionClock = 999;  ///< game clock when the side last lost the ball
-  int IllegalDefenses = 0;
 
   // Of this play.
   double TeamPointDiff = 0;  ///< average point difference of the season to date
@@ -162,7 +161,6 @@ struct Play {
   int Stealer = 0, StealerSlot = 0;
   int Fouler = 0, FoulerSlot = 0, FoulingSide = 0;
   int OffenseFouler = 0;  ///< the attacker of a double foul
-  int HelpDefender = 0;   ///< position, 0 none
   int Rebounder = 0;
   int ReboundSide = 0;  ///< 1, 2, 99 nobody's
   int DeadBallRebound = 0;
@@ -172,9 +170,11 @@ struct Play {
   int AirBall = 0, BlockKept = 0, GoaltendMark = 0, CloseMiss = 0;
   int BasketInterference = 0, ShotStuck = 0;
   int FlagrantLevel = 0;
-  int NoShotEnd = 0;  ///< 1 = the period ran out without a shot
-  int OutOfBoundsChange = 0;
+  int NoShotEnd = 0;           ///< 1 = the period ran out without a shot
   int TipIn = 0;               ///< 0 none, 1 a tip-in missed, 2 a tip-in scored
+  tipline::PlayResult Posted;  ///< the result as it was posted, before the ball went on
+  int PostedSlot = 0;          ///< whose it was
+  int Tipper = 0;              ///< the man who tipped
   int StolenInbound = 0;       ///< 1 = stolen as the ball was brought in from the backcourt
   tipline::PlayKind TripOwed;  ///< free throws that a foul away from a shot leads to, "" none
 
@@ -203,16 +203,16 @@ struct Call {
   int LobTarget = 0, LobFrom = 0;      ///< positions
   int PickBall = 0, PickScreener = 0;  ///< positions of a pick and roll under way
   int DefenseCall = 0;                 ///< 1 off, 2 loose, 3 normal, 4 tight, 5 foul, 6 double team
-  int IntentionalMiss = 0;             ///< a last free throw is missed on purpose
   int PassMade = 0;
 };
 
 /// What belongs to a possession; cleared when the ball changes hands and at a stoppage.
 struct Possession {
   int PassCount = 0, QuickPassCount = 0;
-  int QuickPassTarget = 0;  ///< position
-  int LastPasserSlot = 0;   ///< position
-  int PreviousSlot = 0;     ///< position that had the ball before a pass
+  int QuickPassTarget = 0;    ///< position
+  int LastPasserSlot = 0;     ///< position
+  int QuickPassReceiver = 0;  ///< slot of the man the last quick pass went to
+  int PreviousSlot = 0;       ///< position that had the ball before a pass
   int JustQuickPassed = 0;
   int PassedThisPossession = 0;
   int PassFirst = 0;      ///< the play starts with a pass away from the man who is guarded
@@ -289,8 +289,7 @@ struct GameRun {
   int LastSubClock = 99999;
   int Tension = 0;
   tipline::PlayKind LastShotKind;
-  int UsageOffenseLeft = 0, UsageDefenseLeft = 0;  ///< levels left by the last chance run
-  int SecondChance = 0;                            ///< 1 = this possession had an offensive rebound
+  int SecondChance = 0;  ///< 1 = this possession had an offensive rebound
 
   Table<Side, 1, 2> side;
   Table2<Man, 1, 2, 0, kRosterSlots> man;
@@ -344,7 +343,7 @@ inline PlayerRecord& OnFloor(int side, int position) {
   return game.player[side][game.side[side].Lineup[position]];
 }
 inline bool OnTeam(int side, int slot) {
-  return slot > 0 && PlayerAt(side, slot).TeamNo == game.GameTeam[side];
+  return slot > 0 && game.GameTeam[side] > 0 && PlayerAt(side, slot).TeamNo == game.GameTeam[side];
 }
 /// His position on the floor, 0 when he is not on it.
 inline int PositionOf(int side, int slot) {
@@ -355,8 +354,21 @@ inline int PositionOf(int side, int slot) {
   }
   return 0;
 }
+/// Slot of the man who guards the attacker at a position, by the match-ups of this stop; the centre where
+/// that leaves nobody.
+inline int GuardOf(int position) {
+  const Side& defense = Defense();
+  const int own = position > 0 ? defense.Matchup[position] : 0;
+  const int slot = own >= 1 && own <= kPositions ? defense.Lineup[own] : 0;
+  return slot > 0 ? slot : defense.Lineup[kPositions];
+}
 inline bool LastPeriod() { return game.Period >= league.rules.PeriodList; }
 inline int FullPeriod() { return league.rules.MinuteList * kMinute; }
+/// The clock stands at the start of a period, regulation or overtime.
+inline bool PeriodOpens() {
+  const int overtime = league.rules.OverTimeList < 1 ? kMinute : league.rules.OverTimeList * kMinute;
+  return game.GameClock == (game.Period > league.rules.PeriodList ? overtime : FullPeriod());
+}
 inline int FullShotClock() {
   return league.rules.ShotClockList == 0 ? kNoShotClock : league.rules.ShotClockList * 10;
 }

@@ -211,6 +211,7 @@ void TimeoutChosen() {
   TimeoutRest();
   if (!StopGoesOn(game.GameState)) {
     game.GameState = "TIMEOUT-DEFENSE";
+    game.possession = {};
     game.ActingSide = game.DefenseSide;
   }
   game.AfterTimeout = 1;

@@ -114,7 +114,8 @@ int TurnoverChance(const Target& target) {
 
 QuickPass DrawQuickPass(const Target& target) {
   QuickPass outcome;
-  if (Rnd(100) <= QuickPassChance(target)) {
+  const int chance = QuickPassChance(target);
+  if (Rnd(100) <= chance) {
     outcome = Rnd(50) == 1 ? QuickPass::kShoot : QuickPass::kPass;
   } else {
     outcome = Rnd(20) == 1 ? QuickPass::kShoot : QuickPass::kNoPass;
@@ -154,6 +155,7 @@ void TryQuickPass() {
     possession.LastPasserSlot = game.BallSlot;
     game.play.Assister = game.BallPlayer;
     GiveBall(position);
+    possession.QuickPassReceiver = game.BallPlayer;
   }
   possession.JustQuickPassed = 1;
   ChargePass(true);
@@ -248,10 +250,7 @@ void GiveBall(int position) {
   if (position < 1 || Offense().Lineup[position] == 0) position = DrawPosition(game.OffenseSide);
   game.BallSlot = position;
   game.BallPlayer = position > 0 ? Offense().Lineup[position] : 0;
-  const Side& defense = Defense();
-  const int guard = position > 0 ? defense.Matchup[position] : 0;
-  game.BallDefender = guard >= 1 && guard <= kPositions ? defense.Lineup[guard] : 0;
-  if (game.BallDefender == 0) game.BallDefender = defense.Lineup[kPositions];
+  game.BallDefender = GuardOf(position);
 }
 
 void Pass() {

@@ -140,7 +140,7 @@ int StandingOrder(const Moment& m, const Man& man, int pick, int threes) {
   if ((LastPeriod() || game.Period == 2) && game.GameClock < 300 + Rnd(900)) odds = 75;
   if (Rnd(100) > odds) return pick;
   if (man.GlobalOffense != kThree) return man.GlobalOffense;
-  if (!m.arc) return kOutside;
+  if (!m.arc) return pick;
   const int first = Rnd(20);
   const int second = Rnd(50);
   if (threes > first + 3 + second) return kThree;

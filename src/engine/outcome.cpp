@@ -241,7 +241,7 @@ void TurnoverBranch() {
   if (Rnd(100) <= share) game.PlayResult = "ST";
   if (Defense().QuickFoul >= 1) game.PlayResult = "ST";
   if (game.PlayKind == "FASTBREAK" && game.fastBreak.BreakDefenders == 0) game.PlayResult = "TO";
-  if (game.PlayResult == "TO") OffensiveFoul();
+  OffensiveFoul();
 }
 
 void ShotBranch() {
@@ -278,12 +278,13 @@ void ShotBranch() {
 void DoubleFoul() {
   Play& play = game.play;
   game.PlayResult = "2XPF";
-  int position = Rnd(kPositions);
-  if (Rnd(2) == 1) position = Rnd(3) + 2;
-  if (Rnd(3) == 2) position = 3 + Rnd(2);
   const Side& offense = Offense();
-  for (int k = 0; k < kPositions && (offense.Lineup[position] == 0 || position == game.BallSlot); ++k) {
-    position = position % kPositions + 1;
+  int position = 0;
+  for (int tries = 0; tries < 100; ++tries) {  // anybody but the man with the ball
+    position = Rnd(kPositions);
+    if (Rnd(2) == 1) position = Rnd(3) + 2;
+    if (Rnd(3) == 2) position = 3 + Rnd(2);
+    if (offense.Lineup[position] > 0 && position != game.BallSlot) break;
   }
   play.OffenseFouler = offense.Lineup[position];
   if (Rnd(4) == 1 && position >= 2) position = 1 + Rnd(4);
@@ -303,13 +304,7 @@ void ShootFreeThrow() {
     made = false;
   game.PlayResult = made ? PlayResult("FTG") : PlayResult("FTM");
   if (game.BallPlayer == 0) return;
-  i16& streak = shooter.FreeThrowStreak;
-  if (made) {
-    streak = static_cast<i16>(streak >= 0 ? std::min(streak + 1, 32000) : 1);
-  } else {
-    streak = static_cast<i16>(streak <= 0 ? std::max(streak - 1, -32000) : -1);
-  }
-  shooter.LongestFreeThrowStreak = std::max(shooter.LongestFreeThrowStreak, streak);
+  ContinueStreak(shooter.FreeThrowStreak, shooter.LongestFreeThrowStreak, made);
 }
 
 }  // namespace tipline

@@ -273,7 +273,7 @@ bool NextStop() {
   RefreshCrunchTime();
   ReplaceShooter();
   SetMatchups();
-  if (game.GameDone || game.GameOver) return false;
+  if (game.GameDone || game.GameOver || game.GameState.Empty()) return false;
   ComputerReviews();
   TakeTimeouts();
   SetActingSide();
@@ -297,7 +297,7 @@ void SetPlayBox() {
 void JumpBall() {
   const bool opening = !game.GameStarted;
   const int had = game.OffenseSide;
-  game.PeriodStart = game.GameClock == FullPeriod() ? 1 : 0;
+  game.PeriodStart = PeriodOpens() ? 1 : 0;
   int height[3] = {};
   for (int s = 1; s <= 2; ++s) {
     Side& side = game.side[s];
@@ -318,6 +318,7 @@ void JumpBall() {
   const bool changed = !game.PeriodStart && game.OffenseSide != had;
   if (changed) {
     CountPossession(had);
+    game.SecondChance = 0;
     game.ShotClock = FullShotClock();
   }
   game.DefenseSide = 3 - game.OffenseSide;

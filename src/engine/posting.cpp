@@ -79,17 +79,6 @@ void SplitShot(PlayerRecord& p, bool three, bool made) {
   }
 }
 
-/// Shots made in a row; misses count below zero.
-void Streak(PlayerRecord& p, bool made) {
-  i16& streak = p.FieldGoalStreak;
-  if (made) {
-    streak = static_cast<i16>(streak >= 0 ? std::min(streak + 1, 32000) : 1);
-  } else {
-    streak = static_cast<i16>(streak <= 0 ? std::max(streak - 1, -32000) : -1);
-  }
-  p.LongestFieldGoalStreak = std::max(p.LongestFieldGoalStreak, streak);
-}
-
 char LogKind(bool three, bool dunk) {
   if (game.PlayKind == "FASTBREAK") return three ? '+' : dunk ? 'K' : 'B';
   if (game.PlayKind == "OFFREB") return three ? '-' : dunk ? 'k' : 'R';
@@ -110,6 +99,15 @@ bool Dunked(PlayerRecord& p) {
 }  // namespace
 
 StatLine& GameLine(int side, int slot) { return PlayerAt(side, slot).Stats[3]; }
+
+void ContinueStreak(i16& streak, i16& longest, bool made) {
+  if (made) {
+    streak = static_cast<i16>(streak >= 0 ? std::min(streak + 1, 32000) : 1);
+  } else {
+    streak = static_cast<i16>(streak <= 0 ? std::max(streak - 1, -32000) : -1);
+  }
+  longest = std::max(longest, streak);
+}
 
 void PostPoints(int side, int slot, int points, char kind) {
   if (slot == 0) return;
@@ -144,7 +142,7 @@ void PostShot(int slot, bool three, bool made) {
   if (made) ++line.FGM;
   if (made && three) ++line.F3M;
   SplitShot(p, three, made);
-  Streak(p, made);
+  ContinueStreak(p.FieldGoalStreak, p.LongestFieldGoalStreak, made);
   if (game.BallDefender > 0) {
     PlayerRecord& defender = PlayerAt(game.DefenseSide, game.BallDefender);
     ++defender.OppFGA[3];

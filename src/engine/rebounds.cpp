@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "engine/chances.h"
+#include "engine/clock.h"
 #include "engine/court.h"
 #include "engine/execution.h"
 #include "engine/fast_break.h"
@@ -278,17 +279,13 @@ void OffensiveRebound() {
   const bool running = game.GameState == "FASTBREAK";
   game.PlayResult = "OFFREB";
   game.SecondChance = 1;
+  game.NeedsBringUp = 0;
   game.BallPlayer = game.play.Rebounder;
   game.BallSlot = PositionOf(game.OffenseSide, game.BallPlayer);
   game.PutbackClass = game.PutbackClass == 0 ? 1 : game.PutbackClass;
   game.GameState = running ? GameState("OFFENSE") : GameState("OFFREB");
   game.PlayKind = "OFFREB";
-  if (!game.play.Blocked && !game.play.AirBall) {
-    const int full = FullShotClock();
-    const int reset = league.rules.ShotClockResetList * 10;
-    const int rule = reset > 0 && league.rules.ShotClockList > 0 ? std::min(reset, full) : full;
-    game.ShotClock = std::min<int>(rule, game.GameClock);
-  }
+  if (!game.play.Blocked && !game.play.AirBall) game.ShotClock = ReboundShotClock();
 }
 
 void OutOfBounds() {

@@ -19,19 +19,11 @@ namespace {
 
 bool ShotClockRule() { return league.rules.ShotClockList > 0; }
 
-/// The defender of the man with the ball, by the match-ups of this stop; the centre where that leaves nobody.
-int DefenderOf(int position) {
-  const Side& defense = Defense();
-  if (position < 1) return defense.Lineup[kPositions];
-  const int own = defense.Matchup[position];
-  const int slot = own >= 1 && own <= kPositions ? defense.Lineup[own] : 0;
-  return slot ? slot : defense.Lineup[kPositions];
-}
-
 void ClearPlay() {
   game.play = {};
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
+  game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
   if (game.GameState != "OFFREB") game.PutbackClass = 0;
   const int passer = game.possession.LastPasserSlot;
   if (passer > 0) game.play.Assister = Offense().Lineup[passer];
@@ -177,7 +169,7 @@ void HoldBall() {
 }
 
 void FaceDefender() {
-  game.BallDefender = DefenderOf(game.BallSlot);
+  game.BallDefender = GuardOf(game.BallSlot);
   const auto college = [](const TeamRecord& t) { return t.TeamType == 'C' || t.TeamType == 'O'; };
   if (college(game.team[1]) && college(game.team[2]) && game.BallDefender > 0 && game.BallPlayer > 0) {
     Offense().CollegeStrength = StrengthOf(BallHandler(), game.team[game.OffenseSide]);

@@ -252,13 +252,19 @@ void DrawBranch() {
   }
 }
 
+/// The result is another one now: no foul was called on the way.
+void Replace(PlayResult result) {
+  game.PlayResult = result;
+  game.play.Fouler = game.play.FoulerSlot = game.play.FoulingSide = 0;
+}
+
 /// A side that holds the ball to the horn takes no shot.
 void KeepHolding() {
   if (game.PlayKind != "HOLD BALL" || !(Defense().QuickFoul == 0 || Rnd(100) <= 99)) return;
   if (IsShot(game.PlayResult)) {
-    game.PlayResult = "HOLD BALL";
+    Replace("HOLD BALL");
   } else if ((game.PlayResult == "TO" || game.PlayResult == "ST") && Rnd(20) < 20) {
-    game.PlayResult = "HOLD BALL";
+    Replace("HOLD BALL");
   }
 }
 
@@ -267,7 +273,7 @@ bool PressureOn() { return Defense().Pressure == 2 || Defense().Pressure == 4; }
 /// The pass that brings the ball in, before anything else can happen.
 void Inbound() {
   game.play.OffBallFoul = 0;
-  game.PlayResult = "IN-EZ";
+  Replace("IN-EZ");
   if (game.DeadBallKind > 2 && !PressureOn()) return;
   const bool poorPass = OnFloor(game.OffenseSide, game.InboundSlot).RatePassing < Rnd(10);
   const int defender = DrawPosition(game.DefenseSide);
@@ -281,7 +287,7 @@ void Inbound() {
 /// Bringing the ball up the floor.
 void MoveUp() {
   game.play.OffBallFoul = 0;
-  game.PlayResult = "MOVE-UP";
+  Replace("MOVE-UP");
   bool broken = false;
   if (PressureOn()) {
     broken = Rnd(100) == 1;
@@ -315,9 +321,9 @@ void BurnClock() {
   game.play.Blocked = false;
   const PlayResult result = game.PlayResult;
   if (IsShot(result)) {
-    game.PlayResult = "BURN";
+    Replace("BURN");
   } else if (result != "F0" && result != "F1" && result != "F2" && Rnd(10) <= 9) {
-    game.PlayResult = "BURN";
+    Replace("BURN");
   }
   if (game.PlayResult != "BURN") return;
   if (ShotClockRule() && game.ShotClock < Rnd(15) + 5) game.PlayResult = "SHOTCLOCK";

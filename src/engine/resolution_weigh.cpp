@@ -20,7 +20,8 @@ bool WantsExtraPass() {
   const int coverage = CoverageFor(game.PlayKind, game.BallPlayer);
   game.play.PlayCoverage = coverage;
   int eager = coverage == 0 ? -15 : coverage == 1 ? -10 : coverage == 3 ? 20 : 1;
-  if (DoubledFor(game.PlayKind, game.BallPlayer) && !game.Switched) eager += 10;
+  const PlayKind zone = game.PlayKind == "DRIVE" ? PlayKind("OUTSIDE") : game.PlayKind;
+  if (DoubledFor(zone, game.BallPlayer) && !game.Switched) eager += 10;
   if (eager < -20) eager = -20;
   int passing = BallHandler().RatePassing;
   if (game.BallSlot != 1 && passing > 7) passing = 7;

@@ -15,11 +15,13 @@ void FullClock() { game.ShotClock = FullShotClock(); }
 void DeadBall() {
   game.GameState = "DEADBALL-DEFENSE";
   game.PlayKind = "";
+  game.possession = {};
 }
 
 void GoToLine(PlayKind trip) {
   game.GameState = "FREETHROW-WAIT";
   game.PlayKind = trip;
+  game.possession = {};
 }
 
 /// After a floor foul the clock is not set back to full: the offense gets at least what a stop costs it.
@@ -180,22 +182,31 @@ void LeaveBall() {
   if (r == "HOLD BALL" || r == "BURN" || r == "IN-EZ" || r == "MOVE-UP") return PlayOn();
   if (r == "FORCED-TIMEOUT") {
     game.PlayKind = "";
+    game.possession = {};
     return;
   }
   DeadBall();  // out of bounds, a lost inbound, the arrow, a delay
 }
 
-void LogPlay(int side, int slot, PlayKind kind) {
-  const PlayResult r = game.PlayResult;
-  if (r == "IN-EZ" || r == "MOVE-UP" || r == "MOVE-UP-OB-OFF" || r == "IN-OB-OFF") return;
+void LogPlay(int side, PlayKind kind) {
   const Play& play = game.play;
+  const PlayResult r = play.Posted;
+  const int slot = play.PostedSlot;
   const int other = 3 - side;
-  if (play.Assisted && IsMadeShot(r))
-    return AddPlayLog(side, slot, kind, r, kAssistedBy, side, play.Assister);
-  if (play.Blocked) return AddPlayLog(side, slot, kind, r, kBlockedBy, other, play.Blocker);
-  if (r == "ST") return AddPlayLog(side, slot, kind, r, kStolenBy, other, play.Stealer);
-  if (play.Fouler > 0) return AddPlayLog(side, slot, kind, r, kFouledBy, play.FoulingSide, play.Fouler);
-  AddPlayLog(side, slot, kind, r);
+  if (r == "IN-EZ" || r == "MOVE-UP" || r == "MOVE-UP-OB-OFF" || r == "IN-OB-OFF") return;
+  if (play.Assisted && IsMadeShot(r)) {
+    AddPlayLog(side, slot, kind, r, kAssistedBy, side, play.Assister);
+  } else if (play.Blocker > 0) {
+    AddPlayLog(side, slot, kind, r, kBlockedBy, other, play.Blocker);
+  } else if (r == "ST") {
+    AddPlayLog(side, slot, kind, r, kStolenBy, other, play.Stealer);
+  } else if (play.Fouler > 0) {
+    AddPlayLog(side, slot, kind, r, kFouledBy, play.FoulingSide, play.Fouler);
+  } else {
+    AddPlayLog(side, slot, kind, r);
+  }
+  if (play.TipIn)
+    AddPlayLog(side, play.Tipper, "OFFREB", play.TipIn == 2 ? PlayResult("G") : PlayResult("M"));
 }
 
 /// After a missed tip the defense has the ball, and nobody runs.
@@ -213,10 +224,9 @@ void LoseTip() {
 void PostPlay() {
   const PlayKind kind = game.PlayKind;
   const int side = game.OffenseSide;
-  const int slot = game.BallPlayer;
   const int period = game.Period;
   PlayByPlay();
-  LogPlay(side, slot, kind);
+  LogPlay(side, kind);
   if (game.PlayKind == "ENDPERIOD" || !IsFreeThrow(kind)) EndPlay();
   if (game.GameOver || game.Period != period || IsJump(game.GameState)) return;
   if (game.PlayResult == "IN-OB-DEF" || game.PlayResult == "IN-5") {
@@ -228,7 +238,8 @@ void PostPlay() {
   }
   LeaveBall();
   // The coaches look at their line-ups when the ball is dead, before the last shot of a trip and behind it.
-  const bool trip = IsFreeThrow(kind);
+  const bool live = game.PlayResult == "OFFREB" || game.PlayResult == "DEFREB";
+  const bool trip = IsFreeThrow(kind) && !live;
   if (game.GameState == "DEADBALL-DEFENSE" || game.GameState == "FREETHROW-WAIT" || trip) LineupCheck();
   EmptyFouledOut();
 }

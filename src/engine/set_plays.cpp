@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "engine/chances.h"
+#include "engine/commands.h"
 #include "engine/game_state.h"
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"
@@ -27,14 +28,6 @@ int LastPasser() {
   return game.play.Assister == Offense().Lineup[passer] ? passer : 0;
 }
 
-void MoveBallTo(int position) {
-  game.BallSlot = position;
-  game.BallPlayer = Offense().Lineup[position];
-  const int own = Defense().Matchup[position];
-  game.BallDefender = own >= 1 && own <= kPositions ? Defense().Lineup[own] : 0;
-  if (game.BallDefender == 0) game.BallDefender = Defense().Lineup[kPositions];
-}
-
 bool GoodScreener(int k) {
   const int pick = ShotPickAt(k);
   const int option = Offense().Option[k];
@@ -45,15 +38,20 @@ bool GoodScreener(int k) {
 
 void ScreenForDriver() {
   const int passing = BallHandler().RatePassing;
-  if (!(passing >= Rnd(10) || (Rnd(2) == 1 && passing >= Rnd(3) + 3) || passing >= Rnd(5) + 5)) return;
-  do {
+  if (!(passing >= Rnd(10) || (Rnd(2) == 1 && passing >= Rnd(3) + 3) ||
+        (passing >= Rnd(5) + 5 && Rnd(2) == 1))) {
+    return;
+  }
+  for (int tries = 0; tries < 200; ++tries) {
     const int k = Rnd(kPositions);
     if (k == game.BallSlot || Offense().Lineup[k] == 0) continue;
-    if (!GoodScreener(k)) continue;
-    game.call.PickBall = game.BallSlot;
-    game.call.PickScreener = k;
-    return;
-  } while (Rnd(10) <= 8);
+    if (GoodScreener(k)) {
+      game.call.PickBall = game.BallSlot;
+      game.call.PickScreener = k;
+      return;
+    }
+    if (Rnd(10) > 8) return;
+  }
 }
 
 /// The man who gave the ball comes off a screen of the man who has it.
@@ -156,7 +154,7 @@ void ResolvePick() {
       if (first <= shot + Rnd(3)) position = screener;
     }
   }
-  MoveBallTo(position);
+  GiveBall(position);
   game.possession.LastPasserSlot = driver;
   game.play.Assister = Offense().Lineup[driver];
   if (position == screener) game.PlayKind = KindOfPick(ShotPickAt(screener));
@@ -174,7 +172,7 @@ bool KickOut() {
   game.call.ShotConfirmed = 0;
   play.Assister = passer;
   play.Assisted = true;
-  MoveBallTo(receiver);
+  GiveBall(receiver);
   game.PlayKind = KindOfPick(ShotPickAt(receiver));
   if (game.PlayKind == "THREE" && !league.rules.ThreePointCheck) game.PlayKind = "OUTSIDE";
   play.ShotValue = game.PlayKind == "THREE" ? ShotValue("THREE") : ShotValue("TWO");

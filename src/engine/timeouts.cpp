@@ -3,24 +3,14 @@
 
 #include "base/numbers.h"
 #include "engine/clock.h"
+#include "engine/execution.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
 
 namespace tipline {
 namespace {
 
-void LogTimeout(int side, PlayNote note) {
-  if (game.PlayLogCount >= kPlayLogRows) return;
-  PlayLogRow& row = game.PlayLog[++game.PlayLogCount];
-  row = {};
-  row.Period = static_cast<u8>(game.Period);
-  row.Clock = game.GameClock;
-  row.Side = static_cast<u8>(side);
-  row.Outcome = "TIMEOUT";
-  row.Note = note;
-  row.VisitorScore = static_cast<i16>(game.side[1].Score);
-  row.HomeScore = static_cast<i16>(game.side[2].Score);
-}
+void LogTimeout(int side, PlayNote note) { AddPlayLog(side, 0, "", "TIMEOUT", note); }
 
 void CountInPeriod(int side) { ++game.side[side].TimeoutsByPeriod[Clamp(game.Period, 1, 20)]; }
 
@@ -28,6 +18,7 @@ void StopPlay(int side, PlayNote note) {
   game.MomentumMark = 1;
   game.AfterTimeout = 1;
   game.GameState = "TIMEOUT-DEFENSE";
+  game.possession = {};
   game.PlayResult = "";
   LogTimeout(side, note);
 }

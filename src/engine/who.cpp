@@ -21,9 +21,9 @@ using Weights = std::array<double, kPositions>;
 
 double Rate(int count, int minutes) { return count / (minutes + 1.0); }
 
-/// Replay rate over real rate; 0 when the real one is 0.
+/// Replay rate over real rate; below 0 when one of them is not known.
 double Drift(int replay, int replayMin, int real, int realMin) {
-  if (real <= 0 || realMin <= 0 || replayMin <= 0) return 0;
+  if (real <= 0 || realMin <= 0 || replayMin <= 0) return -1;
   return (static_cast<double>(replay) / replayMin) / (static_cast<double>(real) / realMin);
 }
 
@@ -66,7 +66,7 @@ double BlockWeight(int position) {
   if (w * 48 > 3 + 2 * Rnd()) w *= 1.5;
   w = w * 1000 + 1;
   const double drift = Drift(replay.Bk, replay.Min, real.Bk, real.Min);
-  if (!Exhibition() && replay.Min > 100 && drift > 0) {
+  if (!Exhibition() && replay.Min > 100 && drift >= 0) {
     if (drift > 1 + 0.15 * Rnd()) {
       w *= 0.5;
     } else if (drift < 1 - 0.2 * Rnd()) {
@@ -177,8 +177,6 @@ double AssistWeight(int position) {
 
 // ---- fouls ----
 
-bool IsBack(int side, int slot) { return InTheBreak(side, slot); }
-
 double FoulByKind(int position, int slot) {
   const PlayKind k = game.PlayKind;
   const bool onBall = slot == game.BallDefender && game.play.FoulingSide == game.DefenseSide;
@@ -188,7 +186,7 @@ double FoulByKind(int position, int slot) {
   }
   if (k == "INSIDE") return onBall ? 1.5 : 0.5;
   if (k == "OUTSIDE" || k == "THREE") return onBall ? 5 : 0.01;
-  if (k == "FASTBREAK") return IsBack(game.play.FoulingSide, slot) ? 1 : 0;
+  if (k == "FASTBREAK") return InTheBreak(game.play.FoulingSide, slot) ? 1 : 0;
   return 1;
 }
 
@@ -238,7 +236,7 @@ double FoulDrift(const PlayerRecord& f) {
   const StatLine& replay = f.Stats[2];
   if (Exhibition() || replay.Min <= 50 + Rnd(200)) return 1;
   const double q = Drift(replay.Pf, replay.Min, real.Pf, real.Min);
-  if (q <= 0) return 1;
+  if (q < 0) return 1;
   if (q > 1.06 + 0.03 * Rnd()) return 0.4;
   if (q > 1.03 + 0.03 * Rnd()) return 0.6;
   if (q > 1 + 0.03 * Rnd()) return 0.8;
@@ -265,7 +263,7 @@ double FoulWeightOf(int position) {
   if (position >= 4 && game.PlayKind == "INSIDE") w *= 3;
   if (position >= 4 && game.PlayKind == "OUTSIDE") w *= 2;
   w *= kByPosition[position - 1];
-  if (game.PlayKind == "FASTBREAK") w = IsBack(side, slot) ? w + 100 : 0;
+  if (game.PlayKind == "FASTBREAK") w = InTheBreak(side, slot) ? w + 100 : 0;
   const int limit = league.rules.DqList;
   if (limit > 0 && f.Stats[3].Pf == limit - 1) w *= 0.25;
   w *= 0.9;
@@ -319,7 +317,7 @@ void BlockTest() {
       g *= Clamp(Rate(replay.Bk, replay.Min) / Rate(real.Bk, real.Min), 0.5, 3.0);
   }
   g = Clamp(g / game.BlockTune, 2.0, 50.0) * 0.65;
-  play.Blocked = Rnd(std::max(1, Round(g))) == 1;
+  play.Blocked = RndTo(g) == 1;
   if (!play.Blocked) return;
   if (PlayerAt(game.DefenseSide, game.BallDefender).Year <= 1973 && Rnd(100) <= 18) play.Blocked = false;
   if (k == "FASTBREAK" && game.fastBreak.BreakDefenders == 0) play.Blocked = false;
@@ -349,7 +347,8 @@ void FindAssister() {
   const bool setUp = game.call.LobFrom > 0 || (game.call.PickBall > 0 && game.call.PickScreener > 0);
   const int passer =
       game.possession.LastPasserSlot > 0 ? Offense().Lineup[game.possession.LastPasserSlot] : 0;
-  if ((setUp || passer > 0) && play.Assister > 0 && play.Assister != game.BallPlayer &&
+  const bool received = passer > 0 && game.possession.QuickPassReceiver == game.BallPlayer;
+  if ((setUp || received) && play.Assister > 0 && play.Assister != game.BallPlayer &&
       PositionOf(side, play.Assister)) {
     return;
   }
@@ -373,23 +372,6 @@ void FindFouler() {
   const int position = DrawFrom(WeighFive(FoulWeightOf), play.FoulingSide);
   play.FoulerSlot = position;
   play.Fouler = position > 0 ? game.side[play.FoulingSide].Lineup[position] : 0;
-}
-
-void FindHelpDefender() {
-  Play& play = game.play;
-  play.HelpDefender = 0;
-  const int s = BallSpot();
-  for (int tries = 0; tries < 100; ++tries) {
-    const int k = Rnd(kPositions);
-    const int slot = Defense().Lineup[k];
-    const bool near = slot == game.BallDefender || SpotsAdjacent(s, SpotGuardedBy(k), false);
-    if (slot > 0 && near && Rnd(10) == 1) {
-      play.HelpDefender = k;
-      break;
-    }
-    if (Rnd(10) == 1) break;
-  }
-  if (play.HelpDefender == play.BlockerSlot || play.HelpDefender == play.StealerSlot) play.HelpDefender = 0;
 }
 
 void BallAfterSteal() {

@@ -13,7 +13,6 @@ void FindStealer();
 void FindAssister();
 /// The man of `game.play.FoulingSide` who fouled.
 void FindFouler();
-void FindHelpDefender();
 
 /// Result "ST": sides over, and a fast break or a set.
 void BallAfterSteal();

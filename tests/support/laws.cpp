@@ -184,6 +184,7 @@ void JudgeFloor(Judge& judge, int side) {
   }
   int eligible = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) eligible += MayAppear(side, slot) ? 1 : 0;
+  if (game.GameClock == 0) return;  // the last shots are taken with whoever is left on the floor
   judge.Equal(Filled(side), std::min(eligible, kPositions), "all who can play fill the floor", side);
 }
 

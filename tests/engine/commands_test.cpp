@@ -1,0 +1,356 @@
+#include <gtest/gtest.h>
+
+#include "engine/engine.h"
+#include "engine/shot_selection.h"
+#include "platform/dialogs.h"
+#include "support/neutral_game.h"
+
+namespace tipline {
+namespace {
+
+/// Two human coaches; side 2, slot 1, has the ball in the first period.
+void SetUpCommands() {
+  SetUpNeutralGame();
+  Rules().ShotClockList = 24;
+  Rules().OverTimeList = 5;
+  game.GameState = "OFFENSE";
+  game.GameStarted = true;
+  game.PlayKind = "";
+  game.PutbackClass = 0;
+  game.ShotClock = 240;
+  game.ActingSide = 2;
+  for (int s = 1; s <= 2; ++s) {
+    game.team[s].City = s == 1 ? "Boston" : "Denver";
+    game.side[s].CoachMode = "H";
+    game.side[s].TimeoutsLeft = 3;
+    for (int p = 1; p <= kPositions; ++p) {
+      PlayerRecord& man = game.player[s][p];
+      man.ShortName = "Man" + std::to_string(p);
+      for (int k = 1; k <= 5; ++k) man.ShotSelection[k] = 3;
+      man.HeightFeet = 6;
+      game.side[s].Option[p] = 1;
+      game.man[s][p].ShotPick = kOutside;
+    }
+  }
+}
+void Late() { game.Period = 4, game.GameClock = 1000; }
+void Acts(int side) { game.ActingSide = side; }
+void Substitute() { game.player[2][7] = MeanMan(2, 1), game.player[2][7].ShortName = "Sub"; }
+
+/// What the dialogs said first, "" when nothing.
+std::string Said(const platform::ScriptedDialogs& d) {
+  return !d.told.empty() ? d.told[0] : !d.asked.empty() ? d.asked[0] : "";
+}
+
+/// Share of 400 seeds at which `holds` after the command.
+double Share(void (*change)(), void (*command)(), bool (*holds)()) {
+  int count = 0;
+  for (std::uint64_t seed = 1; seed <= 400; ++seed) {
+    SetUpCommands();
+    change();
+    random.Seed(seed);
+    command();
+    count += holds() ? 1 : 0;
+  }
+  return count / 400.0;
+}
+
+TEST(Continue, RefusalsKeepTheState) {
+  // clang-format off
+  struct Case { const char* why; GameState state; void (*change)(); Refusal refusal; std::string message; };
+  const Case cases[] = {
+      {"the game is over", "DEADBALL-OFFENSE", [] { game.GameOver = true; }, Refusal::kNotNow, ""},
+      {"a play has to be chosen", "OFFENSE", [] {}, Refusal::kNotNow, ""},
+      {"one man too many", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 4; },
+       Refusal::kRosterLimit, "Denver is 1 player over the roster limit! Allow?"},
+      {"two of them", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 3; },
+       Refusal::kRosterLimit, "Denver is 2 players over the roster limit! Allow?"},
+      {"a position is empty", "DEADBALL-OFFENSE",
+       [] { O().Lineup[3] = 0; }, Refusal::kLineup, "Invalid Lineup!"},
+      {"one man twice", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 2; }, Refusal::kLineup, "Invalid Lineup!"},
+      {"the shooter sits", "FREETHROW-WAIT", [] { Substitute(), game.BallPlayer = 7; },
+       Refusal::kShooterGone, "Sub must be in the game!"},
+      {"the jumper of a held ball sits", "JUMPBALL-2", [] { Substitute(), O().JumperOf = 7; },
+       Refusal::kJumperGone, "Sub must be in the game for the jump ball!"},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    platform::ScriptedDialogs dialogs;
+    dialogs.answers = {false};
+    SetUpCommands();
+    game.GameState = c.state;
+    c.change();
+    EXPECT_EQ(ContinueChosen(), c.refusal) << c.why;
+    EXPECT_TRUE(game.GameState == c.state) << c.why;
+    EXPECT_EQ(Said(dialogs), c.message) << c.why;
+  }
+}
+
+TEST(Continue, GoesToTheNextStop) {
+  // clang-format off
+  struct Case { const char* why; GameState state, next; void (*change)() = [] {}; };
+  const Case cases[] = {
+      {"over the limit, but allowed", "JUMPBALL-1", "JUMPBALL-2",
+       [] { game.GameStarted = false, Acts(1), Rules().RosterLimitList = 3; }},
+      {"four men are all that is left", "DEADBALL-DEFENSE", "DEADBALL-OFFENSE",
+       [] { Acts(1), D().Lineup[5] = 0, LoadedAt(1, 5).PlayerOut = 1; }},
+      {"an old jumper at a period's start", "JUMPBALL-1", "JUMPBALL-2",
+       [] { game.GameClock = 7200, Acts(1), D().JumperOf = 7; }},
+      {"the defense is ready", "FREETHROW-WAIT", "FREETHROW-SHOOT", [] { Acts(1); }},
+      {"both coaches after a timeout", "TIMEOUT-DEFENSE", "TIMEOUT-OFFENSE", [] { Acts(1); }},
+      {"the defense first", "QUARTER-DEFENSE", "QUARTER-OFFENSE", [] { Acts(1); }},
+      {"the quarter begins", "QUARTER-OFFENSE", "DEFENSE"},
+      {"the defense had its look", "DEFENSE", "OFFENSE", [] { Acts(1); }},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    platform::ScriptedDialogs dialogs;
+    dialogs.answers = {true};
+    SetUpCommands();
+    game.GameState = c.state;
+    c.change();
+    EXPECT_EQ(ContinueChosen(), Refusal::kNone) << c.why;
+    EXPECT_TRUE(game.GameState == c.next) << c.why << ": " << game.GameState.Text();
+  }
+}
+
+TEST(Commands, DoNothingAtAStopThatDoesNotAskForThem) {
+  for (auto* command : {+[] { PlayGridChosen(2); }, &ShootChosen, &DriveChosen, &FastBreakChosen,
+                        &FreeThrowChosen, &BurnChosen, &PassChosen, &QuickPassChosen, &UsePlayNowRoutine,
+                        &ComputerChosen, &DefensePlayCallChosen}) {
+    SetUpCommands();
+    game.GameState = "DEADBALL-DEFENSE";
+    command();
+    EXPECT_TRUE(game.GameState == "DEADBALL-DEFENSE");
+    EXPECT_EQ(game.GameClock, 7000);
+  }
+}
+
+TEST(Timeout, TakesOneAndStopsPlay) {
+  // clang-format off
+  struct Case { const char* why; GameState state, next; int left, deadBall; void (*change)() = [] {}; };
+  const Case cases[] = {
+      {"in a possession", "OFFENSE", "TIMEOUT-DEFENSE", 2, 3, [] { game.DeadBallKind = 3; }},
+      {"late, the ball is advanced", "OFFENSE", "TIMEOUT-DEFENSE", 2, 2,
+       [] { Late(), game.DeadBallKind = 3; }},
+      {"the ball is dead already", "DEADBALL-OFFENSE", "DEADBALL-OFFENSE", 2, 0},
+      {"none left", "OFFENSE", "OFFENSE", 0, 0, [] { O().TimeoutsLeft = 0; }},
+      {"one was just taken", "OFFENSE", "OFFENSE", 3, 0, [] { game.TimeoutTaken = 1; }},
+      {"not before the jump", "JUMPBALL-2", "JUMPBALL-2", 3, 0},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    SetUpCommands();
+    game.GameState = c.state;
+    game.PlayTime = 30;
+    c.change();
+    const int clock = game.GameClock;
+    TimeoutChosen();
+    const bool taken = c.left == 2;
+    EXPECT_TRUE(game.GameState == c.next) << c.why;
+    EXPECT_EQ(O().TimeoutsLeft, c.left) << c.why;
+    EXPECT_EQ(game.DeadBallKind, c.deadBall) << c.why;
+    EXPECT_EQ(game.AfterTimeout, taken) << c.why;
+    EXPECT_EQ(game.PlayLog[1].Clock, taken ? clock : 0) << c.why;
+  }
+}
+
+void PassNumber(int n) { game.possession.PassCount = n - 1; }
+
+TEST(Pass, IsMadeOrNot) {
+  const auto made = [] { return game.possession.PassedThisPossession == 1; };
+  const auto fouled = [] { return D().TeamFouls == 1; };
+  const auto lost = [] { return O().GameTo == 1; };
+  // clang-format off
+  const struct { const char* why; void (*change)(); bool (*holds)(); double share; } cases[] = {
+      {"first", [] { PassNumber(1); }, made, 0.9},
+      {"second", [] { PassNumber(2); }, made, 0.5},
+      {"third", [] { PassNumber(3); }, made, 0.1},
+      {"third of three, no shot clock", [] { PassNumber(3), Rules().ShotClockList = 0; }, made, 0.7},
+      {"in the last minute always", [] { PassNumber(3), game.GameClock = 600; }, made, 1},
+      {"on a break always", [] { PassNumber(3), game.GameState = "FASTBREAK"; }, made, 1},
+      {"it runs out the clock",
+       [] { game.GameClock = 3; }, [] { return game.Period == 2 && O().GameFGA == 0; }, 1},
+      {"the defense fouls", [] { PassNumber(10), D().QuickFoul = 1; }, fouled, 0.7},
+      {"or the tenth pass is thrown away", [] { PassNumber(10), D().QuickFoul = 1; }, lost, 0.3},
+  };
+  // clang-format on
+  for (const auto& c : cases)
+    EXPECT_NEAR(Share(c.change, PassChosen, c.holds), c.share, c.share == 1 ? 0 : 0.07) << c.why;
+}
+
+TEST(QuickPass, OutcomesByOption) {
+  // Draws: form of the chance, the chance, shot instead; on a refusal the turnover and who has it then.
+  // clang-format off
+  const struct { const char* why; int option; std::vector<double> draws; int ballTo, lastPasser; } cases[] = {
+      {"31 in a hundred for a first option", 3, {2, 31, 2}, 4, 1},
+      {"32 fails; 5 would be a turnover", 3, {2, 32, 2, 6, 1, 1}, 1, 0},
+      {"40 with the lucky draw", 3, {1, 4, 40, 2}, 4, 1},
+      {"20 for a man who is not open", 0, {2, 20, 2}, 4, 1},
+      {"21 fails; 20 would be a turnover", 0, {2, 21, 2, 21, 3, 1}, 3, 0},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    SetUpCommands();
+    O().Option[4] = c.option;
+    game.possession.QuickPassTarget = 4;
+    random.Script(c.draws);
+    QuickPassChosen();
+    EXPECT_EQ(game.BallPlayer, c.ballTo) << c.why;
+    EXPECT_EQ(game.possession.LastPasserSlot, c.lastPasser) << c.why;
+    EXPECT_EQ(game.possession.QuickPassCount, 1) << c.why;
+    EXPECT_LT(game.GameClock, 7000) << c.why;
+    random.Script({});
+  }
+}
+
+TEST(QuickPass, TheComputerPassesQuicklyOnlyWithAFreshClock) {
+  // clang-format off
+  const struct { const char* why; void (*change)(); bool tried; } cases[] = {
+      {"fresh", [] {}, true}, {"running", [] { game.ShotClock = 239; }, false},
+      {"once a possession", [] { game.possession.QuickPassCount = 1; }, false},
+      {"one play in five", [] { O().QuickPassesGame = 3, O().GameFGA = 14; }, true},
+      {"and no more", [] { O().QuickPassesGame = 3, O().GameFGA = 13; }, false},
+      {"nobody is open", [] { O().Option = {}; }, false},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    SetUpCommands();
+    c.change();
+    const int before = O().QuickPassesGame;
+    random.Script({1});
+    EXPECT_EQ(ComputerQuickPass(), c.tried) << c.why;
+    EXPECT_EQ(O().QuickPassesGame - before, c.tried ? 1 : 0) << c.why;
+    random.Script({});
+  }
+}
+
+TEST(PlayGrid, SucceedsByOption) {
+  const auto play = [] { PlayGridChosen(4); };
+  const auto his = [] {
+    return game.GameState == "DEFENSE-CALL" && game.call.PlayGridShot && game.BallPlayer == 4;
+  };
+  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 0; }, play, his), 0.1, 0.06);
+  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 1; }, play, his), 0.3, 0.06);
+  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 2; }, play, his), 0.6, 0.06);
+  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 3; }, play, his), 0.9, 0.06);
+}
+
+TEST(DefenseCall, HoldsForOnePlay) {
+  constexpr int kCoverage[7] = {0, 1, 2, 3, 4, 6, 3};
+  for (int call = 1; call <= 6; ++call) {
+    int seen = 0;
+    for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+      SetUpCommands();
+      OMan().CoverageOutside = 5;
+      OMan().DoubleTeamOutside = call == 6 ? 0 : 1;
+      D().DefenseHelp = 2;
+      game.GameState = "DEFENSE-CALL";
+      game.PlayKind = "OUTSIDE";
+      game.call.DefenseCall = call;
+      random.Seed(seed);
+      DefensePlayCallChosen();
+      seen += D().ScoutCoverage[kOutside][6][kCoverage[call]];
+      EXPECT_EQ(OMan().CoverageOutside, 5) << call;
+      EXPECT_EQ(OMan().DoubleTeamOutside, call == 6 ? 0 : 1) << call;
+      EXPECT_EQ(D().DefenseHelp, 2) << call;
+    }
+    // The four others are covered as usual: 3.
+    EXPECT_GT(seen, kCoverage[call] == 3 ? 4 * 15 + 10 : 10) << call;
+  }
+}
+
+TEST(DefenseCall, LeavesABurnedClockBurning) {
+  const auto burn = [] { BurnChosen(), DefensePlayCallChosen(); };
+  EXPECT_GT(Share([] {}, burn, [] { return game.PlayResult == "BURN"; }), 0.75);
+  EXPECT_EQ(Share([] {}, burn, [] { return O().GameFGA > 0; }), 0);
+}
+
+TEST(UsePlay, NeedsTime) {
+  const std::string none = "You don't have enough time to call a play!";
+  const std::string little = "You May Need A Timeout To Complete This Play. Continue?";
+  // clang-format off
+  struct Case { const char* why; int clock, shotClock; bool answer; std::string message; bool done; };
+  const Case cases[] = {
+      {"no shot clock left", 5000, 9, true, none, false}, {"no clock left", 9, 9, true, none, false},
+      {"three seconds, given up", 30, 30, false, little, false},
+      {"three seconds, tried", 30, 30, true, little, true}, {"five seconds", 50, 50, true, "", true},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    platform::ScriptedDialogs dialogs;
+    dialogs.answers = {c.answer};
+    SetUpCommands();
+    game.GameClock = c.clock;
+    game.ShotClock = c.shotClock;
+    game.call.CallKind = 2;
+    UsePlayNowRoutine();
+    EXPECT_EQ(game.GameState == "DEFENSE-CALL", c.done) << c.why;
+    EXPECT_EQ(game.call.LongPlay, c.done ? 1 : 0) << c.why;
+    EXPECT_EQ(Said(dialogs), c.message) << c.why;
+  }
+}
+
+void Calls(int kind, int player) { game.call.CallKind = kind, game.call.CallPlayer = player; }
+bool Plays(int man, PlayKind kind) { return game.BallPlayer == man && game.PlayKind == kind; }
+bool AnyThree() {
+  bool any = game.PlayKind == "THREE";
+  for (int slot = 1; slot <= kPositions; ++slot) any = any || OMan(slot).ShotPick == kThree;
+  return any;
+}
+
+TEST(UsePlay, RunsWhatWasCalled) {
+  // clang-format off
+  const struct { const char* why; void (*change)(); bool (*holds)(); double atLeast, atMost; } cases[] = {
+      {"inside", [] { Calls(1, 4); }, [] { return Plays(4, "INSIDE"); }, 0.5, 1},
+      {"three", [] { Calls(3, 2); }, [] { return Plays(2, "THREE"); }, 0.5, 1},
+      {"drive", [] { Calls(4, 3); }, [] { return Plays(3, "DRIVE"); }, 0.6, 1},
+      {"go to", [] { Calls(5, 2); }, [] { return Plays(2, "OUTSIDE"); }, 0.6, 1},
+      {"pick",
+       [] { Calls(6, 5); }, [] { return game.call.PickBall == 1 && game.call.PickScreener == 5; }, 0.6, 1},
+      {"force a three",
+       [] { Calls(7, 5); }, [] { return Plays(5, "THREE") && game.call.ForcedThree; }, 0.6, 1},
+      {"hold, anybody: a guard does",
+       [] { Calls(8, 6); }, [] { return Plays(1, "HOLD BALL") || Plays(2, "HOLD BALL"); }, 1, 1},
+      {"three without a line", [] { Calls(3, 2), Rules().ThreePointCheck = 0; }, AnyThree, 0, 0},
+      {"force one without a line", [] { Calls(7, 2), Rules().ThreePointCheck = 0; }, AnyThree, 0, 0},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    const double share = Share(c.change, UsePlayNowRoutine, c.holds);
+    EXPECT_GE(share, c.atLeast) << c.why;
+    EXPECT_LE(share, c.atMost) << c.why;
+  }
+}
+
+TEST(Prompt, AsksTheCoachOfTheStop) {
+  // clang-format off
+  struct Case { GameState state; std::string prompt; void (*change)() = [] {}; };
+  const Case cases[] = {
+      {"JUMPBALL-1", "Boston Press 'Continue' When Ready", [] { Acts(1); }},
+      {"OFFENSE", "Denver Select A Play", [] { game.BallPlayer = 0; }},
+      {"OFFENSE", "Man1 With The Ball Beyond The Arc", [] { OMan().ShotPick = kThree; }},
+      {"TIMEOUT-OFFENSE", "Denver Press 'Continue' To Inbound", [] { game.NeedsInbound = 1; }},
+      {"OFFENSE", "Denver Press 'Continue' To Frontcourt", [] { game.NeedsMoveUp = 1; }},
+      {"DEFENSE-CALL", "Boston select defense and click Ok"},
+      {"DEFENSE", "Boston Continue"},
+      {"OFFREB", "Man1 Shoot Inside (6) Or Pass (4)?", [] { game.PutbackClass = 1; }},
+      {"OFFREB", "Man1 Shoot Outside( 6), Drive(6), Or Pass (4)?", [] { game.PutbackClass = 2; }},
+      {"OFFREB", "Man1 Shoot Three (5) Or Pass (4)?", [] { game.PutbackClass = 3; }},
+      {"FASTBREAK", "2-1 Denver Fastbreak (Man1 6, Man3 6)?",
+       [] { game.fastBreak = {.BreakAttackers = 2, .BreakDefenders = 1}, OMan(1).InBreak = OMan(3).InBreak = 1; }},
+      {"FREETHROW-WAIT", "Boston Press Continue When Ready (Man1 at the line)"},
+      {"FREETHROW-SHOOT", "Man1 - Shoot Free Throw"},
+      {"DEADBALL-OFFENSE", "", [] { game.GameOver = true; }},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    SetUpCommands();
+    game.GameState = c.state;
+    c.change();
+    EXPECT_EQ(Prompt(), c.prompt);
+  }
+}
+
+}  // namespace
+}  // namespace tipline
