@@ -4,18 +4,20 @@
 
 namespace tipline {
 
-/// To the nearest whole number, ties to the even one. Outside the range of an int: its nearest end; no
-/// number: 0.
+/// Where both stop, so that figures out of a bad file can still be added to one another.
+inline constexpr int kFarthest = 1000000000;
+
+/// To the nearest whole number, ties to the even one. Beyond `kFarthest` it stops there; no number: 0.
 inline int Round(double x) {
-  if (!(x > -2147483647.0)) return x < 0 ? -2147483647 : 0;
-  if (x > 2147483647.0) return 2147483647;
+  if (!(x > -kFarthest)) return x < 0 ? -kFarthest : 0;
+  if (x > kFarthest) return kFarthest;
   return static_cast<int>(std::lrint(x));
 }
 
 /// The whole part, cut down also below zero.
 inline int Int(double x) {
-  if (!(x > -2147483647.0)) return x < 0 ? -2147483647 : 0;
-  if (x > 2147483647.0) return 2147483647;
+  if (!(x > -kFarthest)) return x < 0 ? -kFarthest : 0;
+  if (x > kFarthest) return kFarthest;
   const int whole = static_cast<int>(x);
   return whole - (x < whole ? 1 : 0);
 }

@@ -9,16 +9,20 @@
 
 namespace tipline {
 
-/// A chance or weight in thousandths. Each step leaves a whole number, ties to the even one.
+/// A chance or weight in thousandths. Each step leaves a whole number, ties to the even one. Held far beyond
+/// all that a game can bring, so that no figures out of a bad file run out of the numbers.
 struct Thousandths {
   int value = 0;
 
-  void Add(int x) { value += x; }
-  void Add(double x) { value = Round(value + x); }
-  void Times(double factor) { value = Round(value * factor); }
-  void Over(double divisor) { value = Round(value / divisor); }
+  void Add(int x) { value = Held(static_cast<double>(value) + x); }
+  void Add(double x) { value = Held(value + x); }
+  void Times(double factor) { value = Held(value * factor); }
+  void Over(double divisor) { value = Held(value / divisor); }
   void AtLeast(int x) { value = value < x ? x : value; }
   void AtMost(int x) { value = value > x ? x : value; }
+
+ private:
+  static int Held(double x) { return Round(x > 1e8 ? 1e8 : x < -1e8 ? -1e8 : x); }
 };
 
 /// The ball handler against the man who guards him, and their sides.

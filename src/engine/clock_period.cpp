@@ -12,6 +12,8 @@
 namespace tipline {
 namespace {
 
+constexpr int kMostPeriods = 40;  // two sides that can't score, men left or not, end in a tie
+
 constexpr int ShortLine::*kCounters[] = {&ShortLine::Points, &ShortLine::Reb, &ShortLine::Ast,
                                          &ShortLine::St,     &ShortLine::Bk,  &ShortLine::To};
 
@@ -184,7 +186,7 @@ void EndPeriod() {
   ClosePeriod();
   if (!last) {
     NextPeriod();
-  } else if (game.side[1].Score == game.side[2].Score) {
+  } else if (game.side[1].Score == game.side[2].Score && game.Period < kMostPeriods) {
     Overtime();
   } else {
     game.GameOver = true;

@@ -12,6 +12,17 @@ bool IsEligible(int side, int slot) {
          ManAt(side, slot).TemporaryInjury <= 0 && ManAt(side, slot).GameInjury <= 0;
 }
 
+bool MayAppear(int side, int slot) {
+  if (!IsEligible(side, slot)) return false;
+  const int limit = league.rules.RosterLimitList;
+  if (limit == 0 || ManAt(side, slot).PlayerGameTime > 0) return true;
+  int appeared = 0;
+  for (int k = 1; k <= kRosterSlots; ++k) {
+    appeared += OnTeam(side, k) && ManAt(side, k).PlayerGameTime > 0 ? 1 : 0;
+  }
+  return appeared < limit;
+}
+
 int CountEligible(int side) {
   int count = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {

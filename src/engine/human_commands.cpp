@@ -46,7 +46,7 @@ bool RosterAllowed(int side) {
                                  " over the roster limit! Allow?");
 }
 
-/// Five different men; a side that has fewer left needs only those.
+/// Five different men; a side that has fewer left to send in needs only those.
 bool LineupFilled(int side) {
   const auto& five = game.side[side].Lineup;
   int men = 0;
@@ -55,9 +55,9 @@ bool LineupFilled(int side) {
     if (PositionOf(side, five[p]) != p) return false;
     ++men;
   }
-  int eligible = 0;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) eligible += IsEligible(side, slot) ? 1 : 0;
-  return men >= std::min(eligible, kPositions);
+  int ready = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) ready += MayAppear(side, slot) ? 1 : 0;
+  return men >= std::min(ready, kPositions);
 }
 
 /// The man who is named for something is off the floor; the coach is told.

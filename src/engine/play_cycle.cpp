@@ -340,12 +340,12 @@ void JumpBall() {
   game.play.NoShotEnd = 0;
   const int first = Rnd(20);
   const int second = Rnd(20);
-  game.PlayTime = first + second;
+  game.PlayTime = std::min(first + second, static_cast<int>(game.GameClock));
   const int period = game.Period;
   EndPlay();
   if (game.GameOver || game.Period != period) return;
   if (!game.PeriodStart && league.rules.ShotClockList > 0) {
-    game.ShotClock = changed ? FullShotClock() : std::max(game.ShotClock, 50);
+    game.ShotClock = changed ? FullShotClock() : std::min(std::max(game.ShotClock, 50), FullShotClock());
   }
   game.DeadBallKind = game.NeedsBringUp = 0;
   game.GameState = "OFFENSE";

@@ -1,0 +1,34 @@
+#pragma once
+// The benchmarks of tipline-bench: each prints its results and gives the program's exit code.
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+
+namespace tipline {
+
+struct BenchOptions {
+  int games = 0;  ///< 0 takes the benchmark's own number
+  std::uint64_t seed = 1;
+  int year = 0;         ///< realism: this year of the pro alone
+  bool season = false;  ///< realism: a whole season, and how far each man follows his real line
+};
+
+/// Seeded games of the four presets, reduced to one number: a change that means to change nothing keeps it.
+int Signature(std::ostream& out, const BenchOptions& options);
+/// Seconds to load 50,000 players and to make a league of 30 teams, in a folder that is gone afterwards.
+int Load(std::ostream& out);
+/// Games a second on one core, time by stage, heap allocations, size of the game's tables.
+int Speed(std::ostream& out, const BenchOptions& options);
+/// So many games and nothing else, for a profiler; 11 less 1 leaves ten games without the set-up.
+int One(std::ostream& out, const BenchOptions& options);
+/// Seeded games of all presets against the laws of the game, at the end of each and stop by stop.
+int Laws(std::ostream& out, const BenchOptions& options);
+/// Leagues through the decades beside their eras and the men's own seasons.
+int Realism(std::ostream& out, const BenchOptions& options);
+
+/// Heap allocations of this program so far.
+std::uint64_t Allocations();
+
+inline constexpr const char* kPresets[] = {"pro", "college", "women", "historic"};
+
+}  // namespace tipline

@@ -1,0 +1,64 @@
+// The laws of the game over many games.
+#include "support/laws.h"
+
+#include <ostream>
+
+#include "bench.h"
+#include "engine/engine.h"
+#include "engine/game_state.h"
+#include "league/program.h"
+#include "support/bench_coach.h"
+#include "support/memory_league.h"
+
+namespace tipline {
+namespace {
+
+/// The sentence of the first broken law, empty for none.
+std::string WatchStops(const Pairing& pair) {
+  SetUpMatch(pair.visitor, pair.home);
+  SeatHumans();
+  NewGame();
+  ClockWatch watch;
+  while (!game.GameOver) {
+    LeaveItToTheComputer();
+    const std::string broken = watch.Broken() + BrokenLaw();
+    if (!broken.empty()) return broken;
+  }
+  return BrokenFinalLaw();
+}
+
+std::string WatchEnd(const Pairing& pair) {
+  PlayMatch(pair.visitor, pair.home);
+  const std::string broken = BrokenLaw() + BrokenFinalLaw();
+  KeepBooks();
+  return broken;
+}
+
+}  // namespace
+
+int Laws(std::ostream& out, const BenchOptions& options) {
+  const int games = options.games > 0 ? options.games : 2000;
+  int failures = 0;
+  for (const char* preset : kPresets) {
+    OpenMemoryLeague(preset, 0, options.seed);
+    program.GameKind = "L";
+    const auto teams = MemoryTeams();
+    const int each = games / 4;
+    for (int n = 0; n < each; ++n) {
+      const auto pairs = RoundOf(teams, n);
+      const Pairing& pair = pairs[static_cast<std::size_t>(n) % pairs.size()];
+      const auto seed = options.seed * 100000 + static_cast<std::uint64_t>(n);
+      random.Seed(seed);
+      const std::string broken = n % 4 == 0 ? WatchStops(pair) : WatchEnd(pair);
+      if (broken.empty()) continue;
+      ++failures;
+      out << preset << ", seed " << seed << ", " << pair.visitor << " at " << pair.home << ": " << broken
+          << '\n';
+    }
+    out << preset << ": " << each << " games, " << each / 4 << " of them stop by stop\n";
+  }
+  out << (failures == 0 ? "all laws kept\n" : std::to_string(failures) + " games broke a law\n");
+  return failures == 0 ? 0 : 1;
+}
+
+}  // namespace tipline

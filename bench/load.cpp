@@ -1,0 +1,70 @@
+// Files: how long a big league takes to load and a new one to make.
+#include <stdlib.h>
+
+#include <chrono>
+#include <filesystem>
+#include <iomanip>
+#include <ostream>
+#include <stdexcept>
+
+#include "base/record_file.h"
+#include "bench.h"
+#include "folder.h"
+#include "frontoffice/league_maker.h"
+#include "league/files.h"
+#include "league/program.h"
+#include "support/eras.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kRows = 50000;
+
+template <class Work>
+double Seconds(Work work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void WriteManyPlayers() {
+  const bool written = RecordFile(PlayersFile(), kPlayerSlotBytes).RewriteAll(kRows, [](int n, u8* bytes) {
+    PlayerRecord man;
+    man.RecNo = static_cast<i16>(n);
+    man.TeamNo = static_cast<i16>(n % kTeams + 1);
+    man.LastName = "Player " + std::to_string(n);
+    WriteRecord(man, bytes);
+  });
+  if (!written) throw std::runtime_error("the player file can't be written");
+}
+
+void Make() {
+  LeagueRequest request;
+  request.Name = "Bench";
+  std::string message;
+  if (!MakeLeague(request, message)) throw std::runtime_error(message);
+}
+
+void Print(std::ostream& out, const char* what, double seconds, double aim) {
+  out << std::left << std::setw(34) << what << std::fixed << std::setprecision(3) << seconds
+      << " s, aim under " << std::setprecision(1) << aim << " s: " << (seconds < aim ? "ok" : "too slow")
+      << '\n';
+}
+
+}  // namespace
+
+int Load(std::ostream& out) {
+  const BenchFolder folder;
+  LoadShippedEras();
+  const double make = Seconds(Make);
+  program.LeagueFolder = folder.Home() / "many";
+  std::filesystem::create_directories(program.LeagueFolder);
+  WriteManyPlayers();
+  const double load = Seconds(LoadLeaguePlayers);
+  if (league.player.size() != kRows + 1) throw std::runtime_error("the players were not loaded");
+  Print(out, "a league of 30 teams is made", make, 3);
+  Print(out, "HCPLAYER of 50,000 rows is loaded", load, 0.7);
+  return 0;
+}
+
+}  // namespace tipline

@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "engine/game_state.h"
+#include "support/game_book.h"
+#include "support/memory_league.h"
+
+namespace tipline {
+namespace {
+
+std::vector<std::int64_t> SeededGame(int visitor, int home) {
+  random.Seed(42);
+  PlayMatch(visitor, home);
+  return GameBook();
+}
+
+/// The same seed plays the same game, whatever was played before it.
+TEST(SeededGame, RepeatsExactlyWithOtherGamesBetween) {
+  for (const char* preset : {"pro", "college", "women", "historic"}) {
+    OpenSmallLeague(preset);
+    const auto teams = MemoryTeams();
+    const auto first = SeededGame(teams[0], teams[1]);
+    for (std::uint64_t seed = 1; seed <= 8; ++seed) {
+      random.Seed(seed);
+      const auto pairs = RoundOf(teams, static_cast<int>(seed));
+      PlayMatch(pairs[seed % 3].visitor, pairs[seed % 3].home);
+    }
+    const auto again = SeededGame(teams[0], teams[1]);
+    ASSERT_EQ(first.size(), again.size()) << preset;
+    const auto [a, b] = std::mismatch(first.begin(), first.end(), again.begin());
+    EXPECT_TRUE(a == first.end()) << preset << ": number " << a - first.begin() << " was " << *a << ", is "
+                                  << *b;
+  }
+}
+
+TEST(SeededGame, AnotherSeedIsAnotherGame) {
+  OpenSmallLeague("pro");
+  const auto teams = MemoryTeams();
+  const auto first = SeededGame(teams[0], teams[1]);
+  random.Seed(43);
+  PlayMatch(teams[0], teams[1]);
+  EXPECT_NE(first, GameBook());
+}
+
+}  // namespace
+}  // namespace tipline

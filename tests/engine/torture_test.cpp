@@ -1,0 +1,84 @@
+// Random rules and random rosters: whatever the files hold, a game runs to its end.
+// By hand: TIPLINE_TORTURE=5000 plays so many cases, TIPLINE_TORTURE_FIRST=n begins at seed n.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include "engine/engine.h"
+#include "engine/game_state.h"
+#include "league/program.h"
+#include "support/bench_coach.h"
+#include "support/laws.h"
+#include "support/memory_league.h"
+#include "support/torture.h"
+
+namespace tipline {
+namespace {
+
+int FromEnvironment(const char* name, int otherwise) {
+  const char* text = std::getenv(name);
+  return text ? std::atoi(text) : otherwise;
+}
+
+char hanging[64];
+
+/// A game that never ends is told with its seed.
+void Hangs(int) {
+  if (write(STDERR_FILENO, hanging, sizeof hanging) < 0) _exit(2);
+  std::abort();
+}
+
+class Watchdog {
+ public:
+  Watchdog(std::uint64_t seed, unsigned seconds) {
+    std::snprintf(hanging, sizeof hanging, "seed %llu never ends\n", static_cast<unsigned long long>(seed));
+    std::signal(SIGALRM, Hangs);
+    alarm(seconds);
+  }
+  ~Watchdog() { alarm(0); }
+};
+
+/// One seed after another, each under the watchdog; by hand the seed in play is shown.
+void PlaySeeds(void (*play)()) {
+  const int first = FromEnvironment("TIPLINE_TORTURE_FIRST", 1);
+  const int cases = FromEnvironment("TIPLINE_TORTURE", 0);
+  for (int seed = first; seed < first + (cases > 0 ? cases : 120); ++seed) {
+    if (cases > 0) std::fprintf(stderr, "\rseed %d ", seed);
+    const Watchdog watchdog(static_cast<std::uint64_t>(seed), 20);
+    OpenTortureLeague(static_cast<std::uint64_t>(seed));
+    SCOPED_TRACE("seed " + std::to_string(seed) + ": " + TortureLabel());
+    play();
+  }
+}
+
+TEST(Torture, ComputersReachTheEndUnderAnyRulesWithAnyMen) {
+  PlaySeeds([] {
+    program.Autoplaying = true;
+    for (int side = 1; side <= 2; ++side) game.side[side].CoachMode = "C";
+    PrepareGame();
+    NewGame();
+    EXPECT_EQ(BrokenLaw() + BrokenFinalLaw(), "");
+  });
+}
+
+TEST(Torture, HumansReachTheEndUnderAnyRulesWithAnyMen) {
+  PlaySeeds([] {
+    SeatHumans();
+    PrepareGame();
+    NewGame();
+    ClockWatch watch;
+    int stops = 0;
+    while (!game.GameOver && ++stops < 100000) {
+      CommandAnything();
+      const std::string broken = watch.Broken() + BrokenLaw();
+      ASSERT_EQ(broken, "") << "stop " << stops;
+    }
+    EXPECT_EQ(BrokenFinalLaw(), "");
+  });
+}
+
+}  // namespace
+}  // namespace tipline
