@@ -28,7 +28,7 @@ constexpr StarterRow kStarters[] = {
     {GameLevel::kWomen,   1946, {38.5, 36,   33.5, 30, 27}},
 };
 // clang-format on
-constexpr double kPair = 47;  // what a starter and the next man leave of 48 goes to the third
+constexpr double kPair = 47;  // minutes of a starter and the next man together; the rest is a third man's
 
 const StarterRow& StartersOf(GameLevel level, int year) {
   const StarterRow* found = nullptr;
@@ -95,43 +95,43 @@ void ScaleLine(StatLine& line, int minutes) {
 
 using Men = std::vector<PlayerRecord*>;
 
-/// The men of each position, the most valuable of a season first; `byStarter` with the positions in the order
-/// of their first men.
+/// The men of each position, the most valuable first, and the positions in the order of their first men.
 std::array<Men, 5> MenByWorth(Roster& team) {
   std::array<Men, 5> places;
-  ForMen(team, [&](PlayerRecord& man) {
-    if (man.PrimaryPosition >= 1 && man.PrimaryPosition <= 5) places[man.PrimaryPosition - 1u].push_back(&man);
-  });
-  const auto worth = [](const Men& men) { return men.empty() ? 0 : men[0]->Salary; };
+  ForMen(team, [&](PlayerRecord& man) { places[man.PrimaryPosition - 1u].push_back(&man); });
   for (Men& men : places) {
     std::stable_sort(men.begin(), men.end(), [](auto* a, auto* b) { return a->Salary > b->Salary; });
   }
+  const auto worth = [](const Men& men) { return men.empty() ? 0 : men[0]->Salary; };
   std::stable_sort(places.begin(), places.end(), [&](auto& a, auto& b) { return worth(a) > worth(b); });
   return places;
 }
 
-/// Parts a night as a coach does: the best starter plays most and the man behind him least. Third men come in
-/// on some nights only, and have what is left of the season.
-void ShapeMinutes(Roster& team, const SeasonNorm& norm) {
+/// The first two miss few nights, fewest where nobody is behind them; a third man comes in on as many nights
+/// as they leave minutes for.
+void ShapePosition(const Men& men, double starter, const SeasonNorm& norm) {
   const double length = norm.mostMinutes / kMostMinutes;
-  const std::array<Men, 5> places = MenByWorth(team);
-  for (std::size_t rank = 0; rank < places.size(); ++rank) {
-    double left = norm.teamMinutes / 5;
-    const double starter = Spread(norm.starters.minutes[rank], 2) * length;
-    for (std::size_t i = 0; i < places[rank].size(); ++i) {
-      StatLine& line = places[rank][i]->Stats[1];
-      double minutes = i == 0 ? starter : kPair * length - starter;
-      if (i < 2) {
-        line.G = static_cast<i16>(line.G + (Round(norm.games) - line.G) * (places[rank].size() > 2 ? 2 : 3) / 4);
-      } else {
-        minutes = (4 + 2 * Rnd()) * length;
-        const double his = left / static_cast<double>(places[rank].size() - i);
-        line.G = static_cast<i16>(Clamp(Round(his / minutes), 10, Round(norm.games)));
-      }
-      ScaleLine(line, std::max(1, Round(line.G * minutes)));
-      left -= line.Min;
+  const int season = Round(norm.games);
+  double left = norm.teamMinutes / 5;
+  for (std::size_t i = 0; i < men.size(); ++i) {
+    StatLine& line = men[i]->Stats[1];
+    double minutes = (i == 0 ? starter : kPair - starter) * length;
+    if (i < 2) {
+      line.G = static_cast<i16>(season - (season - line.G) / (men.size() > 2 ? 2 : 4));
+    } else {
+      minutes = (4 + 2 * Rnd()) * length;
+      const double his = left / static_cast<double>(men.size() - i);
+      line.G = static_cast<i16>(std::max(1, std::min(Round(his / minutes), season)));
     }
+    ScaleLine(line, std::max(1, Round(line.G * minutes)));
+    left -= line.Min;
   }
+}
+
+/// Parts the minutes as a coach does: the best starter plays most and the man behind him least.
+void ShapeMinutes(Roster& team, const SeasonNorm& norm) {
+  const double* starter = norm.starters.minutes;
+  for (const Men& men : MenByWorth(team)) ShapePosition(men, Spread(*starter++, 2), norm);
 }
 
 /// x, the part of the most he can play in his games, becomes x - k x (1 - x): both ends stay, the middle
