@@ -63,27 +63,31 @@ double MinutesOf48(const PlayerRecord& p) {
   const StatLine& real = p.Stats[1];
   int minutes = p.TargetMinutes;
   if (minutes == 0 && real.G > 0) minutes = Int(static_cast<double>(real.Min) / real.G + 0.5);
-  return league.rules.PeriodList == 2 ? minutes * 48.0 / 40 : minutes;
+  return minutes * 48.0 / std::max(1, league.rules.PeriodList * league.rules.MinuteList);
 }
 
-/// A man's stint and rest by the minutes he should play, straight lines between the columns. Chosen by
-/// measurement, as what brings a man back is not his rest alone but who else is fresh: 3000 games each, of
-/// 150 pairs of made-up rosters of 12 to 15 men, whose minutes at each position come near the length of a
-/// game, with depth charts by minutes and plays of 8 to 18 seconds. Mean difference between minutes played
-/// and target:
-///   target    8-11  12-15  16-19  20-23  24-27  28-31  32-35  36-40    all   changes a team and game
-///   quarters   2.2    2.0    2.1    3.1    3.1    1.2    1.4    1.7    2.0   52
-///   halves     1.9    1.4    2.5    2.5    1.1    1.1    1.5      -    1.6   56
-/// One line through zero (a stint of 8/9 of his minutes a period, the shortest rest) leaves 4.7 and 3.7.
+/// A man's stint and rest by the minutes he should play, straight lines between the columns; shorter where
+/// the periods are. Chosen by measurement, since who else is fresh decides as much as his own rest: 3000
+/// whole games each between the teams of a made-up league, computers on both sides. Mean difference, over
+/// men, between the target and the mean of the minutes played, exhibitions; over all also league games, and
+/// the difference in single games, which fouls and decided games widen:
+///   target          8-11  12-15  16-19  20-23  24-27  28-31  32-35  36-40    all  league  single
+///   pro 1965         1.8    1.7    1.2    1.8    0.6    2.4    2.1    1.9    1.8     1.8     3.4
+///   pro 1985         1.3    1.5    1.4    1.7    1.0    1.8    1.2    1.1    1.4     1.4     3.0
+///   pro 2005         2.1    1.4    1.4    2.0    1.1    1.8    0.9    1.0    1.4     1.4     3.1
+///   pro 2022         1.0    1.3    1.0    3.0    0.8    1.8    0.9    0.8    1.3     1.3     2.8
+///   college 2022     1.4    1.5    1.7    0.6    0.9    1.2    1.8      -    1.4     1.2     3.2
+///   women 2022       2.8    1.3    1.9    1.0    1.7    1.7    1.3      -    1.8     1.8     3.0
 struct StintTable {
+  double period;  // minutes of the periods it holds for
   double length[4], rest[4];
 };
 // clang-format off
-constexpr double kStintMinutes[4] =         {  10,   20,   30,   40};
-constexpr StintTable kQuarterStints = {{3000, 4200, 4200, 7200},
-                                       {2400, 2400, 2400,  800}};
-constexpr StintTable kHalfStints    = {{3000, 4400, 4800, 8400},
-                                       {2400, 2400, 2100,  300}};
+constexpr double kStintMinutes[4] =             {  10,   20,   30,   40};
+constexpr StintTable kQuarterStints = {12, {3000, 3000, 3600, 6600},
+                                           {2400, 2400, 2400, 1800}};
+constexpr StintTable kHalfStints    = {20, {3000, 3600, 4500, 9600},
+                                           {2400, 2400, 2400, 1100}};
 // clang-format on
 
 double OnLine(const double (&at)[4], double minutes) {
@@ -152,12 +156,13 @@ void EmptyFouledOut() {
 
 void SetStints(int side) {
   const StintTable& table = league.rules.PeriodList == 2 ? kHalfStints : kQuarterStints;
+  const double scale = league.rules.MinuteList / table.period;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) continue;
     const double minutes = MinutesOf48(PlayerAt(side, slot));
-    double rest = OnLine(table.rest, minutes);
+    double rest = OnLine(table.rest, minutes) * scale;
     if (program.PlayoffGame) rest *= 0.85;  // everything for this game
-    LoadedAt(side, slot).PlayLength = Clamp(Round(OnLine(table.length, minutes)), 3000, 14000);
+    LoadedAt(side, slot).PlayLength = Clamp(Round(OnLine(table.length, minutes) * scale), 3000, 14000);
     LoadedAt(side, slot).RestLength = Clamp(Round(rest), 300, 2400);
   }
 }

@@ -12,9 +12,36 @@ namespace {
 
 constexpr double kMostMinutes = 42;  // a game of 48 minutes, for a man who never rests
 
+/// Minutes a night of a team's five starters, the best one first, in a game of 48: from the season in `from`
+/// until the next row of its level. The stars of the sixties hardly rested; today's benches are deep.
+struct StarterRow {
+  GameLevel level;
+  int from;
+  double minutes[5];
+};
+// clang-format off
+constexpr StarterRow kStarters[] = {
+    {GameLevel::kPro,     1946, {38.5, 36.5, 34.5, 32, 29}},
+    {GameLevel::kPro,     1975, {37,   35,   33,   31, 28}},
+    {GameLevel::kPro,     2010, {35,   33,   31,   29, 27}},
+    {GameLevel::kCollege, 1946, {39,   37,   34.5, 32, 28}},
+    {GameLevel::kWomen,   1946, {38.5, 36,   33.5, 30, 27}},
+};
+// clang-format on
+constexpr double kPair = 47;  // minutes of a starter and the next man together; the rest is a third man's
+
+const StarterRow& StartersOf(GameLevel level, int year) {
+  const StarterRow* found = nullptr;
+  for (const StarterRow& row : kStarters) {
+    if (row.level == level && (!found || row.from <= year)) found = &row;
+  }
+  return *found;
+}
+
 /// What a team's season of this level comes to.
 struct SeasonNorm {
   const EraRecord& era;
+  const StarterRow& starters;
   double games;
   double teamMinutes;   // of all men together
   double mostMinutes;   // of one man
@@ -27,6 +54,7 @@ SeasonNorm NormOf(GameLevel level, int year) {
   const bool women = level == GameLevel::kWomen;
   const double games = era.Games;
   return {era,
+          StartersOf(level, year),
           games,
           games * 5 * (shortGame ? 40.5 : 48.5),
           kMostMinutes * (shortGame ? 40.0 / 48 : 1),
@@ -63,6 +91,47 @@ void ScaleLine(StatLine& line, int minutes) {
   line.FGM = static_cast<i16>(twos + line.F3M);
   line.Min = static_cast<i16>(minutes);
   Mend(line);
+}
+
+using Men = std::vector<PlayerRecord*>;
+
+/// The men of each position, the most valuable first, and the positions in the order of their first men.
+std::array<Men, 5> MenByWorth(Roster& team) {
+  std::array<Men, 5> places;
+  ForMen(team, [&](PlayerRecord& man) { places[man.PrimaryPosition - 1u].push_back(&man); });
+  for (Men& men : places) {
+    std::stable_sort(men.begin(), men.end(), [](auto* a, auto* b) { return a->Salary > b->Salary; });
+  }
+  const auto worth = [](const Men& men) { return men.empty() ? 0 : men[0]->Salary; };
+  std::stable_sort(places.begin(), places.end(), [&](auto& a, auto& b) { return worth(a) > worth(b); });
+  return places;
+}
+
+/// The first two miss few nights, fewest where nobody is behind them; a third man comes in on as many nights
+/// as they leave minutes for.
+void ShapePosition(const Men& men, double starter, const SeasonNorm& norm) {
+  const double length = norm.mostMinutes / kMostMinutes;
+  const int season = Round(norm.games);
+  double left = norm.teamMinutes / 5;
+  for (std::size_t i = 0; i < men.size(); ++i) {
+    StatLine& line = men[i]->Stats[1];
+    double minutes = (i == 0 ? starter : kPair - starter) * length;
+    if (i < 2) {
+      line.G = static_cast<i16>(season - (season - line.G) / (men.size() > 2 ? 2 : 4));
+    } else {
+      minutes = (4 + 2 * Rnd()) * length;
+      const double his = left / static_cast<double>(men.size() - i);
+      line.G = static_cast<i16>(std::max(1, std::min(Round(his / minutes), season)));
+    }
+    ScaleLine(line, std::max(1, Round(line.G * minutes)));
+    left -= line.Min;
+  }
+}
+
+/// Parts the minutes as a coach does: the best starter plays most and the man behind him least.
+void ShapeMinutes(Roster& team, const SeasonNorm& norm) {
+  const double* starter = norm.starters.minutes;
+  for (const Men& men : MenByWorth(team)) ShapePosition(men, Spread(*starter++, 2), norm);
 }
 
 /// x, the part of the most he can play in his games, becomes x - k x (1 - x): both ends stay, the middle
@@ -279,6 +348,7 @@ void SettleSeasonLines(std::vector<Roster>& teams, GameLevel level, int year) {
   if (teams.empty()) return;
   const SeasonNorm norm = NormOf(level, year);
   for (auto& team : teams) {
+    ShapeMinutes(team, norm);
     for (int position = 1; position <= 5; ++position) SettleMinutes(team, position, norm);
   }
   EvenTeams(teams);

@@ -51,25 +51,35 @@ TEST(TimeoutRest, GivesFifteenSecondsToAllWhoAreIn) {
 }
 
 TEST(SetStints, StaysInBoundsAndRunsWithTheMinutes) {
-  TwoTeams();
-  for (int slot = 1; slot <= kMen; ++slot) PlayerAt(1, slot).TargetMinutes = static_cast<u8>(slot * 5);
-  PlayerAt(1, 1).TargetMinutes = 0;  // 30.5 real minutes round to 31
-  PlayerAt(1, 1).Stats[1].G = 10;
-  PlayerAt(1, 1).Stats[1].Min = 305;
-  SetStints(1);
-  EXPECT_EQ(LoadedAt(1, 1).PlayLength, 4500);
-  EXPECT_EQ(LoadedAt(1, 2).PlayLength, 3000);
-  EXPECT_EQ(LoadedAt(1, 2).RestLength, 2400);
-  EXPECT_EQ(LoadedAt(1, 8).PlayLength, 7200);
-  EXPECT_EQ(LoadedAt(1, 8).RestLength, 800);
-  EXPECT_EQ(LoadedAt(1, 10).RestLength, 300);
-  program.PlayoffGame = true;
-  SetStints(1);
-  EXPECT_EQ(LoadedAt(1, 8).RestLength, 680);
-  program.PlayoffGame = false;
-  league.rules.PeriodList = 2;
-  SetStints(1);
-  EXPECT_EQ(LoadedAt(1, 5).PlayLength, 4800) << "25 of 40 minutes are 30 of 48";
+  const struct {
+    const char* why;
+    int periods, minutes, target;
+    bool playoff;
+    int length, rest;
+  } cases[] = {
+      {"no target: 30.5 real minutes round to 31", 4, 12, 0, false, 3900, 2340},
+      {"a bench man", 4, 12, 10, false, 3000, 2400},
+      {"a regular", 4, 12, 40, false, 6600, 1800},
+      {"everything for this game", 4, 12, 40, true, 6600, 1530},
+      {"no end to it", 4, 12, 200, false, 14000, 300},
+      {"25 of 40 minutes are 30 of 48", 2, 20, 25, false, 4500, 2400},
+      {"short quarters have short stints", 4, 10, 30, false, 4500, 1700},
+      {"but no shorter than five minutes", 4, 10, 10, false, 3000, 2000},
+      {"no periods at all", 0, 0, 30, false, 3000, 300},
+  };
+  for (const auto& c : cases) {
+    TwoTeams();
+    PlayerAt(1, 1).TargetMinutes = static_cast<u8>(c.target);
+    PlayerAt(1, 1).Stats[1].G = 10;
+    PlayerAt(1, 1).Stats[1].Min = 305;
+    league.rules.PeriodList = static_cast<u8>(c.periods);
+    league.rules.MinuteList = static_cast<u8>(c.minutes);
+    program.PlayoffGame = c.playoff;
+    SetStints(1);
+    program.PlayoffGame = false;
+    EXPECT_EQ(LoadedAt(1, 1).PlayLength, c.length) << c.why;
+    EXPECT_EQ(LoadedAt(1, 1).RestLength, c.rest) << c.why;
+  }
 }
 
 TEST(EmptyFouledOut, RefillsOnlyWithFiveMenLeft) {

@@ -291,6 +291,52 @@ TEST_F(LeagueMaker, EveryPositionHasItsMen) {
   }
 }
 
+TEST_F(LeagueMaker, MinutesFallFromTheStarToTheLastMan) {
+  const struct {
+    const char* preset;
+    int year;
+    double gameMinutes;
+    int men;
+    double perGame[12];  // of the man of each rank in his team, a league's mean
+  } cases[] = {
+      {"pro", 2022, 48.5, 15, {35, 33, 31, 29, 27, 20, 18, 16, 14, 12, 6, 5}},
+      {"pro", 1965, 48.5, 12, {40, 38, 36, 33, 31, 19, 17, 14, 12, 10, 5, 5}},
+      {"college", 2022, 40.5, 12, {33, 31, 29, 27, 24, 17, 14, 12, 10, 8, 5, 4}},
+      {"women", 2022, 40.5, 12, {33, 31, 29, 26, 23, 18, 15, 13, 11, 9, 5, 4}},
+  };
+  for (const auto& c : cases) {
+    LeagueRequest request = Request(c.preset, 9);
+    request.Year = c.year;
+    const MadeLeague made = Draw(request);
+    const double games = EraRow(c.year, *c.preset == 'c', 2012).Games;
+    std::vector<double> mean(static_cast<std::size_t>(c.men));
+    for (const Roster& roster : made.teams) {
+      std::vector<double> perGame;
+      Table<double, 1, 5> filled{};
+      Table<int, 1, 5> best{};
+      for (int slot = 1; slot <= c.men; ++slot) {
+        const PlayerRecord& man = roster.player[slot];
+        const StatLine& line = man.Stats[1];
+        EXPECT_GE(line.G, 1);
+        EXPECT_LE(line.G, games);
+        perGame.push_back(line.Min / (1.0 * line.G));
+        filled[man.PrimaryPosition] += line.Min;
+        if (line.GS > games / 2) best[man.PrimaryPosition] = slot;
+      }
+      std::sort(perGame.rbegin(), perGame.rend());
+      for (std::size_t i = 0; i < perGame.size(); ++i) {
+        mean[i] += perGame[i] / static_cast<double>(made.teams.size());
+      }
+      for (int p = 1; p <= 5; ++p) {
+        EXPECT_NEAR(filled[p], games * c.gameMinutes, games * 0.5) << c.preset << " position " << p;
+        EXPECT_GT(best[p], 0) << c.preset << ": a regular starter at position " << p;
+      }
+    }
+    for (std::size_t i = 0; i < 12; ++i)
+      EXPECT_NEAR(mean[i], c.perGame[i], 2) << c.preset << " rank " << i + 1;
+  }
+}
+
 TEST_F(LeagueMaker, TotalsAddUp) {
   for (const char* preset : {"pro", "college", "women", "historic"}) {
     const MadeLeague made = Draw(Request(preset, 5));
