@@ -24,6 +24,9 @@ void Columns::PrintLine(std::ostream& out, const std::vector<std::string>& cells
     if (i + 1 < cells.size()) line += "  ";
   }
   line.erase(line.find_last_not_of(' ') + 1);
+  for (char& c : line) {  // what a damaged text holds must not steer the terminal
+    if (static_cast<unsigned char>(c) < 32 || c == 127) c = '?';
+  }
   out << line << '\n';
 }
 

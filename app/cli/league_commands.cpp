@@ -2,12 +2,14 @@
 #include <iostream>
 #include <vector>
 
+#include "base/random.h"
 #include "cli/columns.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
 #include "frontoffice/rating_run.h"
 #include "league/dump.h"
 #include "league/files.h"
+#include "league/league_check.h"
 #include "league/program.h"
 #include "league/recent.h"
 #include "league/roster.h"
@@ -80,6 +82,20 @@ std::vector<int> ByMinutes(const Roster& roster) {
 
 }  // namespace
 
+bool EnsureEra() {
+  if (const auto fault = EraFault(EraFile()); !fault.empty()) {
+    Refuse(fault + " Remove it and a new one is made.");
+    return false;
+  }
+  std::error_code error;
+  std::filesystem::create_directories(program.ProgramFolder, error);
+  if (error) {
+    Refuse("the data home can't be written: " + program.Home.string());
+    return false;
+  }
+  return LoadEra() || (MakeEraFile() && LoadEra());
+}
+
 bool OpenTheLeague(const Common& common) {
   const auto folder = FindLeague(common.League);
   if (folder.empty()) {
@@ -87,8 +103,12 @@ bool OpenTheLeague(const Common& common) {
                                  : "there is no league named \"" + common.League + "\"");
     return false;
   }
+  if (const auto fault = LeagueFault(folder); !fault.empty()) {
+    Refuse(fault);
+    return false;
+  }
   program.LeagueFolder = folder;
-  if (!LoadEra() && (!MakeEraFile() || !LoadEra())) return false;
+  if (!EnsureEra()) return false;
   if (!LoadRules()) {
     Refuse("the rules of this league can't be read: " + RulesFile().string());
     return false;
@@ -127,9 +147,10 @@ int FindTeam(const std::string& text) {
 }
 
 int NewLeague(LeagueRequest request, const Common& common) {
-  if (common.Seed) request.Seed = *common.Seed;
-  if (!LoadEra() && (!MakeEraFile() || !LoadEra())) return 1;
+  request.Seed = common.Seed ? *common.Seed : static_cast<std::uint64_t>(Rnd(1000000));
   std::string message;
+  if (!RequestIsSound(request, message)) return Refuse(message);
+  if (!EnsureEra()) return 1;
   if (!MakeLeague(request, message)) return Refuse(message);
   if (!MakeCurrent(request.Name)) return Refuse("the list of recent leagues can't be written");
   if (!common.Quiet) std::cout << message << '\n';
@@ -211,12 +232,12 @@ int Dump(const std::string& file, int record, const Common& common) {
 int RateTeams(const std::string& text, bool all, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
   const hcratings screen;
-  if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : Refuse("nothing was changed");
+  if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : Refuse("nothing was changed; --yes answers the question");
   const int teamNo = FindTeam(text);
   if (teamNo == 0) return 1;
   Roster roster;
   if (!ReadRoster(teamNo, roster)) return Refuse("the team can't be read: " + TeamsFile().string());
-  if (!screen.DEFAULTRATINGS(roster)) return Refuse("nothing was changed");
+  if (!screen.DEFAULTRATINGS(roster)) return Refuse("nothing was changed; --yes answers the question");
   return WriteRoster(roster) ? 0 : 1;
 }
 

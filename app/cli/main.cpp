@@ -32,10 +32,12 @@ struct Arguments {
 /// Options that every command takes, in front of it or behind it.
 void AddCommon(CLI::App& app, Arguments& a) {
   app.add_option("--home", a.home, "data home (default: TIPLINE_HOME, else the user's data folder)");
-  app.add_option("--league", a.common.League, "league to work on (default: the one used last)");
-  app.add_option("--seed", a.seed, "seed of the random numbers: the run then repeats exactly");
+  app.add_option("--league", a.common.League, "league to work on (default: the one made or opened last)");
+  app.add_option("--seed", a.seed, "seed of the random numbers: the run then repeats exactly")
+      ->check(CLI::NonNegativeNumber);
   app.add_flag("--quiet", a.common.Quiet, "print results only");
   app.fallthrough();
+  app.require_subcommand(0, 1);
 }
 
 void AddLeagueNew(CLI::App& app, Arguments& a) {
@@ -44,10 +46,15 @@ void AddLeagueNew(CLI::App& app, Arguments& a) {
   auto* make = group->add_subcommand("new", "make a league of made-up teams and players");
   make->add_option("name", a.request.Name, "name of the league")->required();
   make->add_option("--preset", a.request.Preset, "pro, college, women or historic")->capture_default_str();
-  make->add_option("--year", a.request.Year, "season year, 1946 to 2050");
-  make->add_option("--divisions", a.request.Divisions, "number of divisions");
-  make->add_option("--teams", a.request.Teams, "number of teams");
-  make->add_option("--games", a.request.Games, "games of a season");
+  // A number that was given but says nothing is a refused one, not the preset's.
+  const auto number = [make](const char* name, int& value, const char* help) {
+    make->add_option_function<int>(
+        name, [&value](int given) { value = given == 0 ? -1 : given; }, help);
+  };
+  number("--year", a.request.Year, "season year, 1946 to 2050");
+  number("--divisions", a.request.Divisions, "number of divisions");
+  number("--teams", a.request.Teams, "number of teams");
+  number("--games", a.request.Games, "games of a season");
 }
 
 void AddLists(CLI::App& app, Arguments& a) {
@@ -109,6 +116,12 @@ int main(int argc, char** argv) {
     return app.exit(error) == 0 ? 0 : kWrongUsage;
   }
   if (app.count("--seed") > 0) a.common.Seed = a.seed;
+  for (const char* option : {"--home", "--league"}) {
+    if (app.count(option) > 0 && app[option]->as<std::string>().empty()) {
+      std::cerr << "tipline: " << option << " needs a name\n";
+      return kWrongUsage;
+    }
+  }
   tipline::random.Seed(a.common.Seed ? *a.common.Seed
                                      : static_cast<std::uint64_t>(
                                            std::chrono::system_clock::now().time_since_epoch().count()));
@@ -116,11 +129,10 @@ int main(int argc, char** argv) {
   terminal.AssumeYes = a.yes;
   program.Home = platform::DataHome(a.home);
   program.ProgramFolder = program.Home / "program";
-  std::error_code error;
-  std::filesystem::create_directories(program.ProgramFolder, error);
-  if (error) return cli::Refuse("the data home can't be written: " + program.Home.string());
   try {
-    return RunCommand(app, a);
+    const int code = RunCommand(app, a);
+    std::cout.flush();
+    return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");
   } catch (const std::exception& failure) {
     return cli::Refuse(failure.what());
   }

@@ -5,6 +5,7 @@
 #include "cli/columns.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
+#include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "league/files.h"
@@ -121,14 +122,19 @@ void PrintBox(std::ostream& out) {
 
 int PlayExhibition(const std::string& visitor, const std::string& home, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
-  const int teams[3] = {0, FindTeam(visitor), FindTeam(home)};
-  if (teams[1] == 0 || teams[2] == 0) return 1;
+  int teams[3] = {0, FindTeam(visitor), 0};
+  if (teams[1] == 0) return 1;
+  teams[2] = FindTeam(home);
+  if (teams[2] == 0) return 1;
   if (teams[1] == teams[2]) return Refuse("a team can't play itself");
   LoadLeaguePlayers();
   program.GameKind = "E";
   program.Autoplaying = true;
   for (int s = 1; s <= 2; ++s) {
     if (!LoadTeam(teams[s], s)) return Refuse("team " + Str(teams[s]) + " can't be loaded");
+    const int men = CountEligible(s);
+    if (men < kPositions)
+      return Refuse(TeamName(game.team[s]) + " has only " + Str(men) + " men who can play");
     game.side[s].CoachMode = "C";
   }
   PrepareGame();

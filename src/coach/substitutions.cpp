@@ -182,7 +182,7 @@ int GridCell(const SubPass& pass, PlayerRecord& p) {
 
 void LoadLineups() {
   // No change in the dying second, but for a man who has to go.
-  if (game.GameClock <= 0 || (game.GameClock - game.PlayTime <= 0 && !AnyHole())) return;
+  if (game.GameClock - game.PlayTime <= 0 && !AnyHole()) return;
   for (Side& side : game.side) side.PreviousLineup = side.Lineup;
   ClearReasons();
   if (BetweenFreeThrows() && !AnyHole()) return;

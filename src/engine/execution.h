@@ -45,7 +45,7 @@ void SwapSides();
 
 /// A row of the play log: what a man (slot 0: the team) of `side` tried and what came of it, at `clock`
 /// tenths left. When the log is full the row is left out.
-void AddPlayLog(int side, int slot, PlayKind action, PlayResult outcome, PlayNote note = kNoNote,
+void AddPlayLog(int clock, int side, int slot, PlayKind action, PlayResult outcome, PlayNote note = kNoNote,
                 int otherSide = 0, int otherSlot = 0);
 
 /// The free throws that the team's foul number `fouls` of this period is worth when nobody was shooting; ""

@@ -206,7 +206,7 @@ void TimeoutChosen() {
   AdvanceBallOnTimeout();
   ChargeTimeout(side);
   game.PlayTime = 0;
-  AddPlayLog(side, 0, "", "TIMEOUT", kTimeoutNote);
+  AddPlayLog(game.GameClock, side, 0, "", "TIMEOUT", kTimeoutNote);
   game.TimeoutTaken = 1;
   TimeoutRest();
   if (!StopGoesOn(game.GameState)) {

@@ -212,13 +212,13 @@ void SwapSides() {
   game.BallPlayer = game.BallSlot = 0;
 }
 
-void AddPlayLog(int side, int slot, PlayKind action, PlayResult outcome, PlayNote note, int otherSide,
-                int otherSlot) {
+void AddPlayLog(int clock, int side, int slot, PlayKind action, PlayResult outcome, PlayNote note,
+                int otherSide, int otherSlot) {
   if (game.PlayLogCount == kPlayLogRows) return;
   PlayLogRow& row = game.PlayLog[++game.PlayLogCount];
   row = {};
   row.Period = static_cast<u8>(std::min(game.Period, 255));
-  row.Clock = std::max(0, game.GameClock - game.PlayTime);
+  row.Clock = std::max(0, clock);
   row.Side = static_cast<u8>(side);
   row.Slot = static_cast<u8>(slot);
   row.Action = action;

@@ -193,20 +193,21 @@ void LogPlay(int side, PlayKind kind) {
   const PlayResult r = play.Posted;
   const int slot = play.PostedSlot;
   const int other = 3 - side;
+  const int clock = game.GameClock - game.PlayTime;
   if (r == "IN-EZ" || r == "MOVE-UP" || r == "MOVE-UP-OB-OFF" || r == "IN-OB-OFF") return;
   if (play.Assisted && IsMadeShot(r)) {
-    AddPlayLog(side, slot, kind, r, kAssistedBy, side, play.Assister);
+    AddPlayLog(clock, side, slot, kind, r, kAssistedBy, side, play.Assister);
   } else if (play.Blocker > 0) {
-    AddPlayLog(side, slot, kind, r, kBlockedBy, other, play.Blocker);
+    AddPlayLog(clock, side, slot, kind, r, kBlockedBy, other, play.Blocker);
   } else if (r == "ST") {
-    AddPlayLog(side, slot, kind, r, kStolenBy, other, play.Stealer);
+    AddPlayLog(clock, side, slot, kind, r, kStolenBy, other, play.Stealer);
   } else if (play.Fouler > 0) {
-    AddPlayLog(side, slot, kind, r, kFouledBy, play.FoulingSide, play.Fouler);
+    AddPlayLog(clock, side, slot, kind, r, kFouledBy, play.FoulingSide, play.Fouler);
   } else {
-    AddPlayLog(side, slot, kind, r);
+    AddPlayLog(clock, side, slot, kind, r);
   }
   if (play.TipIn)
-    AddPlayLog(side, play.Tipper, "OFFREB", play.TipIn == 2 ? PlayResult("G") : PlayResult("M"));
+    AddPlayLog(clock, side, play.Tipper, "OFFREB", play.TipIn == 2 ? PlayResult("G") : PlayResult("M"));
 }
 
 /// After a missed tip the defense has the ball, and nobody runs.

@@ -10,7 +10,7 @@
 namespace tipline {
 namespace {
 
-void LogTimeout(int side, PlayNote note) { AddPlayLog(side, 0, "", "TIMEOUT", note); }
+void LogTimeout(int side, PlayNote note) { AddPlayLog(game.GameClock, side, 0, "", "TIMEOUT", note); }
 
 void CountInPeriod(int side) { ++game.side[side].TimeoutsByPeriod[Clamp(game.Period, 1, 20)]; }
 

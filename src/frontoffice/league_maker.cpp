@@ -13,6 +13,7 @@
 #include "frontoffice/team_identity.h"
 #include "league/player_values.h"
 #include "league/recent.h"
+#include "league/rules.h"
 
 namespace tipline {
 namespace {
@@ -67,7 +68,6 @@ std::string PlanProblem(const LeagueRequest& request, const Plan& plan) {
   if (request.Games != 0 && (request.Games < 2 || request.Games > 98)) {
     return "A season has 2 to 98 games.";
   }
-  if (SeasonRow(plan.year, plan.College()).FGA <= 0) return "The era figures are missing.";
   return "";
 }
 
@@ -253,9 +253,23 @@ RulesRecord NewRules(const LeagueRequest& request, const Plan& plan) {
   return rules;
 }
 
+/// The rule book as the first load would leave it.
+RulesRecord Repaired(const RulesRecord& rules, const Plan& plan) {
+  const RulesRecord open = league.rules;
+  league.rules = rules;
+  RepairRules(plan.year, plan.College() ? 'C' : 'P');
+  const RulesRecord repaired = league.rules;
+  league.rules = open;
+  return repaired;
+}
+
 bool DrawWithSeed(const LeagueRequest& request, MadeLeague& made, std::string& message) {
   Plan plan;
   if (!MakePlan(request, plan, message)) return false;
+  if (SeasonRow(plan.year, plan.College()).FGA <= 0) {
+    message = "The era figures are missing.";
+    return false;
+  }
   const NameData data = NameData::Load();
   if (!data.Complete()) {
     message = "The names that ship with the program can't be read.";
@@ -268,7 +282,7 @@ bool DrawWithSeed(const LeagueRequest& request, MadeLeague& made, std::string& m
     return false;
   }
   made = {};
-  made.rules = NewRules(request, plan);
+  made.rules = Repaired(NewRules(request, plan), plan);
   made.games = request.Games ? request.Games : SeasonGames(plan.preset->level, plan.year);
   DrawTeams(plan, data, identities, made);
   NumberRows(made, plan.men);
@@ -335,9 +349,14 @@ bool DrawLeague(const LeagueRequest& request, MadeLeague& made, std::string& mes
   return drawn;
 }
 
-bool MakeLeague(const LeagueRequest& request, std::string& message) {
+bool RequestIsSound(const LeagueRequest& request, std::string& message) {
+  Plan plan;
   message = NameProblem(request.Name);
-  if (!message.empty()) return false;
+  return message.empty() && MakePlan(request, plan, message);
+}
+
+bool MakeLeague(const LeagueRequest& request, std::string& message) {
+  if (!RequestIsSound(request, message)) return false;
   const auto folder = LeaguesFolder() / request.Name;
   std::error_code error;
   if (std::filesystem::exists(std::filesystem::symlink_status(folder, error))) {
@@ -349,7 +368,12 @@ bool MakeLeague(const LeagueRequest& request, std::string& message) {
   const auto beside = LeaguesFolder() / ("." + request.Name + ".new");
   if (WriteFolder(beside, made)) {
     std::filesystem::rename(beside, folder, error);
-    if (!error) return true;
+    if (!error) {
+      message = "Made \"" + request.Name + "\": " + std::to_string(made.teams.size()) + " teams, " +
+                std::to_string(made.freeAgents.size()) + " free agents, season " +
+                std::to_string(made.teams.front().team.Year) + ", seed " + std::to_string(request.Seed) + ".";
+      return true;
+    }
   }
   std::filesystem::remove_all(beside, error);
   message = "The league can't be written to " + LeaguesFolder().string() + ".";

@@ -31,6 +31,9 @@ struct MadeLeague {
 /// False, with one sentence in `message`, when the request can't be met. Needs the era tables.
 bool DrawLeague(const LeagueRequest& request, MadeLeague& made, std::string& message);
 
+/// Whether a league of this name, kind, year and size can be asked for; if not, why, in one sentence.
+bool RequestIsSound(const LeagueRequest& request, std::string& message);
+
 /// Draws a league and writes its folder under LeaguesFolder(): into a folder beside, renamed when all is
 /// written, so that a failure leaves nothing. False with one sentence in `message`.
 bool MakeLeague(const LeagueRequest& request, std::string& message);

@@ -63,6 +63,7 @@ void FixSeason2020() {
   EraRecord& row = league.EraPro[2020];
   if (row.Games == 82) row.Games = 72;
   if (row.TO == 0) row.TO = league.EraPro[2019].TO;
+  if (row.St == 0) row.St = row.TO * 0.42F;
   if (row.F3A >= 26 && row.FGA >= 87 && row.Bk == 4.9F) return;
   row.FGA = 88.4F, row.FGM = 41.2F, row.F3A = 34.6F, row.F3M = 12.7F, row.FTA = 21.8F, row.FTM = 17.0F;
   row.Reb = 44.3F, row.OffReb = 9.8F, row.Ast = 24.8F, row.St = 7.6F, row.Bk = 4.9F, row.PF = 19.3F;

@@ -58,20 +58,22 @@ bool NextLine(std::string_view& rest, std::string_view& line) {
   return true;
 }
 
-/// One table of the program; the seasons behind the last line take its row.
+/// One table of the program; the seasons ahead of the first line and behind the last one take its row.
 bool ReadTable(const std::string& name, EraTable& table) {
   bool read = false;
   const std::string text = ReadWholeFile(platform::ShippedData() / name, &read);
   if (!read) return TellBad(name, 0);
   std::string_view rest = text, line;
-  int lastYear = 0;
+  int firstYear = kLastEraYear, lastYear = 0;
   for (int lineNo = 1; NextLine(rest, line); ++lineNo) {
     if (line.empty() || (lineNo == 1 && line == kHeading)) continue;
     const int year = TakeLine(line, table);
     if (year == 0) return TellBad(name, lineNo);
+    firstYear = std::min(firstYear, year);
     lastYear = std::max(lastYear, year);
   }
   if (lastYear == 0) return TellBad(name, 0);
+  for (int year = kFirstEraYear; year < firstYear; ++year) table[year] = table[firstYear];
   for (int year = lastYear + 1; year <= kLastEraYear; ++year) table[year] = table[lastYear];
   return true;
 }

@@ -32,10 +32,8 @@ std::filesystem::path FindLeague(const std::string& name) {
     const auto folder = LeaguesFolder() / name;
     return plain && IsLeague(folder) ? folder : std::filesystem::path();
   }
-  for (const auto& entry : RecentLeagues()) {
-    if (const auto folder = platform::RealPath(program.Home, entry); IsLeague(folder)) return folder;
-  }
-  return {};
+  const auto recent = RecentLeagues();
+  return recent.empty() ? std::filesystem::path() : platform::RealPath(program.Home, recent.front());
 }
 
 std::vector<std::string> RecentLeagues() {

@@ -10,8 +10,8 @@ namespace tipline {
 /// Folder of all leagues under the data home.
 std::filesystem::path LeaguesFolder();
 
-/// The league of that name, or the most recent one when `name` is empty; an empty path when there is none
-/// such.
+/// The league of that name, an empty path when there is none such. For an empty `name` the first of the
+/// recent list, whatever has become of it; an empty path without a list.
 std::filesystem::path FindLeague(const std::string& name);
 
 /// Up to 30 entries, the current league first; empty without a list.

@@ -224,7 +224,7 @@ TEST(EndPlay, EndsOrProlongsTheGame) {
   EndPlay();
   EXPECT_TRUE(game.GameOver && game.GameDone);
   EXPECT_EQ(game.Period, 4);
-  for (const int period : {4, 5, 45}) {  // a tie after the last period and after any overtime
+  for (const int period : {4, 5, 35}) {  // a tie after the last period and after any overtime
     AtTheHorn(period);
     league.rules.OverTimeList = period == 5 ? 0 : 5;
     ManAt(1, 3).FatigueLoad = 9000;

@@ -293,7 +293,7 @@ void JudgeClosedLines(Judge& judge, int side) {
     const StatLine& s = PlayerAt(side, slot).Stats[3];
     const Man& man = ManAt(side, slot);
     judge.Equal(s.Min, man.PlayerGameTime / kMinute, "whole minutes", side);
-    if (man.PlayerGameTime > 0) judge.Equal(s.G, 1, "who was on the floor has played", side);
+    judge.Equal(s.G, man.PlayerGameTime >= kMinute ? 1 : 0, "a game is a minute on the floor", side);
     judge.Equal(s.Dq, limit > 0 && s.Pf >= limit ? 1 : 0, "fouled out", side);
     judge.AtMost(s.GS, 1, "starts once", side);
   }
