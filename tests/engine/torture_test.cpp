@@ -47,7 +47,7 @@ void PlaySeeds(void (*play)()) {
   const int cases = FromEnvironment("TIPLINE_TORTURE", 0);
   for (int seed = first; seed < first + (cases > 0 ? cases : 120); ++seed) {
     if (cases > 0) std::fprintf(stderr, "\rseed %d ", seed);
-    const Watchdog watchdog(static_cast<std::uint64_t>(seed), 20);
+    const Watchdog watchdog(static_cast<std::uint64_t>(seed), 60);
     OpenTortureLeague(static_cast<std::uint64_t>(seed));
     SCOPED_TRACE("seed " + std::to_string(seed) + ": " + TortureLabel());
     play();
