@@ -140,8 +140,8 @@ void AddTeamLines() {
       Add(team.PeriodPoints[period][1], game.side[s].PeriodScore[period]);
       Add(team.PeriodPoints[period][2], game.side[other].PeriodScore[period]);
     }
-    const bool won = game.side[s].Score > game.side[other].Score;
-    Add(won ? team.Wins : team.Losses, 1);
+    if (Lead(s) > 0) Add(team.Wins, 1);
+    if (Lead(s) < 0) Add(team.Losses, 1);
   }
 }
 

@@ -260,7 +260,7 @@ void FightForRebound() {
 
 void MissedShot() {
   PostShot(game.BallPlayer, game.PlayResult == "M3", false);
-  if (game.play.Blocked && game.play.Blocker > 0) {
+  if (game.play.Blocked && game.play.Blocker > 0 && game.BallPlayer > 0) {
     ++GameLine(game.DefenseSide, game.play.Blocker).Bk;
     ++ManAt(game.DefenseSide, game.play.Blocker).PeriodStatLine.Bk;
   }
