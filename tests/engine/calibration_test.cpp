@@ -54,15 +54,10 @@ TEST(CalibrateLeague, LeavesAloneWhatItCannotMeasure) {
   // clang-format off
   const struct { const char* why; void (*change)(); } cases[] = {
       {"draft team", [] { DTeam().RosterKind = "D"; }},
-      {"alternate league", [] { OTeam().TeamType = "A"; }},
       {"exhibition", [] { program.GameKind = "E"; }},
       {"two seasons", [] { DTeam().Year = 2001; }},
-      {"no season", [] { DTeam().Year = OTeam().Year = 0; }},
-      {"era setting", [] { Rules().GameEraList = 1; }},
       {"five games", [] { OTeam().Wins = 2; }},
-      {"Hawaii", [] { league.team[13].City = "Hawaii"; }},
       {"49 men", [] { league.player.resize(50); }},
-      {"men of no team", [] { for (auto& man : league.player) man.TeamNo = kFreeAgent; }},
       {"men of a closed team", [] { league.team[1].TeamActive = 0; }},
       {"hardly played", [] { for (auto& man : league.player) man.Stats[2].FGA = 28; }},
       {"no league at all", [] { league.player.clear(); }},

@@ -164,10 +164,8 @@ TEST(Pass, IsMadeOrNot) {
   // clang-format off
   const struct { const char* why; void (*change)(); bool (*holds)(); double share; } cases[] = {
       {"first", [] { PassNumber(1); }, made, 0.9},
-      {"second", [] { PassNumber(2); }, made, 0.5},
       {"third", [] { PassNumber(3); }, made, 0.1},
       {"third of three, no shot clock", [] { PassNumber(3), Rules().ShotClockList = 0; }, made, 0.7},
-      {"in the last minute always", [] { PassNumber(3), game.GameClock = 600; }, made, 1},
       {"on a break always", [] { PassNumber(3), game.GameState = "FASTBREAK"; }, made, 1},
       {"it runs out the clock",
        [] { game.GameClock = 3; }, [] { return game.Period == 2 && O().GameFGA == 0; }, 1},
@@ -177,31 +175,6 @@ TEST(Pass, IsMadeOrNot) {
   // clang-format on
   for (const auto& c : cases)
     EXPECT_NEAR(Share(c.change, PassChosen, c.holds), c.share, c.share == 1 ? 0 : 0.07) << c.why;
-}
-
-TEST(QuickPass, OutcomesByOption) {
-  // Draws: form of the chance, the chance, shot instead; on a refusal the turnover and who has it then.
-  // clang-format off
-  const struct { const char* why; int option; std::vector<double> draws; int ballTo, lastPasser; } cases[] = {
-      {"31 in a hundred for a first option", 3, {2, 31, 2}, 4, 1},
-      {"32 fails; 5 would be a turnover", 3, {2, 32, 2, 6, 1, 1}, 1, 0},
-      {"40 with the lucky draw", 3, {1, 4, 40, 2}, 4, 1},
-      {"20 for a man who is not open", 0, {2, 20, 2}, 4, 1},
-      {"21 fails; 20 would be a turnover", 0, {2, 21, 2, 21, 3, 1}, 3, 0},
-  };
-  // clang-format on
-  for (const auto& c : cases) {
-    SetUpCommands();
-    O().Option[4] = c.option;
-    game.possession.QuickPassTarget = 4;
-    random.Script(c.draws);
-    QuickPassChosen();
-    EXPECT_EQ(game.BallPlayer, c.ballTo) << c.why;
-    EXPECT_EQ(game.possession.LastPasserSlot, c.lastPasser) << c.why;
-    EXPECT_EQ(game.possession.QuickPassCount, 1) << c.why;
-    EXPECT_LT(game.GameClock, 7000) << c.why;
-    random.Script({});
-  }
 }
 
 TEST(QuickPass, TheComputerPassesQuicklyOnlyWithAFreshClock) {
@@ -223,17 +196,6 @@ TEST(QuickPass, TheComputerPassesQuicklyOnlyWithAFreshClock) {
     EXPECT_EQ(O().QuickPassesGame - before, c.tried ? 1 : 0) << c.why;
     random.Script({});
   }
-}
-
-TEST(PlayGrid, SucceedsByOption) {
-  const auto play = [] { PlayGridChosen(4); };
-  const auto his = [] {
-    return game.GameState == "DEFENSE-CALL" && game.call.PlayGridShot && game.BallPlayer == 4;
-  };
-  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 0; }, play, his), 0.1, 0.06);
-  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 1; }, play, his), 0.3, 0.06);
-  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 2; }, play, his), 0.6, 0.06);
-  EXPECT_NEAR(Share([] { Late(), O().Option[4] = 3; }, play, his), 0.9, 0.06);
 }
 
 TEST(DefenseCall, HoldsForOnePlay) {
@@ -302,10 +264,6 @@ bool AnyThree() {
 TEST(UsePlay, RunsWhatWasCalled) {
   // clang-format off
   const struct { const char* why; void (*change)(); bool (*holds)(); double atLeast, atMost; } cases[] = {
-      {"inside", [] { Calls(1, 4); }, [] { return Plays(4, "INSIDE"); }, 0.5, 1},
-      {"three", [] { Calls(3, 2); }, [] { return Plays(2, "THREE"); }, 0.5, 1},
-      {"drive", [] { Calls(4, 3); }, [] { return Plays(3, "DRIVE"); }, 0.6, 1},
-      {"go to", [] { Calls(5, 2); }, [] { return Plays(2, "OUTSIDE"); }, 0.6, 1},
       {"pick",
        [] { Calls(6, 5); }, [] { return game.call.PickBall == 1 && game.call.PickScreener == 5; }, 0.6, 1},
       {"force a three",
@@ -320,35 +278,6 @@ TEST(UsePlay, RunsWhatWasCalled) {
     const double share = Share(c.change, UsePlayNowRoutine, c.holds);
     EXPECT_GE(share, c.atLeast) << c.why;
     EXPECT_LE(share, c.atMost) << c.why;
-  }
-}
-
-TEST(Prompt, AsksTheCoachOfTheStop) {
-  // clang-format off
-  struct Case { GameState state; std::string prompt; void (*change)() = [] {}; };
-  const Case cases[] = {
-      {"JUMPBALL-1", "Boston Press 'Continue' When Ready", [] { Acts(1); }},
-      {"OFFENSE", "Denver Select A Play", [] { game.BallPlayer = 0; }},
-      {"OFFENSE", "Man1 With The Ball Beyond The Arc", [] { OMan().ShotPick = kThree; }},
-      {"TIMEOUT-OFFENSE", "Denver Press 'Continue' To Inbound", [] { game.NeedsInbound = 1; }},
-      {"OFFENSE", "Denver Press 'Continue' To Frontcourt", [] { game.NeedsMoveUp = 1; }},
-      {"DEFENSE-CALL", "Boston select defense and click Ok"},
-      {"DEFENSE", "Boston Continue"},
-      {"OFFREB", "Man1 Shoot Inside (6) Or Pass (4)?", [] { game.PutbackClass = 1; }},
-      {"OFFREB", "Man1 Shoot Outside( 6), Drive(6), Or Pass (4)?", [] { game.PutbackClass = 2; }},
-      {"OFFREB", "Man1 Shoot Three (5) Or Pass (4)?", [] { game.PutbackClass = 3; }},
-      {"FASTBREAK", "2-1 Denver Fastbreak (Man1 6, Man3 6)?",
-       [] { game.fastBreak = {.BreakAttackers = 2, .BreakDefenders = 1}, OMan(1).InBreak = OMan(3).InBreak = 1; }},
-      {"FREETHROW-WAIT", "Boston Press Continue When Ready (Man1 at the line)"},
-      {"FREETHROW-SHOOT", "Man1 - Shoot Free Throw"},
-      {"DEADBALL-OFFENSE", "", [] { game.GameOver = true; }},
-  };
-  // clang-format on
-  for (const Case& c : cases) {
-    SetUpCommands();
-    game.GameState = c.state;
-    c.change();
-    EXPECT_EQ(Prompt(), c.prompt);
   }
 }
 

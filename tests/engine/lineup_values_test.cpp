@@ -24,20 +24,14 @@ TEST(LineupValues, SumWhatFiveMenShowWhereTheyStand) {
   const struct { const char* why; void (*change)(); Sums sums; } cases[] = {
       {"five at home", [] {}, {250, 25, 18, 20, 14, 19}},
       {"a centre on the wing", [] { Positions(5, 0, 0); }, {248, 23, 16, 19, 15, 18}},
-      {"a point guard's second place", [] { Positions(1, 3, 0); }, {250, 25, 18, 19, 14, 19}},
       {"named twice: the later place", [] { Positions(3, 0, 3); }, {249, 24, 17, 20, 14, 19}},
       {"forwards are one place", [] {
         Positions(4, 0, 0), Rules().TraditionalPosCheck = 1; }, {250, 25, 18, 20, 14, 19}},
       {"and the first of two names counts there", [] { Positions(3, 0, 3), Rules().TraditionalPosCheck = 1; },
        {250, 25, 18, 20, 14, 19}},
-      {"centres are not", [] {
-        Positions(5, 0, 0), Rules().TraditionalPosCheck = 1; }, {248, 23, 16, 19, 15, 18}},
       {"a good man on the wing is held down", [] {
         Positions(4, 3, 0), Third().RateDefInside = 8, Third().RatePassing = 8, Third().RateRebDef = 8; },
        {250, 25, 19, 20, 14, 19}},
-      {"his own place has no lid on passing", [] { Third().RatePassing = 8; }, {250, 25, 18, 24, 14, 19}},
-      {"a tired centre", [] {
-        Rules().FatigueMeterCheck = 1, OMan(5).Energy = 50; }, {250, 25, 18, 20, 13, 18}},
       {"a spent one", [] { Rules().FatigueMeterCheck = 1, OMan(5).Energy = 35; }, {250, 25, 18, 20, 12, 18}},
       {"a centre at the arc", [] { OMan(5).ShotPick = kThree; }, {250, 25, 18, 20, 13, 18}},
       {"an empty place ends the count", [] { O().Lineup[3] = 0; }, {100, 10, 6, 8, 5, 7}},

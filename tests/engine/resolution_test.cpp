@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <map>
-#include <string>
+#include <vector>
 
 #include "engine/eligible.h"
 #include "engine/execution.h"
@@ -32,65 +31,70 @@ void SetUpPlay(const char* kind, const char* state = "OFFENSE") {
   (void)game.GameState.Set(state);
 }
 
-/// How often each result came out of many plays of one situation; the change acts on each fresh situation.
-std::map<std::string, int> Results(const char* kind, void (*change)(), const char* state = "OFFENSE",
-                                   int plays = 600) {
-  std::map<std::string, int> seen;
+/// In how many of 600 plays of one situation, changed as told, one of the results came out.
+int CountResults(const char* kind, const char* state, void (*change)(),
+                 const std::vector<const char*>& results) {
   SetUpPlay(kind, state);
   change();
   const Game start = game;
-  for (int k = 1; k <= plays; ++k) {
+  int seen = 0;
+  for (int k = 1; k <= 600; ++k) {
     game = start;
     random.Seed(static_cast<std::uint64_t>(k));
     FindResult();
-    ++seen[std::string(game.PlayResult.Text())];
+    for (const char* r : results) seen += game.PlayResult.Text() == r ? 1 : 0;
   }
   return seen;
 }
 
-int Sum(const std::map<std::string, int>& seen, std::initializer_list<const char*> results) {
-  int sum = 0;
-  for (const char* r : results) {
-    if (const auto it = seen.find(r); it != seen.end()) sum += it->second;
+// clang-format off
+TEST(Resolution, SituationsDecideTheResult) {
+  const struct {
+    const char *why, *kind, *state;
+    void (*change)();
+    std::vector<const char*> results;
+    int least, most;
+  } cases[] = {
+      {"turnover ordered", "INSIDE", "OFFENSE", [] { game.call.ForcedTurnover = 1; }, {"TO"}, 600, 600},
+      {"foul ordered, stoppages before the draw aside", "OUTSIDE", "OFFENSE", [] { game.call.ForcedFoul = 1; },
+       {"F0", "F1", "F2", "F1-1", "MF", "M3F"}, 500, 600},
+      {"no drawn foul in the last second and a half", "INSIDE", "OFFENSE", [] { game.GameClock = 14; },
+       {"F0", "F1", "F2", "F1-1", "F3-2", "MF", "M3F"}, 0, 0},
+      {"no line", "THREE", "OFFENSE", [] { Rules().ThreePointCheck = 0; }, {"G3", "M3", "G3F", "M3F"}, 0, 0},
+      {"burned", "BURN", "OFFENSE", [] {}, {"BURN"}, 501, 600},
+      {"a burned clock is no shot", "BURN", "OFFENSE", [] {},
+       {"G", "G3", "M", "M3", "MF", "GF", "REB", "OFFREB", "DEFREB"}, 0, 0},
+      {"shot clock", "OUTSIDE", "OFFENSE", [] { game.ShotClock = 3; }, {"SHOTCLOCK"}, 501, 600},
+      {"no shot clock", "OUTSIDE", "OFFENSE", [] { Rules().ShotClockList = 0, game.ShotClock = 3; },
+       {"SHOTCLOCK"}, 0, 0},
+      {"a defense on its last men stops fouling", "INSIDE", "OFFENSE", [] {
+        D().QuickFoul = 1, D().Lineup = {{1, 2, 3, 0, 0}};
+        for (int slot = 4; slot <= 12; ++slot) game.loaded[1][slot].PlayerOut = 1; },
+       {"F0", "F1", "F2", "F1-1", "MF"}, 0, 59},
+      {"a computer that fouls gets its foul", "OUTSIDE", "OFFENSE", [] {
+        D().QuickFoul = 1, game.Period = 4, game.GameClock = 400, D().Score = 90, O().Score = 94; },
+       {"F0", "F1", "F2", "F1-1"}, 501, 600},
+      {"inbounds first", "INSIDE", "DEADBALL-OFFENSE", [] { game.DeadBallKind = 2, game.NeedsInbound = 1; },
+       {"IN-EZ"}, 501, 600},
+      {"nothing else with it", "INSIDE", "DEADBALL-OFFENSE", [] { game.DeadBallKind = 2, game.NeedsInbound = 1; },
+       {"G", "M", "DEFREB", "F2", "TO"}, 0, 0},
+      {"the move up first", "INSIDE", "OFFENSE", [] { game.NeedsMoveUp = game.NeedsBringUp = 1; },
+       {"MOVE-UP"}, 501, 600},
+  };
+  for (const auto& c : cases) {
+    const int seen = CountResults(c.kind, c.state, c.change, c.results);
+    EXPECT_GE(seen, c.least) << c.why;
+    EXPECT_LE(seen, c.most) << c.why;
   }
-  return sum;
 }
-
-TEST(Resolution, ForcedOrdersWin) {
-  EXPECT_EQ(Results("INSIDE", [] { game.call.ForcedTurnover = 1; })["TO"], 600);
-  const auto fouled = Results("OUTSIDE", [] { game.call.ForcedFoul = 1; });
-  EXPECT_GE(Sum(fouled, {"F0", "F1", "F2", "F1-1", "MF", "M3F"}), 500) << "stoppages before the draw aside";
-}
-
-TEST(Resolution, NoFoulFromTheDrawInTheLastSecondAndAHalf) {
-  const auto seen = Results("INSIDE", [] { game.GameClock = 14; });
-  EXPECT_EQ(Sum(seen, {"F0", "F1", "F2", "F1-1", "F3-2", "MF", "M3F"}), 0);
-}
+// clang-format on
 
 TEST(Resolution, AThreeWithoutTheLineIsAnOutsideShot) {
-  const auto seen = Results("THREE", [] { Rules().ThreePointCheck = 0; });
-  EXPECT_EQ(Sum(seen, {"G3", "M3", "G3F", "M3F"}), 0);
   SetUpPlay("THREE");
   Rules().ThreePointCheck = 0;
   OMan().ShotPick = kThree;
   FindResult();
   EXPECT_NE(OMan().ShotPick, kThree);
-}
-
-TEST(Resolution, ABurnedClockIsNeverAShot) {
-  const auto seen = Results("BURN", [] {});
-  EXPECT_EQ(Sum(seen, {"G", "G3", "M", "M3", "MF", "GF", "REB", "OFFREB", "DEFREB"}), 0);
-  EXPECT_GT(Sum(seen, {"BURN"}), 500);
-}
-
-TEST(Resolution, TheShotClockHoldsOnlyWithTheRule) {
-  EXPECT_GT(Results("OUTSIDE", [] { game.ShotClock = 3; })["SHOTCLOCK"], 500);
-  EXPECT_EQ(Results("OUTSIDE",
-                    [] {
-                      Rules().ShotClockList = 0;
-                      game.ShotClock = 3;
-                    })["SHOTCLOCK"],
-            0);
 }
 
 TEST(Resolution, ThreeTenthsAreTooFew) {
@@ -99,35 +103,6 @@ TEST(Resolution, ThreeTenthsAreTooFew) {
   FindResult();
   EXPECT_EQ(game.Period, 2) << "the period ran out without a shot";
   EXPECT_EQ(game.player[2][1].Stats[3].FGA, 0);
-}
-
-TEST(Resolution, ADefenseOnItsLastMenStopsFouling) {
-  const auto seen = Results("INSIDE", [] {
-    D().QuickFoul = 1;
-    for (int slot = 4; slot <= 12; ++slot) game.loaded[1][slot].PlayerOut = 1;
-    D().Lineup = {{1, 2, 3, 0, 0}};
-  });
-  EXPECT_LT(Sum(seen, {"F0", "F1", "F2", "F1-1", "MF"}), 60);
-}
-
-TEST(Resolution, AComputerThatFoulsMostlyGetsItsFoul) {
-  const auto seen = Results("OUTSIDE", [] {
-    D().QuickFoul = 1;
-    game.Period = 4;
-    game.GameClock = 400;
-    D().Score = 90;
-    O().Score = 94;
-  });
-  EXPECT_GT(Sum(seen, {"F0", "F1", "F2", "F1-1"}), 500);
-}
-
-TEST(Resolution, InboundsAndMoveUpsComeFirst) {
-  const auto in = Results(
-      "INSIDE", [] { game.DeadBallKind = 2, game.NeedsInbound = 1; }, "DEADBALL-OFFENSE");
-  EXPECT_GT(Sum(in, {"IN-EZ"}), 500);
-  EXPECT_EQ(Sum(in, {"G", "M", "DEFREB", "F2", "TO"}), 0);
-  const auto up = Results("INSIDE", [] { game.NeedsMoveUp = 1, game.NeedsBringUp = 1; });
-  EXPECT_GT(Sum(up, {"MOVE-UP"}), 500);
 }
 
 TEST(Resolution, AnAnalysisLeavesTheGameAlone) {

@@ -25,6 +25,17 @@ void SetUpSet() {
   }
 }
 
+/// Runs `play` from the present state with every seed below `times`.
+template <typename Play>
+void EachSeed(int times, Play play) {
+  const Game start = game;
+  for (int k = 0; k < times; ++k) {
+    game = start;
+    random.Seed(static_cast<std::uint64_t>(k));
+    play();
+  }
+}
+
 struct Picks {
   int count[4] = {};
 };
@@ -32,13 +43,10 @@ Picks Draw(void (*change)(), int times = 400) {
   Picks picks;
   SetUpSet();
   change();
-  const Game start = game;
-  for (int k = 0; k < times; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
+  EachSeed(times, [&] {
     SetOpenStatus();
     for (int p = 1; p <= 5; ++p) ++picks.count[game.man[2][p].ShotPick];
-  }
+  });
   return picks;
 }
 
@@ -60,16 +68,13 @@ TEST(OpenStatus, PicksFollowTheRealMix) {
 TEST(OpenStatus, TheWishForNoInsideMenHoldsHalfOfTheTime) {
   int none = 0;
   SetUpSet();
-  const Game start = game;
-  for (int k = 0; k < 600; ++k) {
-    game = start;
+  EachSeed(600, [&] {
     O().InsideOffense = 0;
-    random.Seed(static_cast<std::uint64_t>(k));
     SetOpenStatus();
     int inside = 0;
     for (int p = 1; p <= 5; ++p) inside += game.man[2][p].ShotPick == kInside ? 1 : 0;
     none += inside == 0 ? 1 : 0;
-  }
+  });
   EXPECT_GT(none, 30);
   EXPECT_LT(none, 300);
 }
@@ -91,10 +96,7 @@ TEST(OpenStatus, StandingOrders) {
 
 TEST(OpenStatus, NoTwoMenOnOneSpot) {
   SetUpSet();
-  const Game start = game;
-  for (int k = 0; k < 300; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
+  EachSeed(300, [&] {
     SetOpenStatus();
     std::set<int> spots;
     for (int p = 1; p <= 5; ++p) {
@@ -104,7 +106,7 @@ TEST(OpenStatus, NoTwoMenOnOneSpot) {
       EXPECT_EQ(man.NaturalZone, man.ShotPick);
     }
     EXPECT_EQ(spots.size(), 5u);
-  }
+  });
 }
 
 TEST(OpenStatus, AQuickPassOnlyShiftsTheOrder) {
@@ -124,13 +126,10 @@ int WithBall(int position, void (*change)(), int times = 1000) {
   SetUpSet();
   for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kInside;
   change();
-  const Game start = game;
-  for (int k = 0; k < times; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
+  EachSeed(times, [&] {
     FindShooter();
     count += game.BallSlot == position ? 1 : 0;
-  }
+  });
   return count;
 }
 
@@ -141,15 +140,8 @@ TEST(Shooter, OptionsRatingsAndOrders) {
   EXPECT_EQ(WithBall(3, [] { O().Lineup[3] = 0; }), 0);
   EXPECT_LT(WithBall(3, [] { game.player[2][3].PrimaryPosition = 0; }), 5)
       << "a man without a position of his own";
-}
-
-TEST(Shooter, AFoulingDefenseFindsThePoorestShooter) {
-  EXPECT_GT(WithBall(4,
-                     [] {
-                       D().QuickFoul = 2;
-                       game.player[2][4].Stats[1].FTM = 100;
-                     }),
-            800);
+  EXPECT_GT(WithBall(4, [] { D().QuickFoul = 2, game.player[2][4].Stats[1].FTM = 100; }), 800)
+      << "a fouling defense finds the poorest shooter";
 }
 
 TEST(Shooter, EndsEvenWithNobodyToChoose) {

@@ -29,36 +29,22 @@ void OldMan(int year, int outside) {
 }  // namespace
 
 // clang-format off
-TEST(ThreeChance, StartsFromTheRealPercentage) {
+TEST(ThreeChance, RealPercentageAndSeasonsOfTheLine) {
   Threes("THREE", {  // (350 + 10) x 0.97 = 349, + 5 + 10, x 1.05 + 15
       {"a mean man", [] {}, 397},
-      {"hot", [] { LoadedAt(2, 1).HotHand = 0.02; }, 418},
       {"hot in a blowout", [] { LoadedAt(2, 1).HotHand = 0.02, O().Score = 11; }, 397},
-      {"a defense of a .300 season: half of the difference", [] {
-        league.EraPro[1990].F3M = 4.38f, league.EraPro[1990].F3A = 14.5f;
-        for (int p = 1; p <= 5; ++p) game.player[1][p].Year = 1990; }, 381},
-      {"women: 354 x 0.8", [] { OTeam().TeamSex = "W"; }, 323},
-      {"college man", [] { Shooter().PlayerType = "C"; }, 387},
       {"average historical era, at most 550", [] {
         Rules().GameEraList = 1, league.EraPro[2000].F3M = 1.61f; }, 591},
-      {"the fifties: 275", [] { Rules().GameEraList = 2; }, 321},
       {"the eighties at .166: 175", [] { Rules().GameEraList = 5, league.EraPro[1985].F3M = 2.675f; }, 219},
       {"the eighties of college: 1986", [] {
         Rules().GameEraList = 5, Shooter().PlayerType = "C", league.EraCollege[1986].F3M = 2.675f; }, 208},
       {"no era table, no fives", [] { league.EraPro.Fill({}), O().Lineup = D().Lineup = {}; }, 397},
-  });
-}
-
-TEST(ThreeChance, SeasonsOfTheLine) {
-  Threes("THREE", {
       {"1950: 261, 271, 263, 268, 278", [] { OldMan(1950, 7); }, 307},
       {"1960, a shooter: 291, 301, 292, 297, 307", [] { OldMan(1960, 9); }, 337},
-      {"1961: 281, 291, 282, 287, 297", [] { OldMan(1961, 7); }, 327},
       {"1978, the line of 1985 at .200", [] { OldMan(1978, 7), league.EraPro[1985].F3M = 3.22f; }, 245},
       {"no line in the rules: nothing to show", [] { OldMan(1950, 9), Rules().ThreePointCheck = 0; }, 41},
       {"never tried it", [] { Real().F3A = Real().F3M = 0; }, 0},
       {"3 of 9: 340, halved, a fifth off", [] { Real().F3A = 9, Real().F3M = 3; }, 169},
-      {"29 of 29: held at 300", [] { Real().F3A = 29, Real().F3M = 29; }, 336},
   });
 }
 
@@ -72,9 +58,6 @@ TEST(ThreeChance, Kinds) {
 
 TEST(ThreeChance, Corrections) {
   Threes("THREE", {
-      {"desperate: 349 x 0.3", [] { game.play.ShotLate = 1; }, 136},
-      {"found open inside: 324", [] { OMan().NaturalZone = 1; }, 360},
-      {"leads: 342", [] { game.Period = 4, O().Score = 10; }, 379, {1, 1, 6}},
       {"replay: up by 50 at most", [] { Replay().F3A = 100, Replay().F3M = 20; }, 449},
       {"defense terms with the plain factor: - 8", [] {
         Play& play = game.play;
@@ -82,21 +65,9 @@ TEST(ThreeChance, Corrections) {
        389},
       {"great draft five: + 30", [] { OTeam().RosterKind = "D", O().LineupOffense = 400; }, 429},
       {"two men left, going for the ball: + 115", [] { D().EligibleCount = 2, D().StealFoul = 1; }, 518},
-      {"international against pro: 308", [] { Level(2, "O", 2000); }, 349},
-      {"pro against college: 442", [] { Level(1, "C", 2000); }, 490},
       {"two college teams: + 2, schedules 14", [] {
         Level(1, "C", 2000), Level(2, "C", 2000), O().CollegeStrength = 7, D().CollegeStrength = 5; }, 414},
-      {"home", [] { game.NeutralGame = false; }, 404},
-      {"visitor in two halves", [] { VisitorAttacks(), Rules().PeriodList = 2; }, 387},
       {"forced on him: 364 x 0.8 x 0.9", [] { game.call.ForcedThree = 1; }, 290},
-      {"seldom sent", [] { Shooter().ShotSelection[3] = 4; }, 376},
-      {"guarded by one away from home", [] { game.BallDefender = 2; }, 399},
-      {"left alone", [] { game.play.PlayCoverage = 1; }, 457},
-      {"doubled: 50 and 0.5 x 60", [] { OMan().DoubleTeamThree = 1; }, 317},
-      {"strong inside help", [] { D().DefenseHelp = 3; }, 457},
-      {"outside help", [] { D().DefenseHelp = 2; }, 357},
-      {"told not to foul", [] { D().NoFoul = 1; }, 447},
-      {"talent: 13.9", [] { Shooter().RateOffThree = 10; }, 411},
   });
 }
 // clang-format on
@@ -110,12 +81,7 @@ TEST(FreeThrowChance, FromTheRealPercentage) {
       {"29 of 29", 29, 29, [] {}, 800},
       {"none of 29", 29, 0, [] {}, 300},
       {"30 of 30", 30, 30, [] {}, 1000},
-      {"average historical era", 400, 300, [] { Rules().GameEraList = 1; }, 751},
  
-           {"the nineties at .800", 400, 300, [] { Rules().GameEraList = 6, league.EraPro[1995].FTM = 19.4f; }, 800},
-      {"women: 772 x 0.9", 400, 300, [] { OTeam().TeamSex = "W"; }, 695},
-      {"against women", 400, 300, [] { DTeam().TeamSex = "W"; }, 833},
-      {"alternate reality", 400, 300, [] { Rules().AlternateRealityCheck = 1, Shooter().AltForm1 = 7; }, 735},
       {"no era table", 400, 300, [] { league.EraPro.Fill({}); }, 750},
   };
   // clang-format on

@@ -44,11 +44,14 @@ TEST(TakeTimeouts, HonoursWishesAfterTheirResults) {
 TEST(TakeTimeouts, SpendsTheWishAndRestsEverybody) {
   BothWish();
   game.PlayResult = "G";
-  ManAt(2, 3).FatigueLoad = 1000;
+  for (const int slot : {3, 4}) ManAt(2, slot).FatigueLoad = 1000;
+  LoadedAt(2, 4).PlayerOut = 1;
   TakeTimeouts();
   EXPECT_EQ(game.side[1].TimeoutOffense, 0);
   EXPECT_EQ(game.side[2].TimeoutDefense, 1) << "still wished";
   EXPECT_EQ(ManAt(2, 3).FatigueLoad, 850);
+  EXPECT_EQ(ManAt(2, 4).FatigueLoad, 1000) << "he is out";
+  EXPECT_EQ(ManAt(2, 8).RestTime, 350) << "on the bench";
   EXPECT_EQ(game.side[1].TimeoutsByPeriod[1], 1);
   EXPECT_EQ(game.side[1].TimeoutsByMinute[20], 1);
   EXPECT_TRUE(game.PlayResult == "");

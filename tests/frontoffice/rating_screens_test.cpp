@@ -2,7 +2,6 @@
 
 #include "frontoffice/edit_ratings.h"
 #include "frontoffice/rating_run.h"
-#include "frontoffice/rating_words.h"
 #include "platform/dialogs.h"
 #include "support/eras.h"
 #include "support/men.h"
@@ -22,11 +21,8 @@ TEST(EditRatings, RangesByColumn) {
       {"offense is kept times ten", C::kOffense, 7.5, &PlayerRecord::RateOffense, 75},
       {"offense at its end", C::kOffense, 20, &PlayerRecord::RateOffense, 200},
       {"offense beyond", C::kOffense, 20.1, &PlayerRecord::RateOffense, 77},
-      {"passing at its end", C::kPass, 15, &PlayerRecord::RatePassing, 15},
-      {"passing beyond", C::kPass, 16, &PlayerRecord::RatePassing, 77},
       {"inside share to the nearest ten", C::kRealIn, 45, &PlayerRecord::RealInsidePct, 50},
       {"inside share below the half", C::kRealIn, 44, &PlayerRecord::RealInsidePct, 40},
-      {"inside share at its end", C::kRealIn, 200, &PlayerRecord::RealInsidePct, 200},
       {"inside share beyond", C::kRealIn, 201, &PlayerRecord::RealInsidePct, 77},
       {"others to 20", C::kClutch, 20, &PlayerRecord::RateClutch, 20},
       {"others beyond", C::kDefMan, 21, &PlayerRecord::RateDefOutside, 77},
@@ -57,24 +53,6 @@ TEST(EditRatings, UntouchedGridChangesNothing) {
     EXPECT_EQ(roster.player[slot].RealInsidePct, before.player[slot].RealInsidePct);
     EXPECT_EQ(roster.player[slot].RateRebDef, before.player[slot].RateRebDef);
   }
-}
-
-TEST(GameRatings, WordsFromTheLineup) {
-  Side side;
-  side.LineupOffense = 259;   // 25: average
-  side.LineupInside = 22;     // (22 - 18) / 2 + 5 = 7
-  side.LineupOutside = 50;    // far above
-  side.LineupFast = 21;       // 3 / 1.5 + 5 = 7
-  side.LineupPassing = 0;     // far below
-  side.LineupDefense = 22.9;  // -1.05 + 5 = 3.95
-  side.LineupDefInside = 18;
-  side.LineupForce = 27;
-  side.LineupRebOff = 10;  // 4.5
-  side.LineupRebDef = 28;  // 10
-  const std::string_view want[] = {"Average", "Good",    "Excellent",     "Good",          "Very Poor",
-                                   "Fair",    "Average", "Above Average", "Below Average", "Excellent"};
-  const auto rows = HCGAMERATINGS(side);
-  for (std::size_t i = 0; i < rows.size(); ++i) EXPECT_EQ(rows[i].word, want[i]) << rows[i].caption;
 }
 
 TEST(RatingRunScreen, AsksFirst) {

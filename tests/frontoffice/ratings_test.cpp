@@ -16,7 +16,6 @@ constexpr LineOf kForward{60, 1500, 500, 180, 0, 0, 210, 150, 300, 99, 120, 40, 
 constexpr LineOf kStudent{32, 900, 300, 150, 60, 21, 120, 84, 220, 70, 50, 25, 35, 60, 80};
 constexpr LineOf kWoman{34, 1000, 380, 170, 120, 45, 100, 85, 130, 25, 110, 45, 12, 70, 75};
 constexpr LineOf kOneOfThree{50, 700, 250, 110, 3, 1, 60, 45, 90, 20, 60, 20, 8, 40, 60};
-constexpr LineOf kNoneOfThree{50, 700, 250, 110, 3, 0, 60, 45, 90, 20, 60, 20, 8, 40, 60};
 constexpr LineOf kShort{30, 140, 60, 38, 12, 8, 30, 27, 60, 25, 30, 8, 10, 5, 15};
 
 /// A team that shot less than its league and defended well.
@@ -50,36 +49,32 @@ TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
     ManOf man;
     LineOf line;
     TeamRecord team;
-    bool woman;
     Expected want;
+    const char* sex = "M";
   } cases[] = {
       // clang-format off
       //                                             Off In% FT 3P Ou In Dr Fb Pa RD RO DO DI DF Du Sp Cl Dk
-      {"a guard on a team without totals", {1995, "P", 1, 2, 0, 27, 75}, kGuard, MakeTeam("P", 1995), false,
+      {"a guard on a team without totals", {1995, "P", 1, 2, 0, 27, 75}, kGuard, MakeTeam("P", 1995),
                                                     {68,  0, 6, 6, 8, 0, 8, 9, 8, 3, 1, 7, 1, 7, 10, 7, 7, 0, 6.672407, 14690}},
-      {"his team slow: better on the break, passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(), false,
+      {"his team slow: better on the break, passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(),
                                                     {68,  0, 6, 6, 8, 0, 8, 10, 6, 3, 1, 7, 1, 7, 10, 7, 7, 0, 6.356618, 13328}},
-      {"a centre before blocks were kept", {1965, "P", 5, 0, 0, 31, 83}, kCentre, MakeTeam("P", 1965), false,
+      {"a centre before blocks were kept", {1965, "P", 5, 0, 0, 31, 83}, kCentre, MakeTeam("P", 1965),
                                                     {44, 90, 4, 0, 1, 8, 0, 0, 2, 8, 4, 5, 6, 1, 9, 6, 6, 10, 5.044648, 10887}},
-      {"no usable minutes in 1950: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950), false,
+      {"no usable minutes in 1950: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950),
                                                     {61, 70, 5, 0, 3, 7, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 5, 3, 4.030531, 4558}},
-      {"the same man in 1952: no more", {1952, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1952), false,
-                                                    {50, 70, 5, 0, 3, 6, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 4, 3, 3.898647, 4019}},
-      {"a college forward", {2022, "C", 4, 3, 5, 20, 80}, kStudent, MakeTeam("C", 2022), false,
+      {"a college forward", {2022, "C", 4, 3, 5, 20, 80}, kStudent, MakeTeam("C", 2022),
                                                     {72, 60, 5, 6, 5, 8, 2, 3, 2, 6, 2, 6, 7, 4, 9, 6, 6, 8, 4.854512, 8690}},
-      {"a professional woman", {2022, "P", 2, 0, 0, 28, 72}, kWoman, MakeTeam("P", 2022), true,
-                                                    {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0, 3.867532, 2269}},
-      {"one of three threes: the least rating", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010), false,
+      {"a professional woman", {2022, "P", 2, 0, 0, 28, 72}, kWoman, MakeTeam("P", 2022),
+                                                    {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0, 3.867532, 2269}, "W"},
+      {"one of three threes: the least rating", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010),
                                                     {53,  0, 5, 1, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4, 3.511783, 1442}},
-      {"none of three: none", {2010, "P", 2, 0, 0, 24, 78}, kNoneOfThree, MakeTeam("P", 2010), false,
-                                                    {53,  0, 5, 0, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4, 3.493749, 1366}},
-      {"140 minutes: shots at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010), false,
+      {"140 minutes: shots at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010),
                                                     {56, 50, 6, 5, 5, 5, 4, 5, 7, 7, 4, 10, 9, 10, 4, 4, 2, 10, 6.421032, 673}},
       // clang-format on
   };
   for (const auto& c : cases) {
     PlayerRecord p = MakeMan(c.man, c.line);
-    if (c.woman) p.Sex = "W";
+    p.Sex = c.sex;
     p.ScheduleStrength = c.team.TeamType == 'C' ? 7 : 0;
     hcratings().RatePlayer(p, c.team);
     const Expected got{p.RateOffense,    p.RealInsidePct, p.RateReserved1,  p.RateOffThree,
@@ -100,27 +95,11 @@ TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
   }
 }
 
-TEST_F(Ratings, InsideShareDecidesBetweenInsideAndOutside) {
-  for (const int share : {0, 50, 100}) {
-    PlayerRecord p = MakeMan({2010, "P", 5}, kCentre);
-    p.RateOffense = 50;
-    p.RealInsidePct = static_cast<u8>(share);
-    DefaultShooting(p, MakeTeam("P", 2010), {});
-    EXPECT_EQ(p.RateOffInside == 0, share == 0) << share;
-    EXPECT_EQ(p.RateOffOutside == 0, share == 100) << share;
-  }
-}
-
 TEST_F(Ratings, FillInsOfOldSeasons) {
-  const struct {
-    const char* why;
-    int year, turnovers;  // 100 assists and 1000 shots
-  } cases[] = {{"kept, so left", 1973, 0}, {"1972", 1972, 169}, {"1970", 1970, 169},
-               {"1969", 1969, 180},        {"1964", 1964, 191}, {"1959", 1959, 203}};
-  for (const auto& c : cases) {
-    PlayerRecord p = MakeMan({c.year}, {.G = 70, .Min = 2000, .FGA = 1000, .Ast = 100});
-    DefaultTurnovers(p, MakeTeam("P", c.year));
-    EXPECT_EQ(p.Stats[1].To, c.turnovers) << c.why;
+  for (const int year : {1973, 1970}) {  // 1973: kept, so left
+    PlayerRecord p = MakeMan({year}, {.G = 70, .Min = 2000, .FGA = 1000, .Ast = 100});
+    DefaultTurnovers(p, MakeTeam("P", year));
+    EXPECT_EQ(p.Stats[1].To, year == 1973 ? 0 : 169) << year;
   }
   // The team's 800 steals in 82 games: 0.040231 a minute and man. Point guard + 0.03, centre - 0.03.
   TeamRecord team = MakeTeam("P", 1995);
@@ -149,7 +128,6 @@ TEST_F(Ratings, DurabilityCountsTheDaysHeCouldPlay) {
     bool woman;
   } cases[] = {
       {"whole season: October to March, 150 days", "P", 1, 1, 12, 31, 41, 5, false},
-      {"two months", "P", 3, 1, 5, 1, 20, 6, false},
       {"a last date before the first: 30 days", "P", 8, 1, 3, 1, 4, 2, false},
       {"college seasons are shorter", "C", 1, 1, 12, 31, 30, 8, false},
       {"never above ten", "P", 6, 1, 6, 20, 30, 10, false},

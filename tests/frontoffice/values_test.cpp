@@ -24,7 +24,6 @@ TEST(PositionDefenseOf, WeighsByPositionAndPenalizesStrangers) {
       {"his own: 0.956 x 8 + 0.044 x 2", 2, 7.736},
       {"second: 0.98 x (0.853 x 8 + 0.147 x 2)", 3, 6.97564},
       {"spot: 0.9 x (0.261 x 8 + 0.739 x 2)", 5, 3.2094},
-      {"no position", 0, 0},
       {"no position either", 6, 0},
   };
   for (const auto& c : cases) EXPECT_NEAR(PositionDefense(p, c.position), c.want, 1e-9) << c.why;
@@ -32,21 +31,6 @@ TEST(PositionDefenseOf, WeighsByPositionAndPenalizesStrangers) {
   EXPECT_NEAR(PositionDefense(p, 2), 0.9 * 7.736, 1e-9) << "listed twice, the later counts";
   p.RateDefOutside = p.RateDefInside = 20;
   EXPECT_EQ(PositionDefense(p, 3), 10) << "held at 10";
-}
-
-TEST(Overall, ShortSeasonsCountForLess) {
-  LoadShippedEras();
-  // With ratings alone (no line) the value is 0.45 a point of passing: 12 x 0.45 / 2.85 = 1.894737.
-  const struct {
-    int minutes;
-    double factor;
-  } cases[] = {{9, 0.05}, {10, 0.1},  {19, 0.1},  {20, 0.3},  {49, 0.3},
-               {50, 0.5}, {149, 0.5}, {150, 0.7}, {249, 0.7}, {250, 1}};
-  for (const auto& c : cases) {
-    PlayerRecord p = MakeMan({2000}, {.G = 10, .Min = c.minutes});
-    p.RatePassing = 12;
-    EXPECT_NEAR(PlayerOverall(p), 1.894737 * c.factor, 1e-5) << c.minutes;
-  }
 }
 
 TEST(Overall, UnknownSeasonCountsAs2012AndOldThreesPlainly) {
@@ -99,23 +83,19 @@ TeamRecord AverageTeam(int year, const char* type, double pace) {
   return team;
 }
 
-TEST(EfficiencyOf, AverageLineIsFifteen) {
+TEST(EfficiencyOf, AverageLineIsFifteenCorrectedForPaceWithinBounds) {
   LoadShippedEras();
-  for (const int year : {1950, 1975, 2000, 2022}) {
-    const auto per = CalculatePlayerPer(AverageMan(year, "P"), AverageTeam(year, "P", 1), {});
-    EXPECT_NEAR(per[1], 15, 0.02) << year;
-    EXPECT_EQ(per[2], 0) << "no replay season";
-  }
-  EXPECT_NEAR(CalculatePlayerPer(AverageMan(2022, "C"), AverageTeam(2022, "C", 1), {})[1], 15, 0.02);
-}
-
-TEST(EfficiencyOf, FastTeamsAreCorrectedWithinBounds) {
-  LoadShippedEras();
-  const struct { double pace, want; } cases[] = {{1.1, 15 / 1.1}, {0.5, 15 * 1.3}, {2, 15 * 0.7}};
+  const struct {
+    int year;
+    const char* type;
+    double pace, want;
+  } cases[] = {{1950, "P", 1, 15},      {1975, "P", 1, 15},         {2022, "P", 1, 15},
+               {2022, "C", 1, 15},      {2000, "P", 1.1, 15 / 1.1}, {2000, "P", 0.5, 15 * 1.3},
+               {2000, "P", 2, 15 * 0.7}};
   for (const auto& c : cases) {
-    EXPECT_NEAR(CalculatePlayerPer(AverageMan(2000, "P"), AverageTeam(2000, "P", c.pace), {})[1], c.want,
-                0.03)
-        << c.pace;
+    const auto per = CalculatePlayerPer(AverageMan(c.year, c.type), AverageTeam(c.year, c.type, c.pace), {});
+    EXPECT_NEAR(per[1], c.want, c.pace == 1 ? 0.02 : 0.03) << c.year << c.type << c.pace;
+    EXPECT_EQ(per[2], 0) << "no replay season";
   }
 }
 
@@ -144,16 +124,19 @@ TEST(EfficiencyOf, ReplayLeagueIsMeasuredFromTeamsThatPlayed) {
   league.team = {};
 }
 
-TEST(Rates, PerGameOfPlay) {
-  const PlayerRecord p = MakeMan({2000}, {10, 240, 100, 40, 20, 5, 30, 24, 50, 12, 20, 10, 5, 15, 25});
-  const StatRates pro = ComputeRates(p.Stats[1], false), college = ComputeRates(p.Stats[1], true);
-  EXPECT_DOUBLE_EQ(pro.FGPct, 0.4);
-  EXPECT_DOUBLE_EQ(pro.F3Pct, 0.25);
-  EXPECT_DOUBLE_EQ(pro.MinutesPerGame, 24);
-  EXPECT_DOUBLE_EQ(pro.Reb, 10);
-  EXPECT_DOUBLE_EQ(college.FGA, 100 * 40.0 / 240);
-  const StatRates none = ComputeRates(StatLine{}, false);
-  EXPECT_EQ(none.FTPct + none.MinutesPerGame + none.Pf, 0);
+TEST(Overall, ShortSeasonsCountForLess) {
+  LoadShippedEras();
+  // With ratings alone (no line) the value is 0.45 a point of passing: 12 x 0.45 / 2.85 = 1.894737.
+  const struct {
+    int minutes;
+    double factor;
+  } cases[] = {{9, 0.05}, {10, 0.1},  {19, 0.1},  {20, 0.3},  {49, 0.3},
+               {50, 0.5}, {149, 0.5}, {150, 0.7}, {249, 0.7}, {250, 1}};
+  for (const auto& c : cases) {
+    PlayerRecord p = MakeMan({2000}, {.G = 10, .Min = c.minutes});
+    p.RatePassing = 12;
+    EXPECT_NEAR(PlayerOverall(p), 1.894737 * c.factor, 1e-5) << c.minutes;
+  }
 }
 
 }  // namespace

@@ -29,16 +29,11 @@ TEST(Division, FollowsTheSlotNumber) {
     const char* why;
     int slot, division;
   } cases[] = {
-      {"first slot of the first block", 1, 1},
-      {"last slot of division 1", 12, 1},
-      {"next division", 13, 2},
       {"last of the first block", 432, 36},
       {"first of the second block", 433, 1},
-      {"its eighth", 440, 1},
       {"its ninth", 441, 2},
       {"last slot of all", 720, 36},
       {"scratch", 0, 0},
-      {"undecided", 999, 0},
   };
   for (const auto& c : cases) EXPECT_EQ(DivisionOf(c.slot), c.division) << c.why;
   for (int division = 1; division <= kDivisions; ++division) {
@@ -52,11 +47,8 @@ TEST_F(Teams, DivisionsAreHalvedIntoConferences) {
     std::vector<int> used, conference;
   } cases[] = {
       {"one alone", {7}, {1}},
-      {"two", {1, 2}, {1, 2}},
       {"the middle one belongs to the first", {1, 5, 9}, {1, 1, 2}},
-      {"four", {1, 2, 3, 36}, {1, 1, 2, 2}},
       {"five", {1, 2, 3, 4, 5}, {1, 1, 1, 2, 2}},
-      {"six", {1, 2, 3, 4, 5, 6}, {1, 1, 1, 2, 2, 2}},
   };
   for (const auto& c : cases) {
     league = {};
@@ -74,13 +66,10 @@ TEST_F(Teams, LookupsCountActiveTeamsOnly) {
   Put(25).TeamActive = 2;
   RebuildLookups();
   EXPECT_EQ(league.ActiveTeams, 4);
-  EXPECT_EQ(league.DivisionTeams[2], 2);
   EXPECT_EQ(league.UsedDivisions, (std::vector{1, 2}));
   EXPECT_TRUE(league.EqualDivisions);
   EXPECT_TRUE(league.MixedYears);
   EXPECT_EQ(ConferenceOf(14), 2) << "a college team's conference is its division";
-  EXPECT_EQ(ConferenceOf(25), 0) << "a division without teams";
-  EXPECT_EQ(ConferenceOf(kFreeAgent), 0);
   Put(15).Year = 1900;
   league.team[14] = {};
   RebuildLookups();
@@ -88,7 +77,6 @@ TEST_F(Teams, LookupsCountActiveTeamsOnly) {
   league.team[15].Year = 0;
   RebuildLookups();
   EXPECT_FALSE(league.MixedYears);
-  EXPECT_EQ(league.LargestDivision, 2);
 }
 
 TEST_F(Teams, OpeningRepairsOlderTeamsOnce) {
@@ -103,10 +91,8 @@ TEST_F(Teams, OpeningRepairsOlderTeamsOnce) {
   ASSERT_TRUE(WriteTeam(3));
   LoadAllTeams();
   EXPECT_EQ(old.TeamType, "P");
-  EXPECT_EQ(old.RosterKind, "D");
   EXPECT_EQ(old.Abbrev, "Spr");
   EXPECT_EQ(old.Year, 2013);
-  EXPECT_EQ(old.HomeForeColor, 0xFFFFFF);
   EXPECT_EQ(old.TeamTurnovers[2], 0);
   EXPECT_EQ(old.RealWins, 0) << "an unmarked real record is rubbish";
   EXPECT_EQ(old.ConferenceWins, 2);
@@ -125,18 +111,6 @@ TEST_F(Teams, OpeningRepairsOlderTeamsOnce) {
   ASSERT_TRUE(ReadTeam(3));
   EXPECT_EQ(old.RealWins, 0) << "and the file has it";
   EXPECT_EQ(RecordFile(TeamsFile(), kTeamSlotBytes).Count(), 3) << "free slots are not written";
-}
-
-TEST_F(Teams, CountersOfATeamThatHasNotPlayedAreCleared) {
-  TeamRecord& team = Put(1);
-  team.Streak = 4;
-  team.HomeWins = 3;
-  team.NeutralLosses = 2;
-  team.Abbrev = "ABC";
-  ASSERT_TRUE(SaveAllTeams());
-  LoadAllTeams();
-  EXPECT_EQ(team.Streak + team.HomeWins + team.NeutralLosses, 0);
-  EXPECT_EQ(team.Abbrev, "ABC");
 }
 
 TEST_F(Teams, AnyBytesOpenWithoutHarm) {
@@ -171,12 +145,23 @@ TEST_F(Teams, AWriteThatFailsIsToldWithTheFilesName) {
   PlayerRecord player;
   player.RecNo = 4;
   EXPECT_FALSE(WriteTeam(1));
-  EXPECT_FALSE(SaveAllTeams());
   EXPECT_FALSE(WriteCoach(1));
   EXPECT_FALSE(WritePlayer(player));
   EXPECT_EQ(dialogs.told,
-            (std::vector<std::string>{"HCTEAMS could not be written!", "HCTEAMS could not be written!",
-                                      "HCgameplan could not be written!", "HCPLAYER could not be written!"}));
+            (std::vector<std::string>{"HCTEAMS could not be written!", "HCgameplan could not be written!",
+                                      "HCPLAYER could not be written!"}));
+}
+
+TEST_F(Teams, CountersOfATeamThatHasNotPlayedAreCleared) {
+  TeamRecord& team = Put(1);
+  team.Streak = 4;
+  team.HomeWins = 3;
+  team.NeutralLosses = 2;
+  team.Abbrev = "ABC";
+  ASSERT_TRUE(SaveAllTeams());
+  LoadAllTeams();
+  EXPECT_EQ(team.Streak + team.HomeWins + team.NeutralLosses, 0);
+  EXPECT_EQ(team.Abbrev, "ABC");
 }
 
 }  // namespace
