@@ -119,5 +119,32 @@ TEST(Rebounds, OfTheManAndOfTheTeam) {
   EXPECT_EQ(GameLine(1, 4).Reb, 0) << "a dead ball is nobody's";
 }
 
+TEST(Shots, AreSplitByKind) {
+  const struct {
+    const char* kind;
+    bool three;
+    Table<i16, 2, 3> PlayerRecord::*tried;
+    char log;
+  } cases[] = {{"INSIDE", false, &PlayerRecord::ShotAttInside, 'I'},
+               {"OUTSIDE", false, &PlayerRecord::ShotAttOutside, 'O'},
+               {"DRIVE", false, &PlayerRecord::ShotAttDrive, 'D'},
+               {"THREE", true, &PlayerRecord::ShotAttThree, '3'},
+               {"FASTBREAK", false, &PlayerRecord::ShotAttFastbreak2, 'B'},
+               {"FASTBREAK", true, &PlayerRecord::ShotAttFastbreak3, '+'},
+               {"OFFREB", false, &PlayerRecord::ShotAttOffReb2, 'R'},
+               {"OFFREB", true, &PlayerRecord::ShotAttOffReb3, '-'}};
+  for (const auto& c : cases) {
+    SetUpNeutralGame();
+    ASSERT_TRUE(game.PlayKind.Set(c.kind));
+    Shooter().RateDunk = 0;
+    PostShot(1, c.three, true);
+    EXPECT_EQ((Shooter().*c.tried)[3], 1) << c.kind;
+    EXPECT_EQ(game.ScoreLog[1].Kind, c.log) << c.kind;
+    EXPECT_EQ(O().Score, c.three ? 3 : 2) << c.kind;
+    EXPECT_EQ(Defender().OppFGM[3], 1) << c.kind;
+    EXPECT_EQ(DMan(3).ShareBlocks, c.three ? 0 : 1) << c.kind;
+  }
+}
+
 }  // namespace
 }  // namespace tipline
