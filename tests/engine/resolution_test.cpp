@@ -36,14 +36,11 @@ int CountResults(const char* kind, const char* state, void (*change)(),
                  const std::vector<const char*>& results) {
   SetUpPlay(kind, state);
   change();
-  const Game start = game;
   int seen = 0;
-  for (int k = 1; k <= 600; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
+  EachSeed(600, [&] {
     FindResult();
     for (const char* r : results) seen += game.PlayResult.Text() == r ? 1 : 0;
-  }
+  });
   return seen;
 }
 
@@ -152,13 +149,10 @@ TEST(FreeThrow, TheLastShotIsMissedOnPurpose) {
     D().Score = 80;
     game.GameClock = c.clock;
     game.Period = c.period;
-    const Game start = game;
-    for (int k = 0; k < 200; ++k) {
-      game = start;
-      random.Seed(static_cast<std::uint64_t>(k));
+    EachSeed(200, [&] {
       FindResult();
       made += Shooter().Stats[3].FTM;
-    }
+    });
     EXPECT_EQ(made < 60, c.missed) << c.why << ": " << made;
   }
 }

@@ -25,17 +25,6 @@ void SetUpSet() {
   }
 }
 
-/// Runs `play` from the present state with every seed below `times`.
-template <typename Play>
-void EachSeed(int times, Play play) {
-  const Game start = game;
-  for (int k = 0; k < times; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
-    play();
-  }
-}
-
 struct Picks {
   int count[4] = {};
 };

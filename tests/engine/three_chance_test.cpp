@@ -81,7 +81,6 @@ TEST(FreeThrowChance, FromTheRealPercentage) {
       {"29 of 29", 29, 29, [] {}, 800},
       {"none of 29", 29, 0, [] {}, 300},
       {"30 of 30", 30, 30, [] {}, 1000},
- 
       {"no era table", 400, 300, [] { league.EraPro.Fill({}); }, 750},
   };
   // clang-format on

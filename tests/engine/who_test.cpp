@@ -25,34 +25,20 @@ void SetUpWho(const char* kind = "OUTSIDE", const char* state = "OFFENSE") {
   }
 }
 
-/// Runs `play` from the present state with every seed below `times`.
-template <typename Play>
-void EachSeed(int times, Play play) {
-  const Game start = game;
-  for (int k = 0; k < times; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k));
-    play();
-  }
-}
-
 struct Share {
   int attack = 0, dead = 0;
   int man[6] = {};
 };
-Share Rebound(void (*change)(), int count = 2000) {
+Share Rebound(void (*change)()) {
   Share share;
   SetUpWho();
   change();
-  const Game start = game;
-  for (int k = 0; k < count; ++k) {
-    game = start;
-    random.Seed(static_cast<std::uint64_t>(k) + 17);
+  EachSeed(2000, [&] {
     FindRebounder();
     share.attack += game.play.ReboundSide == 2 ? 1 : 0;
     share.dead += game.play.DeadBallRebound;
     if (!game.play.DeadBallRebound && game.play.ReboundSide <= 2) ++share.man[game.play.Rebounder];
-  }
+  });
   return share;
 }
 

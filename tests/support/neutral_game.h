@@ -88,6 +88,17 @@ inline void SeasonOfAll(int year) {
 }
 inline void VisitorAttacks() { game.NeutralGame = false, game.OffenseSide = 1, game.DefenseSide = 2; }
 
+/// Runs `play` from the present state with every seed below `times`.
+template <typename Play>
+void EachSeed(int times, Play play) {
+  const Game start = game;
+  for (int k = 0; k < times; ++k) {
+    game = start;
+    random.Seed(static_cast<std::uint64_t>(k));
+    play();
+  }
+}
+
 /// One change to the neutral game, what it leaves, and the draws on the way.
 struct ChanceCase {
   const char* why;
