@@ -29,6 +29,4 @@ int Realism(std::ostream& out, const BenchOptions& options);
 /// Heap allocations of this program so far.
 std::uint64_t Allocations();
 
-inline constexpr const char* kPresets[] = {"pro", "college", "women", "historic"};
-
 }  // namespace tipline

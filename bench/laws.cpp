@@ -3,9 +3,8 @@
 
 #include <ostream>
 
+#include "base/random.h"
 #include "bench.h"
-#include "engine/engine.h"
-#include "engine/game_state.h"
 #include "league/program.h"
 #include "support/bench_coach.h"
 #include "support/memory_league.h"
@@ -15,25 +14,9 @@ namespace {
 
 constexpr int kTold = 20;  // games that break a law, in full
 
-/// The sentence of the first broken law, empty for none.
-std::string WatchStops(const Pairing& pair) {
+std::string WatchMatch(const Pairing& pair) {
   SetUpMatch(pair.visitor, pair.home);
-  SeatHumans();
-  NewGame();
-  ClockWatch watch;
-  while (!game.GameOver) {
-    LeaveItToTheComputer();
-    const std::string broken = watch.Broken() + BrokenLaw();
-    if (!broken.empty()) return broken;
-  }
-  return BrokenFinalLaw();
-}
-
-std::string WatchEnd(const Pairing& pair) {
-  PlayMatch(pair.visitor, pair.home);
-  const std::string broken = BrokenLaw() + BrokenFinalLaw();
-  KeepBooks();
-  return broken;
+  return WatchGame(LeaveItToTheComputer);
 }
 
 }  // namespace
@@ -51,7 +34,7 @@ int Laws(std::ostream& out, const BenchOptions& options) {
       const Pairing& pair = pairs[static_cast<std::size_t>(n) % pairs.size()];
       const auto seed = options.seed * 100000 + static_cast<std::uint64_t>(n);
       random.Seed(seed);
-      const std::string broken = n % 4 == 0 ? WatchStops(pair) : WatchEnd(pair);
+      const std::string broken = n % 4 == 0 ? WatchMatch(pair) : JudgeMatch(pair.visitor, pair.home);
       if (broken.empty()) continue;
       if (++failures > kTold) continue;
       out << preset << ", seed " << seed << ", " << pair.visitor << " at " << pair.home << ": " << broken

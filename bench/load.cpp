@@ -1,6 +1,4 @@
 // Files: how long a big league takes to load and a new one to make.
-#include <stdlib.h>
-
 #include <chrono>
 #include <filesystem>
 #include <iomanip>
@@ -9,11 +7,11 @@
 
 #include "base/record_file.h"
 #include "bench.h"
-#include "folder.h"
 #include "frontoffice/league_maker.h"
 #include "league/files.h"
 #include "league/program.h"
-#include "support/eras.h"
+#include "league/rules.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {
@@ -54,8 +52,8 @@ void Print(std::ostream& out, const char* what, double seconds, double aim) {
 }  // namespace
 
 int Load(std::ostream& out) {
-  const BenchFolder folder;
-  LoadShippedEras();
+  const TemporaryHome folder;
+  UseShippedEras();
   const double make = Seconds(Make);
   program.LeagueFolder = folder.Home() / "many";
   std::filesystem::create_directories(program.LeagueFolder);

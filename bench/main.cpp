@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "bench.h"
+#include "league/rules.h"
 #include "players.h"
-#include "support/eras.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ int Run(std::string_view command, const BenchOptions& options) {
   if (command == "laws") return Laws(std::cout, options);
   if (command == "realism") return Realism(std::cout, options);
   if (command == "players") {
-    LoadShippedEras();
+    UseShippedEras();
     PrintPlayerSpread(std::cout, options.games > 0 ? options.games : 10);
     return 0;
   }

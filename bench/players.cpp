@@ -4,8 +4,8 @@
 #include <iomanip>
 #include <ostream>
 
-#include "frontoffice/league_maker.h"
 #include "league/player_values.h"
+#include "support/memory_league.h"
 
 namespace tipline {
 namespace {
@@ -99,7 +99,7 @@ struct PresetSpread {
 }  // namespace
 
 void PrintPlayerSpread(std::ostream& out, int leagues) {
-  for (const char* preset : {"pro", "college", "women", "historic"}) {
+  for (const char* preset : kPresets) {
     PresetSpread spread;
     for (int n = 1; n <= leagues; ++n) {
       LeagueRequest request;

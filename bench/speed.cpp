@@ -10,12 +10,12 @@
 #include "bench.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
-#include "folder.h"
 #include "frontoffice/league_maker.h"
 #include "league/files.h"
 #include "league/recent.h"
 #include "league/rules.h"
 #include "support/memory_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {
@@ -108,8 +108,8 @@ void PrintStages(std::ostream& out, int games, const Costs& memory, const Costs&
 
 int Speed(std::ostream& out, const BenchOptions& options) {
   const int games = options.games > 0 ? options.games : 300;
-  const BenchFolder folder;
-  if (!LoadEra() && (!MakeEraFile() || !LoadEra())) throw std::runtime_error("no era file");
+  const TemporaryHome folder;
+  if (!LoadEra() && !MakeEraFile()) throw std::runtime_error("no era file");
   OpenFileLeague(options.seed);
   program.GameKind = "L";
   program.Autoplaying = true;

@@ -93,7 +93,7 @@ bool EnsureEra() {
     Refuse("the data home can't be written: " + program.Home.string());
     return false;
   }
-  return LoadEra() || (MakeEraFile() && LoadEra());
+  return LoadEra() || MakeEraFile();
 }
 
 bool OpenTheLeague(const Common& common) {

@@ -58,5 +58,7 @@ std::string Prompt();
 /// Loads a team and its roster into side 1 or 2 of the game: records, availability, shot mix, today's form,
 /// stints. False when `teamNo` is outside 1..720 or no team holds that slot; the side is then empty.
 bool LoadTeam(int teamNo, int side);
+/// What a load works out for a side that holds its records already: availability, shot mix, form, stints.
+void ReadySide(int side);
 
 }  // namespace tipline

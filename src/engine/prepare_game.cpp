@@ -63,7 +63,11 @@ bool LoadTeam(int teamNo, int side) {
     game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
     game.loaded[side][slot] = {};
   }
-  if (!found) return false;
+  if (found) ReadySide(side);
+  return found;
+}
+
+void ReadySide(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) game.player[side][slot] = {};
     Available(side, slot);
@@ -71,7 +75,6 @@ bool LoadTeam(int teamNo, int side) {
   }
   ShotMix(side);
   SetStints(side);
-  return true;
 }
 
 void PrepareGame() {

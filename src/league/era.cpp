@@ -78,11 +78,7 @@ void FillEditionYear() {
 
 }  // namespace
 
-bool LoadEra() {
-  const RecordFile file(EraFile(), kEraSlotBytes);
-  file.ReadAll(kEraRecords, [](int record, const u8* bytes) {
-    if (EraRecord* row = RowOfRecord(record)) ReadRecord(bytes, *row);
-  });
+void FillEras() {
   for (int year = kFirstEraYear; year <= kLastEraYear; ++year) {
     ConvertOldTotals(league.EraPro[year]);
     FillRow(league.EraPro[year], year);
@@ -91,6 +87,14 @@ bool LoadEra() {
   ExtendProTable();
   FixSeason2020();
   FillEditionYear();
+}
+
+bool LoadEra() {
+  const RecordFile file(EraFile(), kEraSlotBytes);
+  file.ReadAll(kEraRecords, [](int record, const u8* bytes) {
+    if (EraRecord* row = RowOfRecord(record)) ReadRecord(bytes, *row);
+  });
+  FillEras();
   return file.Exists();
 }
 

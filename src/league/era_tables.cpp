@@ -78,14 +78,26 @@ bool ReadTable(const std::string& name, EraTable& table) {
   return true;
 }
 
-}  // namespace
-
-bool MakeEraFile() {
+bool ReadTables() {
   EraTable pro, college;
   if (!ReadTable("era_pro.csv", pro) || !ReadTable("era_college.csv", college)) return false;
   league.EraPro = pro;
   league.EraCollege = college;
-  return SaveEra();
+  return true;
+}
+
+}  // namespace
+
+bool UseShippedEras() {
+  if (!ReadTables()) return false;
+  FillEras();
+  return true;
+}
+
+bool MakeEraFile() {
+  if (!ReadTables() || !SaveEra()) return false;  // the file holds what is known, each load fills it
+  FillEras();
+  return true;
 }
 
 }  // namespace tipline

@@ -30,8 +30,14 @@ void FindPhotoFolder();
 bool LoadEra();
 /// False, after telling the user, when the write failed.
 bool SaveEra();
-/// Makes the era file from the era tables that ship with the program; seasons beyond the last known take its
-/// row. False, with a message, when a table can't be read or the file can't be written.
+/// The fills of LoadEra on the tables in memory: old totals become averages, figures that a season did not
+/// keep are estimated, later seasons follow the last one.
+void FillEras();
+/// Takes the era tables that ship with the program, filled, and writes no file; seasons ahead of the first
+/// known one and beyond the last take its row. False, with a message and nothing changed, when a table can't
+/// be read.
+bool UseShippedEras();
+/// The same, and the era file made from them. False as well, with a message, when it can't be written.
 bool MakeEraFile();
 
 }  // namespace tipline

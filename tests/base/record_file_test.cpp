@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "league/player_record.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

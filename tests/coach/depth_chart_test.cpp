@@ -3,14 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "coach/game_plan.h"
-#include "support/eras.h"
+#include "league/rules.h"
 #include "support/men.h"
 
 namespace tipline {
 namespace {
 
 Roster EmptyRoster() {
-  LoadShippedEras();
+  UseShippedEras();
   Roster roster;
   roster.TeamNo = 9;
   roster.team = MakeTeam("P", 2000);

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "base/record_file.h"
 #include "engine/weights.h"
 #include "support/neutral_game.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 
@@ -37,16 +37,15 @@ void ExpectTuned(const char* why) {
 }  // namespace
 
 TEST(CalibrateLeague, PullsADriftedReplayBack) {
+  const TemporaryHome home;
   SetUpLeague(200);
   CalibrateLeague();
   ExpectTuned("from memory");
   league.player.clear();
-  program.LeagueFolder = std::filesystem::temp_directory_path() / ("tipline-" + std::to_string(getpid()));
-  std::filesystem::create_directories(program.LeagueFolder);
+  program.LeagueFolder = home.Home();
   const RecordFile file(program.LeagueFolder / "HCPLAYER", kPlayerSlotBytes);
   for (int row = 1; row <= 60; ++row) ASSERT_TRUE(file.Write(row, ReplayMan()));
   CalibrateLeague();
-  std::filesystem::remove_all(program.LeagueFolder);
   ExpectTuned("from the file");
 }
 

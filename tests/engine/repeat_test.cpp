@@ -17,7 +17,7 @@ std::vector<std::int64_t> SeededGame(int visitor, int home) {
 
 /// The same seed plays the same game, whatever was played before it.
 TEST(SeededGame, RepeatsExactlyWithOtherGamesBetween) {
-  for (const char* preset : {"pro", "college", "women", "historic"}) {
+  for (const char* preset : kPresets) {
     OpenSmallLeague(preset);
     const auto teams = MemoryTeams();
     const auto first = SeededGame(teams[0], teams[1]);

@@ -8,9 +8,9 @@
 #include "league/files.h"
 #include "league/recent.h"
 #include "league/roster.h"
+#include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/eras.h"
-#include "support/temp_home.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {
@@ -19,7 +19,7 @@ namespace {
 class FictionalPlayers : public testing::Test {
  protected:
   void SetUp() override {
-    LoadShippedEras();
+    UseShippedEras();
     LeagueRequest request;
     request.Name = "Small";
     request.Preset = "historic";
@@ -42,7 +42,7 @@ class FictionalPlayers : public testing::Test {
     return screen;
   }
 
-  TempHome home;
+  TemporaryHome home;
   platform::ScriptedDialogs dialogs;
 };
 

@@ -11,16 +11,16 @@
 #include "frontoffice/team_identity.h"
 #include "league/files.h"
 #include "league/recent.h"
+#include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/eras.h"
-#include "support/temp_home.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {
 
 class LeagueMaker : public testing::Test {
  protected:
-  void SetUp() override { LoadShippedEras(); }
+  void SetUp() override { UseShippedEras(); }
 
   static LeagueRequest Request(const char* preset, std::uint64_t seed = 1) {
     LeagueRequest request;
@@ -48,7 +48,7 @@ class LeagueMaker : public testing::Test {
            std::filesystem::is_empty(LeaguesFolder(), error);
   }
 
-  TempHome home;
+  TemporaryHome home;
 };
 
 TEST_F(LeagueMaker, SameSeedSameBytes) {
@@ -123,7 +123,7 @@ TEST_F(LeagueMaker, RefusalsSayWhyAndLeaveNothing) {
 }
 
 TEST_F(LeagueMaker, HomeThatCantBeWritten) {
-  std::ofstream(home.Path() / "orvex-data") << "a file where a folder must be";
+  std::ofstream(home.Home() / "orvex-data") << "a file where a folder must be";
   std::string message;
   EXPECT_FALSE(MakeLeague(Request("pro"), message));
   EXPECT_NE(message.find("can't be written"), std::string::npos) << message;

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/random.h"
-#include "support/eras.h"
+#include "league/rules.h"
 #include "support/men.h"
 
 namespace tipline {
@@ -38,7 +38,7 @@ void ExpectSound(const PlayerRecord& p, int season, const std::string& why) {
 }
 
 TEST(MadeUpPlayer, IsSoundWhateverIsDrawn) {
-  LoadShippedEras();
+  UseShippedEras();
   const struct {
     const char* type;
     const char* sex;
@@ -60,7 +60,7 @@ TEST(MadeUpPlayer, IsSoundWhateverIsDrawn) {
 }
 
 TEST(MadeUpPlayer, BodiesGrewUntilTheNineties) {
-  LoadShippedEras();
+  UseShippedEras();
   const auto meanHeight = [](int year, const char* type, const char* sex) {
     const TeamRecord team = TeamOf(type, sex, year);
     random.Seed(9);
@@ -78,7 +78,7 @@ TEST(MadeUpPlayer, BodiesGrewUntilTheNineties) {
 }
 
 TEST(MadeUpPlayer, ManyOfThemMakeTheErasGame) {
-  LoadShippedEras();
+  UseShippedEras();
   const struct {
     const char* type;
     const char* sex;
@@ -105,7 +105,7 @@ TEST(MadeUpPlayer, ManyOfThemMakeTheErasGame) {
 }
 
 TEST(MadeUpPlayer, NamesAndNumbers) {
-  LoadShippedEras();
+  UseShippedEras();
   random.Seed(3);
   const TeamRecord team = TeamOf("P", "W", 2022);
   const PlayerRecord woman = CreateOnePlayer({999, 2022, 5, FictionQuality::kRookieMix}, FewNames(), team);

@@ -2,8 +2,8 @@
 
 #include "frontoffice/edit_ratings.h"
 #include "frontoffice/rating_run.h"
+#include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/eras.h"
 #include "support/men.h"
 
 namespace tipline {
@@ -56,7 +56,7 @@ TEST(EditRatings, UntouchedGridChangesNothing) {
 }
 
 TEST(RatingRunScreen, AsksFirst) {
-  LoadShippedEras();
+  UseShippedEras();
   Roster roster;
   roster.TeamNo = 1;
   roster.team = MakeTeam("P", 2010);

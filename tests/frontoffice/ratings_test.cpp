@@ -4,7 +4,7 @@
 
 #include "frontoffice/rating_run.h"
 #include "league/player_values.h"
-#include "support/eras.h"
+#include "league/rules.h"
 #include "support/men.h"
 
 namespace tipline {
@@ -31,7 +31,7 @@ TeamRecord SlowTeam() {
 class Ratings : public testing::Test {
  protected:
   void SetUp() override {
-    LoadShippedEras();
+    UseShippedEras();
     league.FullSeasonScale = 1.0;
   }
 };

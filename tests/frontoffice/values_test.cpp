@@ -2,7 +2,7 @@
 
 #include "frontoffice/efficiency.h"
 #include "league/player_values.h"
-#include "support/eras.h"
+#include "league/rules.h"
 #include "support/men.h"
 
 namespace tipline {
@@ -34,7 +34,7 @@ TEST(PositionDefenseOf, WeighsByPositionAndPenalizesStrangers) {
 }
 
 TEST(Overall, UnknownSeasonCountsAs2012AndOldThreesPlainly) {
-  LoadShippedEras();
+  UseShippedEras();
   const LineOf line{70, 2000, 800, 380, 100, 30, 200, 150, 300, 60, 200, 60, 20, 100, 100};
   EXPECT_EQ(PlayerOverall(MakeMan({1900}, line)), PlayerOverall(MakeMan({2012}, line)));
   EXPECT_EQ(PlayerOverall(MakeMan({2051}, line)), PlayerOverall(MakeMan({2012}, line)));
@@ -48,7 +48,7 @@ TEST(Overall, UnknownSeasonCountsAs2012AndOldThreesPlainly) {
 }
 
 TEST(SalaryOf, GrowsFasterAtTheTopAndHasAFloor) {
-  LoadShippedEras();
+  UseShippedEras();
   league.FullSeasonScale = 1.0;
   PlayerRecord p = MakeMan({2000}, {.G = 82, .Min = 3936});  // a whole season
   DefaultSALARY(p, false);
@@ -84,7 +84,7 @@ TeamRecord AverageTeam(int year, const char* type, double pace) {
 }
 
 TEST(EfficiencyOf, AverageLineIsFifteenCorrectedForPaceWithinBounds) {
-  LoadShippedEras();
+  UseShippedEras();
   const struct {
     int year;
     const char* type;
@@ -100,7 +100,7 @@ TEST(EfficiencyOf, AverageLineIsFifteenCorrectedForPaceWithinBounds) {
 }
 
 TEST(EfficiencyOf, ReplayLeagueIsMeasuredFromTeamsThatPlayed) {
-  LoadShippedEras();
+  UseShippedEras();
   league.team = {};
   league.rules = {};
   for (const int t : {3, 500}) {
@@ -125,7 +125,7 @@ TEST(EfficiencyOf, ReplayLeagueIsMeasuredFromTeamsThatPlayed) {
 }
 
 TEST(Overall, ShortSeasonsCountForLess) {
-  LoadShippedEras();
+  UseShippedEras();
   // With ratings alone (no line) the value is 0.45 a point of passing: 12 x 0.45 / 2.85 = 1.894737.
   const struct {
     int minutes;

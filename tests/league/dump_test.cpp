@@ -7,7 +7,7 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

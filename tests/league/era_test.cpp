@@ -9,7 +9,7 @@
 #include "league/program.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -10,8 +10,8 @@
 #include "league/files.h"
 #include "league/program.h"
 #include "league/recent.h"
-#include "support/eras.h"
-#include "support/temporary_league.h"
+#include "league/rules.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {
@@ -25,7 +25,7 @@ std::string Noise(std::size_t bytes) {
 
 TEST(LeagueFault, NamesTheFileThatIsWrong) {
   const TemporaryLeague home;
-  LoadShippedEras();
+  UseShippedEras();
   LeagueRequest request;
   request.Name = "Sound";
   std::string message;
@@ -49,7 +49,7 @@ TEST(LeagueFault, NamesTheFileThatIsWrong) {
 
 TEST(EraFault, AnEraFileIsWholeAndPlausible) {
   const TemporaryLeague home;
-  LoadShippedEras();
+  UseShippedEras();
   EXPECT_EQ(EraFault(EraFile()), "") << "none is made at the next start";
   std::filesystem::create_directories(EraFile().parent_path());
   const struct {

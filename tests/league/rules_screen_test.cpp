@@ -8,7 +8,7 @@
 #include "league/files.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

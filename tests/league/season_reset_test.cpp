@@ -3,7 +3,7 @@
 #include <set>
 
 #include "league/files.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

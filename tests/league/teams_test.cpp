@@ -4,7 +4,7 @@
 #include "base/record_file.h"
 #include "league/files.h"
 #include "platform/dialogs.h"
-#include "support/temporary_league.h"
+#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

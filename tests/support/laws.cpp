@@ -4,10 +4,26 @@
 #include <cstdlib>
 
 #include "engine/eligible.h"
+#include "engine/engine.h"
 #include "engine/game_state.h"
+#include "support/bench_coach.h"
+#include "support/memory_league.h"
 
 namespace tipline {
 namespace {
+
+int PeriodLength() {
+  const RulesRecord& rules = league.rules;
+  return game.Period > rules.PeriodList ? std::max<int>(rules.OverTimeList, 1) * kMinute : FullPeriod();
+}
+
+/// Tenths played so far, by periods and clock.
+int TimePlayed() {
+  const int regulation = std::min(game.Period - 1, static_cast<int>(league.rules.PeriodList));
+  const int overtimes = game.Period - 1 - regulation;
+  return regulation * FullPeriod() + overtimes * std::max<int>(league.rules.OverTimeList, 1) * kMinute +
+         PeriodLength() - game.GameClock;
+}
 
 /// Keeps the first law that does not hold.
 class Judge {
@@ -213,11 +229,6 @@ void JudgeSettings(Judge& judge, int side) {
   }
 }
 
-int PeriodLength() {
-  const RulesRecord& rules = league.rules;
-  return game.Period > rules.PeriodList ? std::max<int>(rules.OverTimeList, 1) * kMinute : FullPeriod();
-}
-
 void JudgeClocks(Judge& judge) {
   judge.Law(game.GameClock >= 0 && game.GameClock <= PeriodLength(), "the clock is within the period", 0,
             game.GameClock, PeriodLength());
@@ -241,13 +252,6 @@ void JudgeFives(Judge& judge, const Sums (&sums)[3]) {
 }
 
 }  // namespace
-
-int TimePlayed() {
-  const int regulation = std::min(game.Period - 1, static_cast<int>(league.rules.PeriodList));
-  const int overtimes = game.Period - 1 - regulation;
-  return regulation * FullPeriod() + overtimes * std::max<int>(league.rules.OverTimeList, 1) * kMinute +
-         PeriodLength() - game.GameClock;
-}
 
 std::string BrokenLaw() {
   Judge judge;
@@ -317,18 +321,49 @@ std::string BrokenFinalLaw() {
   return judge.Broken();
 }
 
-std::string ClockWatch::Broken() {
-  std::string broken;
-  if (game.Period == period_ && game.GameClock > clock_) {
-    broken = "the clock rose from " + std::to_string(clock_) + " to " + std::to_string(game.GameClock);
+namespace {
+
+/// Holds the clocks of a stop against those of the stop before.
+class ClockWatch {
+ public:
+  /// Empty, or what went wrong since the last call.
+  std::string Broken() {
+    std::string broken;
+    if (game.Period == period_ && game.GameClock > clock_) {
+      broken = "the clock rose from " + std::to_string(clock_) + " to " + std::to_string(game.GameClock);
+    }
+    if (game.Period < period_) broken = "a period came back";
+    const bool moved = game.Period != period_ || game.GameClock != clock_ || game.PlayLogCount != plays_;
+    stuck_ = moved ? 0 : stuck_ + 1;
+    if (stuck_ > 500) broken = "the game stands still in " + std::string(game.GameState.Text());
+    period_ = game.Period;
+    clock_ = game.GameClock;
+    plays_ = game.PlayLogCount;
+    return broken;
   }
-  if (game.Period < period_) broken = "a period came back";
-  const bool moved = game.Period != period_ || game.GameClock != clock_ || game.PlayLogCount != plays_;
-  stuck_ = moved ? 0 : stuck_ + 1;
-  if (stuck_ > 500) broken = "the game stands still in " + std::string(game.GameState.Text());
-  period_ = game.Period;
-  clock_ = game.GameClock;
-  plays_ = game.PlayLogCount;
+
+ private:
+  int period_ = 0, clock_ = 0, plays_ = 0, stuck_ = 0;
+};
+
+}  // namespace
+
+std::string WatchGame(void (*goOn)(), int every) {
+  SeatHumans();
+  NewGame();
+  ClockWatch watch;
+  for (int stop = 1; !game.GameOver; ++stop) {
+    goOn();
+    const std::string broken = watch.Broken() + (stop % every == 0 ? BrokenLaw() : "");
+    if (!broken.empty()) return "stop " + std::to_string(stop) + ": " + broken;
+  }
+  return BrokenFinalLaw();
+}
+
+std::string JudgeMatch(int visitor, int home) {
+  PlayMatch(visitor, home);
+  const std::string broken = BrokenLaw() + BrokenFinalLaw();
+  KeepBooks();
   return broken;
 }
 

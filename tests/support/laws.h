@@ -9,17 +9,10 @@ std::string BrokenLaw();
 /// The laws of a game that is over besides: who won, whole minutes, closed lines, possessions, play log.
 std::string BrokenFinalLaw();
 
-/// Tenths played so far, by periods and clock.
-int TimePlayed();
-
-/// Holds the clocks of a stop against those of the stop before.
-class ClockWatch {
- public:
-  /// Empty, or what went wrong since the last call.
-  std::string Broken();
-
- private:
-  int period_ = 0, clock_ = 0, plays_ = 0, stuck_ = 0;
-};
+/// Plays the prepared game with human coaches on both benches, who go on from each stop by `goOn`, and looks
+/// at every stop or, for speed, at each `every`-th. The first law broken and where, empty for none.
+std::string WatchGame(void (*goOn)(), int every = 1);
+/// Plays a game between computers in one go; the first law broken. The books are kept.
+std::string JudgeMatch(int visitor, int home);
 
 }  // namespace tipline

@@ -3,15 +3,12 @@
 #include <stdexcept>
 #include <utility>
 
-#include "engine/chances.h"
 #include "engine/engine.h"
-#include "engine/fatigue.h"
 #include "engine/game_state.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/setup.h"
-#include "support/eras.h"
 
 namespace tipline {
 namespace {
@@ -22,7 +19,7 @@ void Fresh() {
   program = {};
   setup = {};
   game = {};
-  LoadShippedEras();
+  if (!UseShippedEras()) throw std::runtime_error("the era tables can't be read");
 }
 
 void SeatLeague(const MadeLeague& made) {
@@ -79,21 +76,11 @@ std::vector<int> MemoryTeams() {
   return teams;
 }
 
-void ReadySide(int side) {
-  for (int slot = 0; slot <= kRosterSlots; ++slot) game.loaded[side][slot] = {};
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot)) game.player[side][slot] = {};
-    LoadedAt(side, slot).PlayerOut = !OnTeam(side, slot) || PlayerAt(side, slot).Status == 99 ? 1 : 0;
-    LoadedAt(side, slot).HotHand = DrawHotHand();
-  }
-  ShotMix(side);
-  SetStints(side);
-}
-
 void SeatTeam(int teamNo, int side) {
   game.GameTeam[side] = teamNo;
   game.team[side] = league.team[teamNo];
   game.coach[side] = league.coach[teamNo];
+  game.loaded[side].Fill({});
   game.player[side][0] = {};
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     const int row = game.team[side].Roster[slot];

@@ -6,6 +6,9 @@
 
 namespace tipline {
 
+/// The kinds of league that the maker knows.
+inline constexpr const char* kPresets[] = {"pro", "college", "women", "historic"};
+
 /// Draws the league and opens it: teams, coaches, men, rules with their repairs, the shipped eras, lookups.
 /// Flags, preferences and the game are fresh. Throws std::runtime_error with the maker's sentence when the
 /// request can't be met.
@@ -19,8 +22,6 @@ std::vector<int> MemoryTeams();
 
 /// A team takes its side of the game, as after a load from the files.
 void SeatTeam(int teamNo, int side);
-/// What a load works out for a side that is seated already: who can play, shot mix, form, stints.
-void ReadySide(int side);
 /// Both teams seated with the computer on both benches and the game prepared.
 void SetUpMatch(int visitor, int home);
 /// The same, and played to its end in one go.

@@ -1,12 +1,13 @@
 #include "support/torture.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "engine/game_state.h"
 #include "league/program.h"
 #include "league/rules.h"
+#include "league/rules_screen.h"
 #include "league/setup.h"
-#include "support/eras.h"
 #include "support/memory_league.h"
 
 namespace tipline {
@@ -29,72 +30,28 @@ void FillWithGarbage(Record& record) {
   ReadRecord(bytes.data(), record);
 }
 
-void DrawFouls(RulesRecord& r) {
-  r.DqList = OneOf<u8>({0, 1, 2, 5, 6, 10});
-  for (int step = 1; step <= 3; ++step) {
-    r.FoulLimit[step] = OneOf<u8>({0, 1, 2, 4, 5, 7, 10});
-    r.Penalty[step] = static_cast<u8>(Rnd(4) - 1);
-  }
-  r.TechList = static_cast<u8>(Rnd(4) - 1);
-  r.TechnicalFTslist = static_cast<u8>(Rnd(3) - 1);
-  r.TechnicalPFCheck = static_cast<u8>(Rnd(3) - 1);
-  for (u8* check : {&r.ThreeToMakeTwoCheck, &r.TwoToMakeOneCheck, &r.ThreeToMakeTwoBackcourtCheck,
-                    &r.FlagrantCheck, &r.OneShotPrePenaltyCheck, &r.BackcourtTwoShotsCheck,
-                    &r.PenaltyUnderTwoMinutesCheck, &r.OffensiveFoulTeamFoulCheck,
-                    &r.OneShotOnOffensiveFoulBeforePenalty, &r.OnePlusOneAfterPenaltyONOffensiveFouls}) {
-    *check = static_cast<u8>(Rnd(2) - 1);
-  }
-}
-
-void DrawTimeouts(RulesRecord& r) {
-  r.TimeoutList = OneOf<u8>({0, 1, 5, 7, 15});
-  r.LastPeriodTimeoutList = OneOf<u8>({0, 1, 4, 15});
-  r.Last3MinTimeoutList = OneOf<u8>({0, 1, 2, 15});
-  r.OvertimeTimeoutList = OneOf<u8>({0, 1, 3, 4, 5, 15});
-  r.AutomaticTimeoutsCheck = static_cast<u8>(Rnd(2) - 1);
-}
-
-void DrawUsage(RulesRecord& r) {
-  r.SeasonUsagePenaltiesCheck = static_cast<u8>(Rnd(2) - 1);
-  for (int level = 1; level <= 3; ++level) {
-    r.SeasonUsageGamesList[level] = Byte();
-    r.SeasonUsageMinutesList[level] = Byte();
-  }
-  r.SeasonUsageGamesExemptionList = OneOf<u8>({0, 1, 80});
-  r.SeasonUsageMinutesExemptionList = OneOf<u8>({0, 1, 40});
-  r.MinutesPerGameExemptionList = OneOf<u8>({0, 1, 48});
-}
-
+/// Any line of every list and any check of the rule book; the first lines, where the odd values stand, more
+/// often.
 void DrawRules(RulesRecord& r) {
   r = {};
+  for (const RuleControl& control : RuleControls()) {
+    u8& field = control.Field(r);
+    if (control.Choices) {
+      const auto choices = control.Choices();
+      const int lines = static_cast<int>(choices.size());
+      field = choices[static_cast<std::size_t>(Rnd(OneIn(2) ? std::min(3, lines) : lines)) - 1].value;
+    } else {
+      field = OneIn(2) ? control.Ticked : control.Unticked;
+    }
+  }
   r.PeriodList = static_cast<u8>(Rnd(9));
-  r.MinuteList = OneOf<u8>({1, 2, 8, 10, 12, 20, static_cast<u8>(Rnd(20))});
-  r.OverTimeList = OneOf<u8>({0, 1, 3, 5, 20});
-  r.ThreePointCheck = static_cast<u8>(Rnd(2) - 1);
-  r.ShotClockList = OneOf<u8>({0, 1, 2, 10, 24, 30, 45});
-  r.ShotClockResetList = OneOf<u8>({0, 1, 14, 24, 45});
-  r.ZoneLegalCheck = static_cast<u8>(Rnd(2) - 1);
-  r.QuarterJumpCheck = static_cast<u8>(Rnd(2) - 1);
-  r.JumpBallList = static_cast<u8>(Rnd(2) - 1);
-  r.NeutralCheck = static_cast<u8>(Rnd(2) - 1);
-  r.GameEraList = static_cast<u8>(Rnd(8) - 1);
-  r.AlternateRealityCheck = static_cast<u8>(Rnd(2) - 1);
-  r.InjuryOption = static_cast<u8>(Rnd(3) - 1);
-  r.TemporaryGameInjuriesCheck = static_cast<u8>(Rnd(2) - 1);
-  r.SuspensionsCheck = static_cast<u8>(Rnd(2) - 1);
-  r.IllegalDefenseList = static_cast<u8>(Rnd(3) - 1);
-  r.RosterLimitList = OneOf<u8>({0, 8, 12, 20});
-  r.UniversalDurabilityList = static_cast<u8>(Rnd(12) - 1);
-  r.DisplayTenthsCheck = static_cast<u8>(Rnd(2) - 1);
-  DrawFouls(r);
-  DrawTimeouts(r);
-  DrawUsage(r);
+  if (OneIn(5)) r.OverTimeList = 0;
 }
 
 void DrawEras() {
   const int kind = Rnd(4);
   if (kind == 1) {
-    LoadShippedEras();
+    UseShippedEras();
     return;
   }
   for (EraTable* table : {&league.EraPro, &league.EraCollege}) {
