@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "engine/game_state.h"
-#include "support/memory_league.h"
+#include "harness/memory_league.h"
 
 namespace tipline {
 namespace {

@@ -1,13 +1,13 @@
 // The laws of the game over many games.
-#include "support/laws.h"
+#include "harness/laws.h"
 
 #include <ostream>
 
 #include "base/random.h"
 #include "bench.h"
+#include "harness/bench_coach.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
-#include "support/bench_coach.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 namespace {

@@ -8,10 +8,10 @@
 #include "base/record_file.h"
 #include "bench.h"
 #include "frontoffice/league_maker.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/rules.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -4,8 +4,8 @@
 #include <iomanip>
 #include <ostream>
 
+#include "harness/memory_league.h"
 #include "league/player_values.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 namespace {

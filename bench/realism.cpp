@@ -10,9 +10,9 @@
 #include "base/random.h"
 #include "bench.h"
 #include "followers.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
 #include "season_sums.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 namespace {

@@ -1,7 +1,7 @@
 #include "season_sums.h"
 
 #include "engine/game_state.h"
-#include "support/memory_league.h"
+#include "harness/memory_league.h"
 
 namespace tipline {
 namespace {

@@ -4,9 +4,9 @@
 
 #include "base/random.h"
 #include "bench.h"
+#include "harness/game_book.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
-#include "support/game_book.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 

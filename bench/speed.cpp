@@ -11,11 +11,11 @@
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "frontoffice/league_maker.h"
+#include "harness/memory_league.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/recent.h"
 #include "league/rules.h"
-#include "support/memory_league.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

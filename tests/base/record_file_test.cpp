@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "harness/temporary_home.h"
 #include "league/player_record.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "base/record_file.h"
 #include "engine/weights.h"
+#include "harness/temporary_home.h"
 #include "support/neutral_game.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 

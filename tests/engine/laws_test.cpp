@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "base/random.h"
+#include "harness/bench_coach.h"
+#include "harness/laws.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
-#include "support/bench_coach.h"
-#include "support/laws.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 namespace {

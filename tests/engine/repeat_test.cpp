@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "engine/game_state.h"
-#include "support/game_book.h"
-#include "support/memory_league.h"
+#include "harness/game_book.h"
+#include "harness/memory_league.h"
 
 namespace tipline {
 namespace {

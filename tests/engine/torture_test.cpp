@@ -9,10 +9,10 @@
 
 #include "engine/engine.h"
 #include "engine/game_state.h"
+#include "harness/bench_coach.h"
+#include "harness/laws.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
-#include "support/bench_coach.h"
-#include "support/laws.h"
-#include "support/memory_league.h"
 #include "support/torture.h"
 
 namespace tipline {

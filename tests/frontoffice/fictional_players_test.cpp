@@ -5,12 +5,12 @@
 #include "base/random.h"
 #include "base/record_file.h"
 #include "frontoffice/league_maker.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/recent.h"
 #include "league/roster.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

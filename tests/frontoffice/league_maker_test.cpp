@@ -9,11 +9,11 @@
 #include "base/record_file.h"
 #include "frontoffice/rating_run.h"
 #include "frontoffice/team_identity.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/recent.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -6,8 +6,8 @@
 #include <sstream>
 
 #include "base/record_file.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

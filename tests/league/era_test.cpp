@@ -4,12 +4,12 @@
 
 #include "base/random.h"
 #include "base/record_file.h"
+#include "harness/temporary_home.h"
 #include "league/era_screen.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

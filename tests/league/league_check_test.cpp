@@ -7,11 +7,11 @@
 #include "base/random.h"
 #include "base/record_file.h"
 #include "frontoffice/league_maker.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/recent.h"
 #include "league/rules.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "base/record_file.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

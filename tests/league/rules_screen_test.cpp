@@ -5,10 +5,10 @@
 #include <set>
 
 #include "base/record_file.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

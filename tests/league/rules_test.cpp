@@ -4,9 +4,9 @@
 
 #include "base/random.h"
 #include "base/record_file.h"
+#include "harness/temporary_home.h"
 #include "league/files.h"
 #include "platform/dialogs.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <set>
 
+#include "harness/temporary_home.h"
 #include "league/files.h"
-#include "support/temporary_home.h"
 
 namespace tipline {
 namespace {

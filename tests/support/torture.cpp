@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "engine/game_state.h"
+#include "harness/memory_league.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/rules_screen.h"
 #include "league/setup.h"
-#include "support/memory_league.h"
 
 namespace tipline {
 namespace {

@@ -1,4 +1,4 @@
-#include "support/game_book.h"
+#include "harness/game_book.h"
 
 #include "base/record.h"
 #include "engine/game_state.h"

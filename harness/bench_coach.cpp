@@ -1,4 +1,4 @@
-#include "support/bench_coach.h"
+#include "harness/bench_coach.h"
 
 #include "coach/substitutions.h"
 #include "engine/eligible.h"

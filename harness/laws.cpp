@@ -1,4 +1,4 @@
-#include "support/laws.h"
+#include "harness/laws.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -6,8 +6,8 @@
 #include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
-#include "support/bench_coach.h"
-#include "support/memory_league.h"
+#include "harness/bench_coach.h"
+#include "harness/memory_league.h"
 
 namespace tipline {
 namespace {

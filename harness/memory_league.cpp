@@ -1,4 +1,4 @@
-#include "support/memory_league.h"
+#include "harness/memory_league.h"
 
 #include <stdexcept>
 #include <utility>
