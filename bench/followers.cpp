@@ -12,6 +12,7 @@ namespace tipline {
 namespace {
 
 constexpr int kRanks = 12;
+constexpr int kRegular = 20;  // minutes a game
 
 const ManSums& SumsOf(const SeasonSums& sums, const PlayerRecord& man) {
   return sums.man[static_cast<std::size_t>(man.RecNo)];
@@ -119,7 +120,7 @@ void PrintMinutes(std::ostream& out, const SeasonSums& sums) {
   double real[kRanks] = {}, target[kRanks] = {}, replay[kRanks] = {}, games[kRanks] = {};
   int count[kRanks] = {};
   double away = 0, signedAway = 0;
-  int men = 0;
+  int men = 0, regulars = 0, near = 0;
   const auto teams = MemoryTeams();
   const double teamGames = 2.0 * sums.games / static_cast<double>(teams.size());
   for (const int team : teams) {
@@ -131,6 +132,10 @@ void PrintMinutes(std::ostream& out, const SeasonSums& sums) {
         ++men;
         away += std::abs(minutes - man.TargetMinutes);
         signedAway += minutes - man.TargetMinutes;
+      }
+      if (man.TargetMinutes >= kRegular) {
+        ++regulars;
+        near += std::abs(minutes - man.TargetMinutes) <= 3 ? 1 : 0;
       }
       if (k >= kRanks) continue;
       ++count[k];
@@ -152,7 +157,13 @@ void PrintMinutes(std::ostream& out, const SeasonSums& sums) {
   row("games played, %", games);
   out << "from the target (8 to 40): " << std::setprecision(2) << away / std::max(1, men)
       << " minutes on average, " << (signedAway >= 0 ? "+" : "") << signedAway / std::max(1, men)
-      << " with its sign; aim 2: " << (away <= 2.0 * men ? "ok" : "off") << "\n\n";
+      << " with its sign; aim 2: " << (away <= 2.0 * men ? "ok" : "off") << "\n";
+  const double share = near * 100.0 / std::max(1, regulars);
+  out << "regulars (target " << kRegular << " and more) within 3 minutes of it: " << std::setprecision(0)
+      << share << " % of " << regulars << "; aim 90: " << (share >= 90 ? "ok" : "off") << '\n';
+  out << "fouled out, per 100 games of a team: " << std::setprecision(1) << sums.foulOuts * 50.0 / sums.games
+      << "; by the men's own rates, with no coach to save them: " << sums.freeFoulOuts * 50.0 / sums.games
+      << "\n\n";
 }
 
 void PrintPositions(std::ostream& out, const SeasonSums& sums) {

@@ -1,5 +1,8 @@
 #include "season_sums.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "engine/game_state.h"
 #include "harness/memory_league.h"
 
@@ -16,6 +19,18 @@ constexpr Pair kPairs[] = {
     {&TeamRates::Reb, &StatLine::Reb}, {&TeamRates::Off, &StatLine::Off}, {&TeamRates::Ast, &StatLine::Ast},
     {&TeamRates::St, &StatLine::St},   {&TeamRates::Bk, &StatLine::Bk},   {&TeamRates::To, &StatLine::To},
     {&TeamRates::Pf, &StatLine::Pf}};
+
+/// Chance that a man who fouls at his own rate draws `limit` fouls in these minutes.
+double FoulOutChance(const StatLine& real, double minutes, int limit) {
+  if (real.Min == 0 || limit == 0) return 0;
+  const double mean = static_cast<double>(real.Pf) / real.Min * minutes;
+  double term = std::exp(-mean), below = 0;
+  for (int fouls = 0; fouls < limit; ++fouls) {
+    below += term;
+    term *= mean / (fouls + 1);
+  }
+  return std::max(0.0, 1 - below);
+}
 
 }  // namespace
 
@@ -51,6 +66,9 @@ void SeasonSums::Add() {
       if (played.PlayerGameTime == 0) continue;
       const PlayerRecord& p = PlayerAt(side, slot);
       const double minutes = played.PlayerGameTime / 600.0;
+      const int limit = league.rules.DqList;
+      foulOuts += limit > 0 && p.Stats[3].Pf >= limit ? 1 : 0;
+      freeFoulOuts += FoulOutChance(p.Stats[1], minutes, limit);
       replay.Add(p.Stats[3], 1);
       if (p.Stats[1].Min > 0) real.Add(p.Stats[1], minutes / p.Stats[1].Min);
       for (int position = 1; position <= kPositions; ++position) {

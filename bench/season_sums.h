@@ -31,6 +31,8 @@ struct SeasonSums {
   double margin = 0, marginSquares = 0;  ///< of the home side
   double possessions = 0, teamRebounds = 0, teamTurnovers = 0;
   double positionPoints[6] = {};
+  int foulOuts = 0;
+  double freeFoulOuts = 0;   ///< expected if fouls fell by a man's own rate, whoever watched over them
   std::vector<ManSums> man;  ///< by RecNo
 
   /// Takes in the game that has just ended, before or after its books are kept.
