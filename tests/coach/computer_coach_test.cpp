@@ -69,6 +69,8 @@ TEST(ComputerFouls, WhoFoulsAndWhoDoesNot) {
       {"overtime is late as well", 5, 200, -1, 24, 1},
       {"before the last period", 3, 200, -1, 24, 0},
       {"level", 4, 200, 0, 24, 0},
+      {"ten behind with a minute", 4, 600, -10, 24, 1},
+      {"ten behind with 15 seconds", 4, 150, -10, 24, 0},
       {"without a shot clock earlier", 4, 1100, -11, 0, 1},
       {"but not before three minutes", 4, 1801, -11, 0, 0},
   };
@@ -83,6 +85,18 @@ TEST(ComputerFouls, WhoFoulsAndWhoDoesNot) {
                   change, [] { ComputerFoulDecision(1); }, fouls, 300),
               c.share)
         << c.why;
+  }
+}
+
+TEST(ComputerFouls, EveryDeficitUpToElevenHasItsMoment) {
+  constexpr int kClock[] = {0, 150, 150, 150, 150, 300, 300, 300, 450, 450, 600, 700, 800};
+  for (int behind = 1; behind <= 12; ++behind) {
+    const auto change = [&] { Moment(4, kClock[behind], -behind); };
+    const auto fouls = [] { return D().QuickFoul != 0; };
+    EXPECT_EQ(Share(
+                  change, [] { ComputerFoulDecision(1); }, fouls, 200),
+              behind <= 11 ? 1 : 0)
+        << behind;
   }
 }
 
@@ -144,9 +158,12 @@ TEST(ComputerDefense, CallsByTheSliders) {
       {"no zone asked for", [] { Zone(0, "C"); }, InZone, 0},
       {"a college keeps what it drew", [] { Zone(2, "C"); }, InZone, 0.5},
       {"pros go back to man", [] { Zone(2, "P"); }, InZone, 0.05},
+      {"but for a few who love it", [] { Zone(4, "P"); }, InZone, 0.25},
       {"zones are not legal", [] { Zone(4, "C", 0); }, InZone, 0},
       {"eight behind: 2.5 x 40 at least, when the last play does not forbid it",
        [] { Press(2, 4, -8); }, Pressing, 0.25},
+      {"a coach who never presses, far behind",
+       [] { Press(0, 4, -18); game.PreviousResult = "G"; }, Pressing, 0},
       {"after a basket it always may", [] { Press(2, 4, -8); game.PreviousResult = "G"; }, Pressing, 1},
       {"'most' always crashes when it comes up",
        [] { Crash(4); }, [] { return D().CrashBoardsOffense == 1; }, 0.25},
@@ -211,8 +228,15 @@ TEST(ComputerReview, WishesAtTheEnd) {
       {"one was taken just before", 200, -1, 0, 0, [] { D().TimeoutsByMinute[3] = 1; }},
       {"which no longer counts at the end", 80, -1, 1, 1, [] { D().TimeoutsByMinute[1] = 1; }},
       {"overtime: not before twelve seconds", 200, -1, 0, 0, [] { game.Period = 5; }},
-      {"a run, with the quarter still young", 5000, -8, 0, 0,
+      {"a run, but too long before the end of the period", 5000, -8, 0, 0,
        [] { game.Period = 1, game.RunTeam = 2, game.RunPoints = 8; }},
+      {"a run of eight where periods are long", 3000, -8, 1, 0,
+       [] { game.Period = 1, game.RunTeam = 2, game.RunPoints = 8, Rules().MinuteList = 60; }},
+      {"seven is no run yet", 3000, -8, 0, 0,
+       [] { game.Period = 1, game.RunTeam = 2, game.RunPoints = 7, Rules().MinuteList = 60; }},
+      {"twelve is, to a nervous coach at ten", 3000, -8, 1, 0,
+       [] { game.Period = 1, game.RunTeam = 2, game.RunPoints = 10, game.RunOffset = 2,
+             Rules().MinuteList = 60; }},
       {"the man for the finish sits", 500, -1, 0, 1,
        [] { game.CrunchTime = 1, game.player[1][8].TeamNo = 1, game.player[1][8].PlayAtCrunchTime = 1; }},
   };

@@ -8,6 +8,7 @@
 
 #include "coach/sub_screens.h"
 #include "platform/dialogs.h"
+#include "support/neutral_game.h"
 #include "support/two_teams.h"
 
 namespace tipline {
@@ -239,6 +240,34 @@ TEST(LoadLineups, KeepsBenchMenOutOfReachInABlowout) {
   PlayerAt(1, 8).NeverPlayInBlowouts = 1;
   LoadLineups();
   EXPECT_NE(game.side[1].Lineup[3], 8);
+}
+
+TEST(LoadLineups, ThinksOfTheFinishAndOfTheBench) {
+  // clang-format off
+  const struct { const char* why; int clock, lead; Change change; double regulars; } cases[] = {
+      {"close at the end: the first five", 1000, 2, [] { game.side[1].Lineup.Fill(0); }, 5},
+      {"his man for the finish replaces a first choice", 1000, 2,
+       [] { PlayerAt(1, 7).PlayAtCrunchTime = 1, PlayerAt(1, 2).DontPlayCrunchTime = 1; }, 4},
+      {"a lead of 30 is the bench's", 1000, 30, [] { game.side[1].Lineup.Fill(0); }, 0},
+      {"and so is a deficit of 30", 1000, -30, [] { game.side[1].Lineup.Fill(0); }, 0},
+      {"16 with more than two minutes to go is not yet", 1300, 16, [] { game.side[1].Lineup.Fill(0); }, 5},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    Watched();
+    c.change();
+    game.Period = 4;
+    game.GameClock = c.clock;
+    game.side[1].Score = 60 + c.lead;
+    game.side[2].Score = 60;
+    game.side[1].CoachMode = "C";
+    int regulars = 0;
+    EachSeed(100, [&] {
+      LoadLineups();
+      for (int slot = 1; slot <= kPositions; ++slot) regulars += PositionOf(1, slot) > 0 ? 1 : 0;
+    });
+    EXPECT_NEAR(regulars / 100.0, c.regulars, 0.3) << c.why;
+  }
 }
 
 }  // namespace
