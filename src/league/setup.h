@@ -1,23 +1,34 @@
 #pragma once
-// The user's preferences that a game reads.
-#include "base/tables.h"
-#include "base/types.h"
+// The user's preferences: the program's setup file.
+#include <array>
+#include <string_view>
+
+#include "league/setup_record.h"
 
 namespace tipline {
 
-struct Setup {
-  u8 ComputerCheck = 0;  ///< 0 computer games are played at once, 1 they are shown
-  /// Minutes left in the period from which the ball is brought up as a play of its own: index 1 before the
-  /// last period, 2 from it on; 0 never.
-  Table<u8, 1, 2> MoveUpList{};
-  /// Tenths of the plays that the human calls, 0 to 10: [clock band 1 to 3][period 1 to 4, 5 overtime].
-  Table2<u8, 1, 3, 1, 5> PlayCallFrequency = [] {
-    Table2<u8, 1, 3, 1, 5> all;
-    for (auto& band : all) band.Fill(10);
-    return all;
-  }();
-};
-
+using Setup = SetupRecord;
 extern Setup setup;
+
+/// Finds the data tree, reads the recent list, then the setup file of this edition, in the program folder;
+/// fills what its markers say was never set and holds the rest to its bounds. A missing, short or damaged
+/// file gives the defaults; nothing is told.
+void LoadSetup();
+/// Notes the current league and writes the setup. False, after telling the user, when that failed.
+bool SaveSetup();
+/// The repairs of LoadSetup alone, on `setup`.
+void RepairSetup();
+
+// The buttons of the play-calling grid, `PlayCallFrequency`.
+void UseDefaultCalls();  ///< the human calls some plays, and all of them when it counts
+void CallNoPlays();
+void CallAllPlays();
+
+/// What ratings 1 to 10 are called; index 0 is the first.
+inline constexpr std::array<std::string_view, 10> kRatingWord{
+    "Very Poor",     "Poor", "Fair",      "Below Average", "Average",
+    "Above Average", "Good", "Very Good", "Excellent",     "Excellent"};
+inline constexpr std::array<std::string_view, 5> kPositionName{
+    "Point Guard", "Shooting Guard", "Small Forward", "Power Forward", "Center"};
 
 }  // namespace tipline

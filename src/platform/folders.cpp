@@ -27,6 +27,24 @@ std::string Component(std::string_view part) {
   return name.find_first_not_of(". ") == std::string::npos ? "" : name;
 }
 
+bool SameName(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// `name` as it is written in this folder: itself, or the first entry that differs in case only.
+std::string AsWritten(const fs::path& folder, const std::string& name) {
+  std::error_code error;
+  if (fs::exists(folder / name, error)) return name;
+  std::string found;
+  for (const auto& entry : fs::directory_iterator(folder, error)) {
+    const std::string other = entry.path().filename().string();
+    if (SameName(other, name) && (found.empty() || other < found)) found = other;
+  }
+  return found.empty() ? name : found;
+}
+
 fs::path FolderOfProgram() {
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
@@ -54,10 +72,16 @@ fs::path RealPath(const fs::path& home, std::string_view tree) {
   }
   while (!tree.empty()) {
     const auto end = std::min(tree.find_first_of("/\\"), tree.size());
-    if (const auto name = Component(tree.substr(0, end)); !name.empty()) path /= name;
+    if (const auto name = Component(tree.substr(0, end)); !name.empty()) path /= AsWritten(path, name);
     tree.remove_prefix(std::min(end + 1, tree.size()));
   }
   return path;
+}
+
+bool DriveExists(const fs::path& home, std::string_view drive) {
+  if (drive.size() != 2 || drive[1] != ':' || !IsLetter(drive[0])) return false;
+  std::error_code error;
+  return (drive[0] | 0x20) == 'c' || fs::is_directory(RealPath(home, drive), error);
 }
 
 fs::path ShippedData() {
