@@ -20,4 +20,9 @@ struct Setup {
 
 extern Setup setup;
 
+// The buttons of the play-calling grid, `PlayCallFrequency`.
+void UseDefaultCalls();  ///< the human calls some plays, and all of them when it counts
+void CallNoPlays();
+void CallAllPlays();
+
 }  // namespace tipline
