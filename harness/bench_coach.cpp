@@ -98,7 +98,7 @@ void GoOn() {
 }  // namespace
 
 void SeatHumans() {
-  for (auto& band : setup.PlayCallFrequency) band.Fill(10);
+  CallAllPlays();
   for (Side& side : game.side) side.CoachMode = "H";
 }
 

@@ -95,7 +95,7 @@ SubPass ReadStop() {
   pass.early = game.GameClock + 1800 > full && game.GameClock < full;
   pass.fullClock = game.GameClock == full;
   pass.freeThrow = IsFreeThrow(game.GameState);
-  pass.unattended = program.Autoplaying || game.WatchUntil;
+  pass.unattended = program.Autoplaying || Watching();
   for (int side = 1; side <= 2; ++side) {
     ComputerHandsOverAll(game.side[side]);
     DrawOrder(pass.order[side]);
@@ -140,7 +140,7 @@ bool RunPass(SubPass& pass) {
 
 /// After a change the stop's result is spent, and the next removals wait a little.
 void NoteChange() {
-  if (game.WatchUntil) return;
+  if (Watching()) return;
   if (game.side[1].Lineup == game.side[1].PreviousLineup &&
       game.side[2].Lineup == game.side[2].PreviousLineup)
     return;

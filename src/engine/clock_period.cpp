@@ -40,6 +40,13 @@ void RunTheClocks() {
   }
 }
 
+/// The watched stretch ends at its mark, or with the game.
+void StopWatching() {
+  if (!Watching()) return;
+  const WatchMark mark = MarkOf(game.WatchUntil);
+  if (game.Period == mark.period && game.GameClock < mark.below) game.WatchUntil = "NONE";
+}
+
 /// The time of a play for a man on the floor. A press wears out those who play it.
 void ChargeMan(Man& man, int position, double pressWork) {
   man.PlayerGameTime += game.PlayTime;
@@ -235,9 +242,11 @@ void EndPlay() {
   PenaltyUnderTwoMinutes();
   if (LastPeriod() && game.GameClock < 1800) CutTimeouts(league.rules.Last3MinTimeoutList);
   RunTheClocks();
+  StopWatching();
   ChargeFatigue();
   if (PeriodIsOver()) EndPeriod();
   if (game.GameOver && !game.GameDone) {
+    game.WatchUntil = "NONE";
     FinishGame();
     game.GameDone = true;
   }

@@ -326,7 +326,7 @@ struct Game : GameRun {
       GameYear = 0;           ///< season month (1 September), calendar month
   int ScheduleRow = 0;        ///< row of the running game in the schedule, 0 unscheduled
   bool AnalysisMode = false;  ///< the chances are run as a what-if
-  bool WatchUntil = false;    ///< both sides run unattended up to a mark
+  tipline::WatchUntil WatchUntil;  ///< both sides run unattended up to this mark
 };
 
 extern Game game;
@@ -371,6 +371,8 @@ inline bool PeriodOpens() {
 inline int FullShotClock() {
   return league.rules.ShotClockList == 0 ? kNoShotClock : league.rules.ShotClockList * 10;
 }
+/// Both sides run unattended up to a mark, in a game that is watched.
+inline bool Watching() { return game.WatchUntil != "NONE"; }
 /// Absolute difference of the scores.
 inline int Margin() {
   const int d = game.side[1].Score - game.side[2].Score;

@@ -17,7 +17,7 @@
 namespace tipline {
 namespace {
 
-bool Unattended() { return program.Autoplaying || game.WatchUntil; }
+bool Unattended() { return program.Autoplaying || Watching(); }
 bool ComputerRuns(int side) { return game.side[side].CoachMode == "C"; }
 
 /// How late in a period the ball is brought up, or in, as a play of its own; and always against pressure.
@@ -147,20 +147,20 @@ void ComputerCalls(int side, int odds) {
 /// How seldom a defense is thought over in bulk play; near the end of a half always.
 int DefenseOdds(bool watchedCounts) {
   int odds = program.Autoplaying ? 5 : 1;
-  if (watchedCounts && game.WatchUntil) odds = 1;
+  if (watchedCounts && Watching()) odds = 1;
   if ((game.Period == 2 || game.Period == 4) && game.GameClock < 300 + Rnd(300)) odds = 1;
   return odds;
 }
 
 int DefenseCallOdds() {
   int odds = program.Autoplaying ? 5 : 1;
-  if (game.WatchUntil) odds = 1;
+  if (Watching()) odds = 1;
   if (ComputerRuns(game.DefenseSide) && ((LastPeriod() && game.GameClock < 3000) || game.GameClock < 600))
     odds = 1;
   return odds;
 }
 
-int StopOdds() { return program.Autoplaying && !game.WatchUntil ? 3 : 1; }
+int StopOdds() { return program.Autoplaying && !Watching() ? 3 : 1; }
 
 /// A leader lets the clock run.
 void SitOnLead() {

@@ -100,6 +100,41 @@ struct TimeoutFocusWords {
 };
 using TimeoutFocus = Word<TimeoutFocusWords>;  ///< what a coach stressed in his last timeout
 
+struct WatchUntilWords {
+  static constexpr std::string_view kTexts[] = {"NONE",
+                                                "End 1st Period",
+                                                "End 2nd Period",
+                                                "End 3rd Period",
+                                                "End 4th Period",
+                                                "1st Period - Six Minutes",
+                                                "1st Period - Two Minutes",
+                                                "1st Period - One Minute",
+                                                "2nd Period - Six Minutes",
+                                                "2nd Period - Two Minutes",
+                                                "2nd Period - One Minute",
+                                                "3rd Period - Six Minutes",
+                                                "3rd Period - Two Minutes",
+                                                "3rd Period - One Minute",
+                                                "4th Period - Six Minutes",
+                                                "4th Period - Two Minutes",
+                                                "4th Period - One Minute",
+                                                "4th Period - 30 Seconds"};
+};
+using WatchUntil = Word<WatchUntilWords>;  ///< the mark up to which both sides run unattended
+
+/// Where a mark is reached: in that period, with less than so many tenths left.
+struct WatchMark {
+  int period = 0, below = 0;
+};
+constexpr WatchMark MarkOf(WatchUntil until) {
+  constexpr int kBelow[] = {3600, 1200, 600};  // six, two and one minutes
+  const int index = until.Index();
+  if (index == 0) return {};
+  if (index <= 4) return {index, 1};
+  if (until == "4th Period - 30 Seconds") return {4, 300};
+  return {(index - 5) / 3 + 1, kBelow[(index - 5) % 3]};
+}
+
 struct CoachModeWords {
   static constexpr std::string_view kTexts[] = {"C", "H"};
 };

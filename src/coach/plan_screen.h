@@ -1,0 +1,50 @@
+#pragma once
+// The plan screen: a coach's sliders and his grid of coverage, one of eleven plans at a time.
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "league/roster.h"
+
+namespace tipline {
+
+inline constexpr int kSliders = 17;
+struct SliderCaption {
+  std::string_view frame, caption;
+};
+/// Frame and caption of slider 0 to 16, as the screen shows them.
+const SliderCaption& CaptionOf(int slider);
+
+/// Columns of the grid behind the names: coverage in three zones, double teams in three zones, usage.
+enum class PlanColumn { kInside, kOutside, kThree, kDoubleInside, kDoubleOutside, kDoubleThree, kUsage };
+inline constexpr std::array<std::string_view, 7> kPlanColumns{"Inside",  "Outside", "Three", "Dbl In",
+                                                              "Dbl Out", "Dbl 3",   "Usage"};
+inline constexpr std::array<std::string_view, 4> kUsageCaptions{"25%", "50%", "75%", "100%"};
+
+struct PlanScreen {
+  Roster& own;                       ///< the team whose coach plans
+  const Roster* opponent = nullptr;  ///< the opponent of the plan, where one is loaded
+  int plan = 0;                      ///< 0 the general plan, 1 to 10
+  int DefaultUsageList = 0;          ///< usage that the computer's plan gives every man, 0 to 3
+
+  explicit PlanScreen(Roster& team) : own(team) {}
+
+  /// One line for each plan.
+  std::vector<std::string> GamePlanList() const;
+  /// "Game Plan vs " and the opponent.
+  std::string Title() const;
+  /// Names the opponent of the plan on the screen; 0 empties it. False, with its message, for the general plan;
+  /// false for a slot that holds no team.
+  bool ChooseOpponent(int teamNo);
+  int Slider(int slider) const;
+  /// False, and nothing changes, unless slider 0..16 and value 0..4.
+  bool SetSlider(int slider, int value);
+  /// Steps a cell of the grid for a man of the opponent. False for a slot without a man.
+  bool StepCell(int slot, PlanColumn column);
+  void ClearPlayerDefense();
+  /// The computer's own plan, sliders and, where the opponent is loaded, grid. Draws.
+  void ComputerGamePlan();
+};
+
+}  // namespace tipline
