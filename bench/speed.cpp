@@ -14,7 +14,7 @@
 #include "harness/memory_league.h"
 #include "harness/temporary_home.h"
 #include "league/files.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/rules.h"
 
 namespace tipline {

@@ -11,7 +11,7 @@
 #include "league/files.h"
 #include "league/league_check.h"
 #include "league/program.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/roster.h"
 #include "league/rules.h"
 

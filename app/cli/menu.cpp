@@ -6,7 +6,7 @@
 #include "cli/terminal.h"
 #include "league/league.h"
 #include "league/program.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 
 namespace tipline::cli {
 namespace {

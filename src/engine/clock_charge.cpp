@@ -72,7 +72,7 @@ void BaseWithShotClock(Charge& c) {
 
 // The way up the floor costs time where it is played out; students are scaled to their forty minutes.
 void BringUpAndLength(Charge& c) {
-  const int minutes = setup.MoveUpList[LastPeriod() ? 2 : 1];
+  const int minutes = setup.MoveUpList[LastPeriod() ? 1 : 0];
   if (league.rules.PeriodList == 4 && minutes > (LastPeriod() ? 2 : 0)) c.Times(1 + 0.005 * minutes);
   if (c.college) c.Times(48.0 / 40 * 0.95);
   if (game.GameClock > 100 && c.time < 20) c.time = 20 + Rnd(20);

@@ -22,7 +22,7 @@ bool ComputerRuns(int side) { return game.side[side].CoachMode == "C"; }
 
 /// How late in a period the ball is brought up, or in, as a play of its own; and always against pressure.
 bool BringingUpIsAPlay() {
-  const int minutes = setup.MoveUpList[LastPeriod() ? 2 : 1];
+  const int minutes = setup.MoveUpList[LastPeriod() ? 1 : 0];
   const int pressure = Defense().Pressure;
   return (minutes != 0 && game.GameClock / kMinute < minutes) || pressure == 2 || pressure == 4;
 }

@@ -12,7 +12,7 @@
 #include "frontoffice/season_lines.h"
 #include "frontoffice/team_identity.h"
 #include "league/player_values.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/rules.h"
 
 namespace tipline {

@@ -14,9 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kListed = 31;       // entries that are read
-constexpr std::size_t kWritten = 30;      // and written
-constexpr std::size_t kShortestPath = 10; // anything shorter names no league
+constexpr std::size_t kListed = 31;        // entries that are read
+constexpr std::size_t kWritten = 30;       // and written
+constexpr std::size_t kShortestPath = 10;  // anything shorter names no league
 constexpr std::string_view kHomeDrive = "C:";
 constexpr std::size_t kSeasonsShown = 999;
 

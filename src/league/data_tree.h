@@ -9,7 +9,8 @@
 namespace tipline {
 
 /// Finds the drive of the tree: `program.DataDrive` from the program folder's drive file, or, where that says
-/// nothing of use or names a drive that is not there, the drive of the data home, which is then written to it.
+/// nothing of use or names a drive that is not there, the drive of the data home, which is then written to
+/// it.
 void ReadDrive();
 /// Moves the tree to another drive ("D:"): notes it, and makes the folders. False, with nothing changed, when
 /// there is no such drive.

@@ -7,6 +7,7 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
+#include "league/setup.h"
 
 namespace tipline {
 namespace {
@@ -237,6 +238,7 @@ const FileFormat kFormats[] = {
                         "2 records: 1 the rules, below; 2 the pools of the tournament"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
+    Format<SetupRecord>("HcSetup2023.dat", SetupFile, kSetupSlotBytes, "1 record: the user's preferences"),
 };
 
 const FileFormat* FormatOf(std::string_view name) {

@@ -7,7 +7,7 @@ namespace tipline {
 
 League league;
 Program program;
-Setup setup;
+SetupRecord setup;
 
 namespace {
 

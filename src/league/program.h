@@ -2,6 +2,7 @@
 // Run-time flags and folders of the program.
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "base/words.h"
 
@@ -18,6 +19,8 @@ using GameKind =
 struct Program {
   std::filesystem::path Home;           ///< the data home
   std::filesystem::path ProgramFolder;  ///< era file, name files; serves all leagues
+  std::string DataDrive = "C:";         ///< drive of the data tree
+  std::vector<std::string> RecentList;  ///< tree texts of recent leagues, the current one first
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
   bool PlayoffGame = false;

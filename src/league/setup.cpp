@@ -10,12 +10,7 @@
 namespace tipline {
 namespace {
 
-constexpr int kSetupSlotBytes = 30000;
 constexpr std::uintmax_t kShortest = 1000;  // a shorter file was never a setup
-
-std::filesystem::path SetupFile() {
-  return program.ProgramFolder / ("HcSetup" + std::to_string(kEditionYear) + ".dat");
-}
 
 void Blank() {
   (void)WriteWholeFile(SetupFile(), std::string(kSetupSlotBytes, ' '));  // it is repaired in memory anyway
@@ -35,6 +30,10 @@ void FillCalls(const u8 (&grid)[3][5]) {
 }
 
 }  // namespace
+
+std::filesystem::path SetupFile() {
+  return program.ProgramFolder / ("HcSetup" + std::to_string(kEditionYear) + ".dat");
+}
 
 void LoadSetup() {
   ReadRecentList();

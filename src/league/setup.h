@@ -1,14 +1,17 @@
 #pragma once
 // The user's preferences: the program's setup file.
 #include <array>
+#include <filesystem>
 #include <string_view>
 
 #include "league/setup_record.h"
 
 namespace tipline {
 
-using Setup = SetupRecord;
-extern Setup setup;
+extern SetupRecord setup;
+
+inline constexpr int kSetupSlotBytes = 30000;
+std::filesystem::path SetupFile();  ///< of this edition, in the program folder
 
 /// Finds the data tree, reads the recent list, then the setup file of this edition, in the program folder;
 /// fills what its markers say was never set and holds the rest to its bounds. A missing, short or damaged
@@ -28,7 +31,7 @@ void CallAllPlays();
 inline constexpr std::array<std::string_view, 10> kRatingWord{
     "Very Poor",     "Poor", "Fair",      "Below Average", "Average",
     "Above Average", "Good", "Very Good", "Excellent",     "Excellent"};
-inline constexpr std::array<std::string_view, 5> kPositionName{
-    "Point Guard", "Shooting Guard", "Small Forward", "Power Forward", "Center"};
+inline constexpr std::array<std::string_view, 5> kPositionName{"Point Guard", "Shooting Guard",
+                                                               "Small Forward", "Power Forward", "Center"};
 
 }  // namespace tipline

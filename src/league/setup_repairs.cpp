@@ -29,7 +29,7 @@ void Layout() {
 }
 
 void PlayByPlay() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   if (TakeMark(s.PbpIconsMark, 111)) s.PbpIconsCheck = 0;
   if (TakeMark(s.FontMark, 211)) s.OpeningFontList = 8;  // the choice for narrow screens
   if (TakeMark(s.PbpStatsMark, 22)) s.DisplayStatsInPbpCheck = 0;
@@ -46,7 +46,7 @@ void PlayByPlay() {
 }
 
 void Reports() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   if (TakeMark(s.StandingsColumnsMark, 55)) {
     s.HomeRoadCheck = s.DivisionCheck = s.RebAstGameCheck = s.StBkToGameCheck = s.PtsGameCheck =
         s.Pts100Check = {};
@@ -57,7 +57,7 @@ void Reports() {
 }
 
 void SoundAndNarrator() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   if (TakeMark(s.SoundEditionMark, kEditionMark)) {
     s.SoundActionScroll = s.SoundCrowdScroll = s.SoundWhistleScroll = s.SoundHornScroll = 100;
   }
@@ -72,7 +72,7 @@ void SoundAndNarrator() {
 }
 
 void Rest() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   if (TakeMark(s.ColumnSortMark, 99)) {
     s.ViewSortColumn.Fill(1);
     s.ViewSortOrder.Fill(2);
@@ -96,7 +96,7 @@ void Rest() {
 
 /// What no marker guards.
 void Bounds() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   if (s.PBPscroll < 0 || s.PBPscroll > 100) s.PBPscroll = 20;
   if (s.PBPdelayscroll < 1) s.PBPdelayscroll = 1;
   if (s.PBPdelayscroll > 10) s.PBPdelayscroll = 3;
@@ -119,7 +119,7 @@ void Bounds() {
 
 /// The program's own views and boards stand in front, the user's keep a name.
 void ViewsAndBoards() {
-  Setup& s = setup;
+  SetupRecord& s = setup;
   for (int view = 1; view <= 100; ++view) {
     if (view <= static_cast<int>(std::size(kStatViews))) {
       s.StatViewName[view] = kStatViews[view - 1];

@@ -45,7 +45,7 @@ TEST(ChargeTime, TakesWhatThePlayTakes) {
        {3}, {}, 77},
       {"no shot clock, 1954", [] { league.rules.ShotClockList = 0, PlayerAt(2, 1).Year = 1954; }, {25}, {},
        {}, 137},
-      {"two minutes are too few in the last", [] { setup.MoveUpList[2] = 2, game.Period = 4; }, {30, 10}, {},
+      {"two minutes are too few in the last", [] { setup.MoveUpList[1] = 2, game.Period = 4; }, {30, 10}, {},
        {}, 148},
       {"late and behind", [] { game.Period = 4, game.GameClock = 249, game.side[1].Score = 1; }, {30, 10}, {},
        {}, 47},

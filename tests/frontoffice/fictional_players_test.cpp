@@ -7,7 +7,7 @@
 #include "frontoffice/league_maker.h"
 #include "harness/temporary_home.h"
 #include "league/files.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/roster.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"

@@ -11,7 +11,7 @@
 #include "frontoffice/team_identity.h"
 #include "harness/temporary_home.h"
 #include "league/files.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
 

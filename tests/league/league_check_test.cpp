@@ -10,7 +10,7 @@
 #include "harness/temporary_home.h"
 #include "league/files.h"
 #include "league/program.h"
-#include "league/recent.h"
+#include "league/data_tree.h"
 #include "league/rules.h"
 
 namespace tipline {

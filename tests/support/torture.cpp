@@ -143,8 +143,8 @@ void DrawTeam(int teamNo) {
 }
 
 void DrawSetup() {
+  setup.MoveUpList[0] = OneOf<u8>({0, 2, 20});
   setup.MoveUpList[1] = OneOf<u8>({0, 2, 20});
-  setup.MoveUpList[2] = OneOf<u8>({0, 2, 20});
   for (auto& band : setup.PlayCallFrequency) {
     for (u8& share : band) share = static_cast<u8>(Rnd(11) - 1);
   }

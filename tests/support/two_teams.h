@@ -15,6 +15,7 @@ inline void TwoTeams() {
   league.rules = {};
   league.EraPro = league.EraCollege = {};
   setup = {};
+  CallAllPlays();
   program = {};
   league.rules.PeriodList = 4;
   league.rules.MinuteList = 12;
