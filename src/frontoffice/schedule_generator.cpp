@@ -215,7 +215,7 @@ int Placer::PickSlot(int a, int b, int last) const {
 /// Team a at home against b, on a date out of the first `last`; false when there is none.
 bool Placer::Place(int a, int b, int last) {
   const int slot = PickSlot(a, b, last);
-  if (slot == 0) return false;
+  if (slot == 0 || placed_.size() >= kMostScheduleRows) return false;
   ++slotGames_[slot];
   busy_[At(a)].set(At(slot - 1));
   busy_[At(b)].set(At(slot - 1));
@@ -304,6 +304,10 @@ std::string ScheduleRequestProblem(int activeTeams, int games, int divisional) {
   if (divisional < 0 || divisional > 20 || divisional % 2 != 0) {
     return "Divisional games must be zero or an even number between 2 and 20 games.";
   }
+  if (activeTeams * games / 2 > kMostScheduleRows) {
+    return "A schedule holds at most " + std::to_string(kMostScheduleRows) + " games, these would be " +
+           std::to_string(activeTeams * games / 2) + ".";
+  }
   return "";
 }
 
@@ -368,7 +372,8 @@ bool HCCOMPUTERSCHEDULE::GENERATECommand() {
   const auto rows = ScheduleRows(draft, league.ScheduleYear);
   league.ScheduleGame.resize(1);
   league.ScheduleGame.insert(league.ScheduleGame.end(), rows.begin(), rows.end());
-  if (!SaveSchedule() || !LoadSchedule()) return false;
+  const bool saved = SaveSchedule();
+  if (!LoadSchedule() || !saved) return false;
   dialogs.Tell(ScheduleMessage(draft));
   return true;
 }

@@ -152,7 +152,7 @@ ScheduleRecord NewScheduleGame(int visitor, int home, int month, int day) {
     }
   });
   row.Team = {{static_cast<i16>(visitor), static_cast<i16>(home)}};
-  row.CoachKind.Fill("C");
+  row.CoachKind.Fill(std::string_view("C"));
   row.Month = static_cast<u8>(month);
   row.Day = static_cast<u8>(day);
   row.Status = "U";
@@ -167,7 +167,7 @@ TournamentPools ReadPools() {
   }
   if (pools.PoolMark == TournamentPools::kSetMark) return pools;
   pools = {};
-  for (auto& days : pools.DateType) days.Fill("R");
+  for (auto& days : pools.DateType) days.Fill(std::string_view("R"));
   return pools;
 }
 
