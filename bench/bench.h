@@ -26,6 +26,9 @@ int Laws(std::ostream& out, const BenchOptions& options);
 /// Leagues through the decades beside their eras and the men's own seasons.
 int Realism(std::ostream& out, const BenchOptions& options);
 
+/// Seconds to make schedules, and how complete and even they come out over 20 seeds.
+int Schedules(std::ostream& out, const BenchOptions& options);
+
 /// Heap allocations of this program so far.
 std::uint64_t Allocations();
 

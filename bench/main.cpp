@@ -17,6 +17,7 @@ int Usage() {
                "  signature  seeded games of the four presets reduced to one number\n"
                "  load       50,000 players loaded, a league of 30 teams made\n"
                "  players    how made-up players and teams spread\n"
+               "  schedule   time to make schedules, how complete and even they are\n"
                "  speed      games a second, time by stage, heap allocations\n"
                "  one        N games (1) and nothing else, for a profiler\n"
                "  laws       N games (2000) of all presets against the laws of the game\n"
@@ -51,6 +52,7 @@ bool ReadOptions(int count, char** words, BenchOptions& options) {
 int Run(std::string_view command, const BenchOptions& options) {
   if (command == "signature") return Signature(std::cout, options);
   if (command == "load") return Load(std::cout);
+  if (command == "schedule") return Schedules(std::cout, options);
   if (command == "speed") return Speed(std::cout, options);
   if (command == "one") return One(std::cout, options);
   if (command == "laws") return Laws(std::cout, options);

@@ -7,10 +7,10 @@ namespace {
 
 // clang-format off
 constexpr LeaguePreset kPresets[] = {
-    {"pro",      GameLevel::kPro,     2022, 6, 30, 15},
-    {"college",  GameLevel::kCollege, 2022, 6, 48, 12},
-    {"women",    GameLevel::kWomen,   2022, 2, 12, 12},
-    {"historic", GameLevel::kPro,     1965, 2, 10, 12},
+    {"pro",      GameLevel::kPro,     2022, 6, 30, 15, 82},
+    {"college",  GameLevel::kCollege, 2022, 6, 48, 12, 28},
+    {"women",    GameLevel::kWomen,   2022, 2, 12, 12, 40},
+    {"historic", GameLevel::kPro,     1965, 2, 10, 12, 80},
 };
 // clang-format on
 
@@ -105,10 +105,12 @@ int RosterSize(const LeaguePreset& preset, int year) {
   return std::min(preset.men, year >= 2020 ? 15 : year >= 2018 ? 13 : 12);
 }
 
-int SeasonGames(GameLevel level, int year) {
-  if (level == GameLevel::kWomen) return year >= 2025 ? 44 : year >= 2023 ? 40 : year >= 2022 ? 36 : 34;
-  const int games = SeasonRow(year, level == GameLevel::kCollege).Games;
-  return games > 0 ? games : 82;
+int SeasonGames(const LeaguePreset& preset, int year) {
+  if (year == preset.year) return preset.games;
+  if (preset.level == GameLevel::kWomen)
+    return year >= 2025 ? 44 : year >= 2023 ? 40 : year >= 2022 ? 36 : 34;
+  const int games = SeasonRow(year, preset.level == GameLevel::kCollege).Games;
+  return games > 0 ? Clamp(games / 2 * 2, 10, 98) : 82;
 }
 
 RulesRecord RulesOf(GameLevel level, int year) {

@@ -11,7 +11,7 @@ enum class GameLevel { kPro, kCollege, kWomen };
 struct LeaguePreset {
   std::string_view name;
   GameLevel level;
-  int year, divisions, teams, men;
+  int year, divisions, teams, men, games;
 };
 
 /// The preset of that name; nullptr for none.
@@ -20,8 +20,9 @@ const LeaguePreset* FindPreset(std::string_view name);
 /// Men on a team in that year: what the preset gives, within the active roster of the time.
 int RosterSize(const LeaguePreset& preset, int year);
 
-/// Games of a team's season of that kind; 0 games of the era count as 82.
-int SeasonGames(GameLevel level, int year);
+/// Games of a team's season, an even number of 10 and more: those of the preset in its own year, else what
+/// was played in that year.
+int SeasonGames(const LeaguePreset& preset, int year);
 
 /// The rules of play of that year. What a league's rules leave to their markers stays unset, the first load
 /// fills it; a marker is set only where this kind of league differs from what the load would give.

@@ -1,11 +1,13 @@
 #include "frontoffice/league_maker.h"
 
 #include <set>
+#include <utility>
 
 #include "base/random.h"
 #include "base/record_file.h"
 #include "coach/depth_chart.h"
 #include "coach/game_plan.h"
+#include "frontoffice/first_schedule.h"
 #include "frontoffice/made_up_player.h"
 #include "frontoffice/rating_math.h"
 #include "frontoffice/rating_run.h"
@@ -14,6 +16,7 @@
 #include "league/player_values.h"
 #include "league/data_tree.h"
 #include "league/rules.h"
+#include "league/schedule.h"
 
 namespace tipline {
 namespace {
@@ -65,10 +68,7 @@ std::string PlanProblem(const LeagueRequest& request, const Plan& plan) {
            " equal divisions.";
   }
   if (plan.teams / plan.divisions > kMostDivisionTeams) return "A division has at most 20 teams.";
-  if (request.Games != 0 && (request.Games < 2 || request.Games > 98)) {
-    return "A season has 2 to 98 games.";
-  }
-  return "";
+  return request.Games == 0 ? "" : ScheduleRequestProblem(plan.teams, request.Games, 0);
 }
 
 bool MakePlan(const LeagueRequest& request, Plan& plan, std::string& message) {
@@ -283,7 +283,7 @@ bool DrawWithSeed(const LeagueRequest& request, MadeLeague& made, std::string& m
   }
   made = {};
   made.rules = Repaired(NewRules(request, plan), plan);
-  made.games = request.Games ? request.Games : SeasonGames(plan.preset->level, plan.year);
+  made.games = request.Games ? request.Games : SeasonGames(*plan.preset, plan.year);
   DrawTeams(plan, data, identities, made);
   NumberRows(made, plan.men);
   SettleSeasonLines(made.teams, plan.preset->level, plan.year);
@@ -333,11 +333,19 @@ bool WriteRules(const std::filesystem::path& folder, const MadeLeague& made) {
   });
 }
 
-bool WriteFolder(const std::filesystem::path& folder, const MadeLeague& made) {
+FirstSchedule ScheduleOf(const MadeLeague& made, std::uint64_t seed) {
+  std::vector<int> teams;
+  for (const auto& roster : made.teams) teams.push_back(roster.TeamNo);
+  return MakeFirstSchedule(std::move(teams), made.games, made.teams.front().team.Year, seed);
+}
+
+bool WriteFolder(const std::filesystem::path& folder, const MadeLeague& made,
+                 const std::vector<ScheduleRecord>& schedule) {
   std::error_code error;
   std::filesystem::remove_all(folder, error);
   if (!std::filesystem::create_directories(folder, error) || error) return false;
-  return WriteTeams(folder, made) && WritePlayers(folder, made) && WriteRules(folder, made);
+  return WriteTeams(folder, made) && WritePlayers(folder, made) && WriteRules(folder, made) &&
+         WriteSchedule(folder / kDefaultScheduleFile, schedule) && WriteSchedule(folder / "SKED", schedule);
 }
 
 }  // namespace
@@ -366,12 +374,14 @@ bool MakeLeague(const LeagueRequest& request, std::string& message) {
   MadeLeague made;
   if (!DrawLeague(request, made, message)) return false;
   const auto beside = LeaguesFolder() / ("." + request.Name + ".new");
-  if (WriteFolder(beside, made)) {
+  const FirstSchedule schedule = ScheduleOf(made, request.Seed);
+  if (WriteFolder(beside, made, schedule.rows)) {
     std::filesystem::rename(beside, folder, error);
     if (!error) {
       message = "Made \"" + request.Name + "\": " + std::to_string(made.teams.size()) + " teams, " +
                 std::to_string(made.freeAgents.size()) + " free agents, season " +
-                std::to_string(made.teams.front().team.Year) + ", seed " + std::to_string(request.Seed) + ".";
+                std::to_string(made.teams.front().team.Year) + ", seed " + std::to_string(request.Seed) +
+                ".\n" + schedule.message;
       return true;
     }
   }

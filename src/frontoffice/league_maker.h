@@ -15,7 +15,7 @@ struct LeagueRequest {
   int Year = 0;                ///< 1946 to 2050; in this and the next three 0 takes the preset's
   int Divisions = 0;           ///< 1 to 36
   int Teams = 0;               ///< of the league; an equal number in each division, at most 20 there
-  int Games = 0;  ///< 2 to 98, games a team is to play; for the schedule, no file of the league holds it
+  int Games = 0;  ///< of a team's season: an even number from 10 to 98; 0 takes what the kind plays
   std::uint64_t Seed = 1;
 };
 
@@ -35,7 +35,8 @@ bool DrawLeague(const LeagueRequest& request, MadeLeague& made, std::string& mes
 bool RequestIsSound(const LeagueRequest& request, std::string& message);
 
 /// Draws a league and writes its folder under LeaguesFolder(): into a folder beside, renamed when all is
-/// written, so that a failure leaves nothing. False with one sentence in `message`.
+/// written, so that a failure leaves nothing. The schedule is drawn last and in this step alone. `message`
+/// says in lines what was made and what of the schedule could not be placed; false with one sentence in it.
 bool MakeLeague(const LeagueRequest& request, std::string& message);
 
 }  // namespace tipline

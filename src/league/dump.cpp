@@ -7,6 +7,7 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
+#include "league/schedule.h"
 #include "league/setup.h"
 
 namespace tipline {
@@ -228,6 +229,8 @@ constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)
   return {name, path, slot, records, DumpSlot<Record>, DocumentFile<Record>};
 }
 
+std::filesystem::path DefaultSchedule() { return LeagueFile(kDefaultScheduleFile); }
+
 const FileFormat kFormats[] = {
     Format<TeamRecord>("HCTEAMS", TeamsFile, kTeamSlotBytes, "720 records; record number = team number"),
     Format<PlayerRecord>("HCPLAYER", PlayersFile, kPlayerSlotBytes,
@@ -236,6 +239,8 @@ const FileFormat kFormats[] = {
                         "720 records; record number = team number"),
     Format<RulesRecord>("HCRULES", RulesFile, kRulesSlotBytes,
                         "2 records: 1 the rules, below; 2 the pools of the tournament"),
+    Format<ScheduleRecord>(kDefaultScheduleFile, DefaultSchedule, kScheduleSlotBytes,
+                           "as many records as there are games; the rules name the file"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
     Format<SetupRecord>("HcSetup2023.dat", SetupFile, kSetupSlotBytes, "1 record: the user's preferences"),
@@ -244,6 +249,7 @@ const FileFormat kFormats[] = {
 const FileFormat* FormatOf(std::string_view name) {
   for (const auto& format : kFormats) {
     if (SameText(format.name, name)) return &format;
+    if (format.name == kDefaultScheduleFile && Upper(name).ends_with(".SKD")) return &format;
   }
   return nullptr;
 }
@@ -255,7 +261,11 @@ bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
   const FileFormat* format = FormatOf(given.filename().string());
   const bool hasFormat = format && n >= 1 && (n == 1 || format->name != "HCRULES");
   if (!hasFormat) return false;
-  const RecordFile file(given.has_parent_path() ? given : format->path(), format->slot);
+  // A league may hold more than one schedule.
+  const auto here = format->slot == kScheduleSlotBytes && !SameText(fileName, format->name)
+                        ? LeagueFile(fileName)
+                        : format->path();
+  const RecordFile file(given.has_parent_path() ? given : here, format->slot);
   std::error_code error;
   const auto size = std::filesystem::file_size(file.Path(), error);
   if (error || size <= static_cast<std::uintmax_t>(n - 1) * static_cast<unsigned>(format->slot)) return false;

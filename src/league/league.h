@@ -9,6 +9,7 @@
 #include "league/era_record.h"
 #include "league/player_record.h"
 #include "league/rules_record.h"
+#include "league/schedule_record.h"
 #include "league/team_record.h"
 
 namespace tipline {
@@ -35,6 +36,11 @@ struct League {
   RulesRecord rules;
   std::vector<u8> tournamentPools;  ///< record 2 of HCRULES as it stands in the file, a whole slot
   EraTable EraPro, EraCollege;
+
+  std::vector<ScheduleRecord> ScheduleGame = std::vector<ScheduleRecord>(1);  ///< index = row, 0 unused
+  int ScheduleYear = 2000;  ///< year in which the scheduled season begins
+  bool HasAugustGames = false, HasSeptemberGames = false;
+  int GameCount() const { return static_cast<int>(ScheduleGame.size()) - 1; }  ///< rows in use
 
   std::string LeagueFolderName;       ///< last part of the league folder
   std::filesystem::path PhotoFolder;  ///< where this league's player photos lie

@@ -51,10 +51,10 @@ bool HasUnplayedGames() {
 
 bool CheckGameOpenStatus() {
   const std::string word(Trimmed(ReadWholeFile(StatusFile()).substr(0, 4)));
-  if (word == "Open" &&
-      !platform::dialogs().Ask("Tipline appears to already be open! Opening a second instance of the game may "
-                               "cause data issues.\nContinue?",
-                               "Game Already Open!")) {
+  if (word == "Open" && !platform::dialogs().Ask(
+                            "Tipline appears to already be open! Opening a second instance of the game may "
+                            "cause data issues.\nContinue?",
+                            "Game Already Open!")) {
     return false;
   }
   WriteStatus("Open");

@@ -7,7 +7,9 @@
 #include "league/era_record.h"
 #include "league/player_record.h"
 #include "league/rules_record.h"
+#include "league/schedule_record.h"
 #include "league/team_record.h"
+#include "league/tournament_record.h"
 
 namespace tipline {
 namespace {
@@ -15,7 +17,7 @@ namespace {
 template <class Record>
 class Records : public testing::Test {};
 using AllRecords = testing::Types<StatLine, RealTotalsLine, SeriesLine, TeamRecord, PlayerRecord, CoachRecord,
-                                  RulesRecord, EraRecord>;
+                                  RulesRecord, EraRecord, ScheduleRecord, TournamentPools>;
 TYPED_TEST_SUITE(Records, AllRecords);
 
 TYPED_TEST(Records, OffsetsMeetEndToEnd) {

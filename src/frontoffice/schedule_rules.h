@@ -1,0 +1,35 @@
+#pragma once
+// What a game put on the schedule by hand must keep.
+#include <string>
+#include <string_view>
+
+#include "league/schedule.h"
+
+namespace tipline {
+
+/// What is to be put on the schedule, or to take the place of a game there.
+struct ScheduleChoice {
+  int visitor = 0, home = 0;  ///< team numbers, 999 the undecided one, 0 none chosen
+  int month = 0, day = 0;     ///< calendar date, 0 none chosen
+};
+
+/// Days that can be chosen in a calendar month, February with 29; 0 outside 1 to 12.
+int ScheduleDays(int month);
+
+/// Whether the league's rules of dates and pools let two different teams play on a date: asks or tells where
+/// they do not. `except` is the row that the game replaces, 0 for a new one.
+bool ScheduleAllows(const ScheduleChoice& choice, int except);
+
+/// Calls visit(row, number) for every game of `league.ScheduleGame` that is not deleted.
+template <class Visit>
+void ForScheduledGames(Visit&& visit) {
+  for (int n = 1; n <= league.GameCount(); ++n) {
+    const ScheduleRecord& row = league.ScheduleGame[static_cast<std::size_t>(n)];
+    if (row.Status != 'D') visit(row, n);
+  }
+}
+
+/// Tells why something is refused; false for the caller to give back.
+bool RefusedWith(const std::string& message, std::string_view title = "");
+
+}  // namespace tipline

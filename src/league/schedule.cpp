@@ -1,0 +1,215 @@
+#include "league/schedule.h"
+
+#include <fstream>
+
+#include "base/calendar.h"
+#include "base/numbers.h"
+#include "base/record_file.h"
+#include "league/files.h"
+#include "platform/dialogs.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kEmptyFile = 50;  // a file with fewer bytes holds no game
+
+std::uintmax_t SizeOf(const std::filesystem::path& file) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file, error);
+  return error ? 0 : size;
+}
+
+/// An empty default schedule takes what the spare copy holds.
+bool Heal(const std::filesystem::path& file) {
+  if (Upper(file.filename().string()) != "SKED.SKD" || SizeOf(file) >= kEmptyFile) return true;
+  if (SizeOf(SpareSchedule()) <= kEmptyFile) return true;
+  return Written(WriteWholeFile(file, ReadWholeFile(SpareSchedule())), file);
+}
+
+/// The file is there and can be read; a missing one is made.
+bool MakeReady(const std::filesystem::path& file) {
+  if (file.empty()) return false;
+  std::error_code error;
+  if (!std::filesystem::exists(file, error) && !Written(WriteWholeFile(file, ""), file)) return false;
+  if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
+    platform::dialogs().Tell(file.filename().string() + " could not be read!");
+    return false;
+  }
+  return Heal(file);
+}
+
+void ReadRows(const std::filesystem::path& file) {
+  const double rows = static_cast<double>(SizeOf(file)) / kScheduleSlotBytes + 0.75;
+  if (rows >= kMostScheduleRows + 1) {
+    platform::dialogs().Tell(file.filename().string() + " holds more than " +
+                             std::to_string(kMostScheduleRows) + " games, those behind are left out!");
+  }
+  const int count = std::min(Int(rows), kMostScheduleRows);
+  league.ScheduleGame.resize(static_cast<std::size_t>(count) + 1);
+  RecordFile(file, kScheduleSlotBytes).ReadAll(count, [](int n, const u8* bytes) {
+    ReadRecord(bytes, league.ScheduleGame[static_cast<std::size_t>(n)]);
+  });
+}
+
+void TakeLegacyTeams(ScheduleRecord& row) {
+  for (int side = 1; side <= 2; ++side) {
+    if (row.LegacyTeam[side] != 0) row.Team[side] = row.LegacyTeam[side];
+    row.LegacyTeam[side] = 0;
+  }
+}
+
+std::span<ScheduleRecord> Rows() { return std::span(league.ScheduleGame).subspan(1); }
+
+/// All rows over file and spare copy.
+bool WriteRows(std::span<const ScheduleRecord> rows) {
+  const auto file = ScheduleFile();
+  return Written(WriteSchedule(file, rows), file) &&
+         Written(WriteSchedule(SpareSchedule(), rows), SpareSchedule());
+}
+
+}  // namespace
+
+std::string_view GameTypeWords(char type) {
+  for (const auto& known : kGameTypes) {
+    if (known.letter == type) return known.words;
+  }
+  return kGameTypes[0].words;
+}
+
+std::filesystem::path ScheduleFile() {
+  const std::string name = league.rules.ScheduleFile.Str();
+  const bool plain = name.find_first_of(std::string("/\\\0", 3)) == std::string::npos;
+  const bool schedule = name.size() > 4 && Upper(name).ends_with(".SKD");
+  return LeagueFile(plain && schedule ? name : kDefaultScheduleFile);
+}
+
+std::filesystem::path SpareSchedule() { return LeagueFile("SKED"); }
+
+bool LoadSchedule() {
+  league.ScheduleGame.assign(1, {});
+  league.ScheduleYear = 2000;
+  league.HasAugustGames = league.HasSeptemberGames = false;
+  const auto file = ScheduleFile();
+  if (!MakeReady(file)) return false;
+  ReadRows(file);
+  if (league.GameCount() > 0) {
+    const int year = league.ScheduleGame[1].Year;
+    if (year >= 1900 && year <= 2100) league.ScheduleYear = year;
+  }
+  const TournamentPools pools = ReadPools();
+  for (ScheduleRecord& row : Rows()) {
+    TakeLegacyTeams(row);
+    league.HasAugustGames = league.HasAugustGames || row.Month == 8;
+    league.HasSeptemberGames = league.HasSeptemberGames || row.Month == 9;
+    TakeDateType(row, pools);
+  }
+  return true;
+}
+
+bool SaveSchedule() {
+  league.team[kFreeAgent].TeamActive = 1;
+  league.team[kFreeAgent].City = "TBD";
+  std::vector<ScheduleRecord> kept;
+  for (ScheduleRecord& row : Rows()) {
+    if (!IsScheduleTeam(row.Team[1]) || !IsScheduleTeam(row.Team[2])) continue;
+    row.Year = static_cast<i16>(league.ScheduleYear);
+    if (row.Status != 'D') kept.push_back(row);
+  }
+  return WriteRows(kept);
+}
+
+bool UnloadSortedSchedule() {
+  std::vector<ScheduleRecord> sorted;
+  for (int i = 1; i <= 12; ++i) {
+    const int month = i + 9 > 12 ? i - 3 : i + 9;  // the year of basketball begins in October
+    for (int day = 1; day <= 31; ++day) {
+      for (const ScheduleRecord& row : Rows()) {
+        const bool teams = row.Team[1] != 0 && row.Team[2] != 0;
+        if (IsOn(row, month, day) && teams && row.Status != 'D') sorted.push_back(row);
+      }
+    }
+  }
+  return WriteRows(sorted);
+}
+
+bool WriteSchedule(const std::filesystem::path& file, std::span<const ScheduleRecord> rows) {
+  std::string bytes(rows.size() * kScheduleSlotBytes, '\0');
+  std::size_t at = 0;
+  for (const ScheduleRecord& row : rows) {
+    WriteRecord(row, reinterpret_cast<u8*>(bytes.data()) + at);
+    at += kScheduleSlotBytes;
+  }
+  return WriteWholeFile(file, bytes);
+}
+
+ScheduleRecord NewScheduleGame(int visitor, int home, int month, int day) {
+  ScheduleRecord row;
+  Describe(row, [](int, const char*, auto& member, const char*) {
+    using Member = std::remove_cvref_t<decltype(member)>;
+    if constexpr (kIsText<Member>) member = "";
+    if constexpr (TableShape<Member>::kDepth == 1) {
+      if constexpr (kIsText<typename TableShape<Member>::Cell>) member.Fill(std::string_view());
+    }
+  });
+  row.Team = {{static_cast<i16>(visitor), static_cast<i16>(home)}};
+  row.CoachKind.Fill(std::string_view("C"));
+  row.Month = static_cast<u8>(month);
+  row.Day = static_cast<u8>(day);
+  row.Status = "U";
+  row.GameType = "R";
+  return row;
+}
+
+TournamentPools ReadPools() {
+  TournamentPools pools;
+  if (league.tournamentPools.size() >= TournamentPools::kRecordSize) {
+    ReadRecord(league.tournamentPools.data(), pools);
+  }
+  if (pools.PoolMark == TournamentPools::kSetMark) return pools;
+  pools = {};
+  for (auto& days : pools.DateType) days.Fill(std::string_view("R"));
+  return pools;
+}
+
+char DateTypeOf(const TournamentPools& pools, int month, int day) {
+  if (month < 1 || month > 12 || day < 1 || day > 31) return 'R';
+  const char letter = pools.DateType[day][month].bytes[0];
+  return std::string_view("PQLNSC").find(letter) == std::string_view::npos ? 'R' : letter;
+}
+
+void TakeDateType(ScheduleRecord& row, const TournamentPools& pools) {
+  const char type = DateTypeOf(pools, row.Month, row.Day);
+  row.GameType = std::string_view(&type, 1);
+  if (type == 'C') row.NeutralSite = 1;
+}
+
+Table<GameTypeCount, 1, 7> CountGameTypes() {
+  Table<GameTypeCount, 1, 7> counts;
+  const TournamentPools pools = ReadPools();
+  for (int number = 1; number <= 7; ++number) {
+    const char letter = kGameTypes[number - 1].letter;
+    for (int month = 1; month <= 12; ++month) {
+      for (int day = 1; day <= DaysOfMonth(month); ++day) {
+        if (DateTypeOf(pools, month, day) == letter) ++counts[number].dates;
+      }
+    }
+    for (const ScheduleRecord& row : Rows()) {
+      if (row.GameType != letter) continue;
+      if (row.Status == 'P' || row.Status == 'N' || row.Status == 'U') ++counts[number].games;
+      if (row.Status == 'P') ++counts[number].played;
+    }
+  }
+  return counts;
+}
+
+std::string ScheduleTeamName(int team) {
+  if (team == kFreeAgent) return "TBD";
+  return team >= 1 && team <= kTeams ? league.team[team].City.Str() : "";
+}
+
+bool IsScheduleTeam(int team) {
+  if (team == kFreeAgent) return true;
+  return team >= 1 && team <= kTeams && league.team[team].TeamActive == 1 && !league.team[team].City.Empty();
+}
+
+}  // namespace tipline
