@@ -67,7 +67,7 @@ void AddLists(CLI::App& app, Arguments& a) {
       ->capture_default_str();
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
-  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES or Basketball-Era.dat")
+  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily or Basketball-Era.dat")
       ->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
 }
