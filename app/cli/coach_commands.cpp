@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iostream>
 #include <optional>
+#include <span>
 
 #include "cli/columns.h"
 #include "cli/commands.h"
@@ -161,19 +162,35 @@ std::string LabelOf(int slider) {
   return std::string(c.caption);
 }
 
-/// Sets one slider from CAPTION=VALUE; false, told, when it says no slider or no value.
+constexpr std::string_view kPace = "Overall Pace";
+constexpr std::string_view kMatchups = "Computer Set Matchups";
+
+/// Sets what a caption names; false for a value that it can't have. Nothing when there is no such caption.
+std::optional<bool> SetCaption(PlanScreen& screen, const std::string& caption, int value) {
+  for (int slider = 0; slider < kSliders; ++slider) {
+    if (SameText(LabelOf(slider), caption)) return screen.SetSlider(slider, value);
+  }
+  if (SameText(kPace, caption)) return screen.SetOverallPace(value);
+  if (!SameText(kMatchups, caption)) return std::nullopt;
+  if (value == 0 || value == 1) screen.ComputerMatchupsCheck(value == 1);
+  return value == 0 || value == 1;
+}
+
+/// Carries out CAPTION=VALUE; false, told, when it says nothing that can be set.
 bool SetOne(PlanScreen& screen, const std::string& setting) {
   const auto equals = setting.find('=');
   const std::string caption = setting.substr(0, equals);
   const std::string value = equals == std::string::npos ? "" : setting.substr(equals + 1);
-  for (int slider = 0; slider < kSliders; ++slider) {
-    if (!SameText(LabelOf(slider), caption)) continue;
-    if (value.size() == 1 && screen.SetSlider(slider, value[0] - '0')) return true;
-    Refuse("\"" + setting + "\": a slider goes from 0 (least) to 4 (most)");
+  const auto set = SetCaption(screen, caption, value.size() == 1 ? value[0] - '0' : -1);
+  if (set.value_or(false)) return true;
+  if (set) {
+    Refuse("\"" + setting + "\": a setting goes from 0 (least) to 4 (most), " + std::string(kMatchups) +
+           " is 0 or 1");
     return false;
   }
-  std::string message = "no slider \"" + caption + "\"; there are:";
-  for (int slider = 0; slider < kSliders; ++slider) message += (slider ? ", " : " ") + LabelOf(slider);
+  std::string message =
+      "no setting \"" + caption + "\"; there are: " + std::string(kPace) + ", " + std::string(kMatchups);
+  for (int slider = 0; slider < kSliders; ++slider) message += ", " + LabelOf(slider);
   Refuse(message);
   return false;
 }
@@ -193,25 +210,35 @@ bool OpenPlan(PlanScreen& screen, const Roster& opponent, bool writes) {
   return false;
 }
 
+/// A setting of 0 to 4, for people with a bar and a word.
+void PrintSetting(Columns& table, std::string_view frame, std::string_view caption, int value,
+                  std::span<const std::string_view> words, const Common& common) {
+  value = Clamp(value, 0, static_cast<int>(words.size()) - 1);
+  std::vector<std::string> line{std::string(frame), std::string(caption), Str(value)};
+  if (!common.Csv) {
+    std::string bar(words.size(), '.');
+    bar[static_cast<std::size_t>(value)] = '#';
+    line.push_back(bar);
+    line.emplace_back(words[static_cast<std::size_t>(value)]);
+  }
+  table.Row(std::move(line));
+}
+
 void PrintSliders(const PlanScreen& screen, const Common& common) {
+  static constexpr std::string_view kNoYes[] = {"No", "Yes"};
   Columns table(common.Csv ? std::vector<std::string>{"Frame", "Caption", "Value"}
                            : std::vector<std::string>{"<Frame", "<Caption", "Value", "<", "<"});
   for (const std::string_view frame : {"Off", "Def Coverages", "Def Adjustments"}) {
     for (int slider = 0; slider < kSliders; ++slider) {
       const SliderCaption& c = CaptionOf(slider);
       if (!c.frame.starts_with(frame)) continue;
-      const int value = Clamp(screen.Slider(slider), 0, 4);
-      std::vector<std::string> line{std::string(c.frame), std::string(c.caption), Str(value)};
-      if (!common.Csv) {
-        std::string bar = ".....";
-        bar[static_cast<std::size_t>(value)] = '#';
-        line.push_back(bar);
-        line.emplace_back(kSliderWords[value]);
-      }
-      table.Row(std::move(line));
+      PrintSetting(table, c.frame, c.caption, screen.Slider(slider), kSliderWords, common);
     }
     if (!common.Csv) table.Rule();
   }
+  const CoachRecord& coach = screen.own.coach;
+  PrintSetting(table, "All plans", kPace, coach.OverallPace, kOverallPaceCaptions, common);
+  PrintSetting(table, "All plans", kMatchups, coach.ComputerMatchups, kNoYes, common);
   table.Print(std::cout, common.Csv);
 }
 

@@ -144,6 +144,12 @@ bool PlanScreen::SetSlider(int slider, int value) {
   return true;
 }
 
+bool PlanScreen::SetOverallPace(int value) {
+  if (value < 0 || value >= static_cast<int>(kOverallPaceCaptions.size())) return false;
+  own.coach.OverallPace = static_cast<u8>(value);
+  return true;
+}
+
 bool PlanScreen::StepCell(int slot, PlanColumn column) {
   if (!OpponentLoaded() || slot < 1 || slot > kRosterSlots || !OnTeam(*opponent, slot)) return false;
   const ManCells cells(own.coach, plan, slot);

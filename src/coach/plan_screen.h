@@ -21,6 +21,9 @@ inline constexpr std::array<std::string_view, 7> kPlanColumns{"Inside",  "Outsid
                                                               "Dbl Out", "Dbl 3",   "Usage"};
 inline constexpr std::array<std::string_view, 4> kUsageCaptions{"25%", "50%", "75%", "100%"};
 
+inline constexpr std::array<std::string_view, 5> kOverallPaceCaptions{"Very Slow", "Slow", "Average", "Fast",
+                                                                      "Very Fast"};
+
 struct PlanScreen {
   Roster& own;                       ///< the team whose coach plans
   const Roster* opponent = nullptr;  ///< the opponent of the plan, where one is loaded
@@ -42,6 +45,10 @@ struct PlanScreen {
   int Slider(int slider) const;
   /// False, and nothing changes, unless slider 0..16 and value 0..4.
   bool SetSlider(int slider, int value);
+  /// The pace that the coach likes, whoever the opponent. False, and nothing changes, unless 0..4.
+  bool SetOverallPace(int value);
+  /// "Computer Set Matchups": the computer finds the match-ups of the coach's games.
+  void ComputerMatchupsCheck(bool on) { own.coach.ComputerMatchups = on ? 1 : 0; }
   /// Steps a cell of the grid for a man of the opponent: coverage on to the next and from "Foul" to "Off",
   /// double team on and off, usage on and from "100%" to "25%". False, and nothing changes, for a slot
   /// without a man.

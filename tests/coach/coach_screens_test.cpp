@@ -214,6 +214,9 @@ TEST_F(TeamScreens, APlanIsChosenAndItsGridSteps) {
   EXPECT_EQ(own.coach.DefendUsage[10][2], 2) << "usage is left";
   EXPECT_TRUE(screen.SetSlider(15, 4));
   EXPECT_EQ(own.coach.DefAdjust5[10], 4);
+  EXPECT_TRUE(screen.SetOverallPace(4));
+  EXPECT_FALSE(screen.SetOverallPace(5) || screen.SetOverallPace(-1));
+  EXPECT_EQ(own.coach.OverallPace, 4);
   EXPECT_FALSE(screen.SetSlider(17, 0) || screen.SetSlider(-1, 0) || screen.SetSlider(0, 5));
 }
 
