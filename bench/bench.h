@@ -26,6 +26,9 @@ int Laws(std::ostream& out, const BenchOptions& options);
 /// Leagues through the decades beside their eras and the men's own seasons.
 int Realism(std::ostream& out, const BenchOptions& options);
 
+/// What interrupts games, in a hundred of them, and the share of games that men miss over a season.
+int Incidents(std::ostream& out, const BenchOptions& options);
+
 /// Heap allocations of this program so far.
 std::uint64_t Allocations();
 

@@ -3,6 +3,7 @@
 
 #include "coach/game_plan.h"
 #include "coach/substitutions.h"
+#include "engine/availability.h"
 #include "engine/chances.h"
 #include "engine/engine.h"
 #include "engine/fatigue.h"
@@ -44,13 +45,6 @@ void ClearGameLine(PlayerRecord& p) {
   p.Flagrants[3] = 0;
 }
 
-void Available(int side, int slot) {
-  const PlayerRecord& p = PlayerAt(side, slot);
-  LoadedMan& man = LoadedAt(side, slot);
-  const bool suspended = program.ReplayLocked && program.GameKind == "L" && p.SuspensionGames > 0;
-  man.PlayerOut = !OnTeam(side, slot) || p.Status == 99 || suspended ? 1 : 0;
-}
-
 }  // namespace
 
 bool LoadTeam(int teamNo, int side) {
@@ -70,9 +64,9 @@ bool LoadTeam(int teamNo, int side) {
 void ReadySide(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) game.player[side][slot] = {};
-    Available(side, slot);
     LoadedAt(side, slot).HotHand = DrawHotHand();
   }
+  SetAvailability(side);
   ShotMix(side);
   SetStints(side);
 }
