@@ -111,7 +111,7 @@ int DrawLength(int side, int slot) {
   const double owed = GamesToMiss(side, slot);
   const int left = GamesLeft(side);
   if (owed < 0.5) return 0;
-  constexpr double kChancesAMinute = 0.0013;
+  constexpr double kChancesAMinute = 0.001;
   const double chances = kChancesAMinute * std::max(6.0, RealMinutes(p));
   double risk = owed / (left + 1) / (1 + owed / 3) / chances;
   if (p.MinutesInjuryFactor > 10) risk *= p.MinutesInjuryFactor / 10.0;

@@ -150,9 +150,7 @@ void PostFlagrant(int level) {
   if (p.Flagrants[3] < 255) ++p.Flagrants[3];
   if (level == 2 && p.Stats[3].Flagrant2 < 255) ++p.Stats[3].Flagrant2;
   AddPlayLog(game.GameClock - game.PlayTime, side, slot, "", "FLAGRANT");
-  if (level < 2 && p.Flagrants[3] < 2) return;
-  game.incident.Ejected = true;
-  game.incident.Suspension = Eject(side, slot, level == 2 && league.rules.SuspensionsCheck ? Rnd(2) : 0);
+  game.incident.Ejected = level == 2 || p.Flagrants[3] >= 2;
 }
 
 }  // namespace
@@ -244,6 +242,12 @@ void FlagrantFoul() {
   game.incident.FlagrantLevel = level;
   game.incident.Reviewed = reviewed;
   if (level > 0) PostFlagrant(level);
+}
+
+void EjectFlagrantFouler() {
+  if (!game.incident.Ejected) return;
+  const bool suspended = game.play.FlagrantLevel == 2 && league.rules.SuspensionsCheck;
+  game.incident.Suspension = Eject(game.incident.Side, game.incident.Slot, suspended ? Rnd(2) : 0);
 }
 
 }  // namespace tipline

@@ -28,8 +28,10 @@ void FightBegins();
 /// The defense stood where it may not: a warning, or one free throw, by the rule and its count in this game.
 void IllegalDefenseCall();
 
-/// Behind a posted foul of the defense: sets `FlagrantLevel` of `game.play`, posts the flagrant and ejects.
-/// Nothing with the rule off or when nobody of the defense fouled in the flow of the play.
+/// Behind a posted foul of the defense: sets `FlagrantLevel` of `game.play` and posts the flagrant. Nothing
+/// with the rule off or when nobody of the defense fouled in the flow of the play.
 void FlagrantFoul();
+/// The fouler leaves when that cost him the game: once the time of the play is charged, to him too.
+void EjectFlagrantFouler();
 
 }  // namespace tipline

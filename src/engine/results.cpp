@@ -5,6 +5,7 @@
 #include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/fatigue.h"
+#include "engine/incidents.h"
 #include "engine/outcome.h"
 #include "engine/who.h"
 
@@ -144,7 +145,11 @@ void Goaltending() {
 }
 
 void Flagrant() {
+  EjectFlagrantFouler();
   game.PlayResult = "FLAGRANT";
+  game.incident.Shots = 2;
+  game.incident.ShooterSide = game.OffenseSide;
+  game.incident.Shooter = game.BallPlayer;
   game.TechnicalFreeThrow = 1;
   game.TechnicalSide = game.OffenseSide;
   GoToLine("SHOOT2");
