@@ -111,14 +111,15 @@ int DrawLength(int side, int slot) {
   const double owed = GamesToMiss(side, slot);
   const int left = GamesLeft(side);
   if (owed < 0.5) return 0;
-  constexpr double kChancesAMinute = 0.001;
+  constexpr double kChancesAMinute = 0.0009;
   const double chances = kChancesAMinute * std::max(6.0, RealMinutes(p));
-  double risk = owed / (left + 1) / (1 + owed / 3) / chances;
+  // Most injuries are over in a few games; a man who misses much of his season has long ones.
+  const bool grave = owed > 0.4 * left;
+  double risk = owed / (left + 1) / (1 + owed / (grave ? 2 : 3)) / chances;
   if (p.MinutesInjuryFactor > 10) risk *= p.MinutesInjuryFactor / 10.0;
   if (Rnd() >= risk) return 0;
-  // Most injuries are over in a few games, some take all that he will miss.
   const double r = Rnd();
-  return std::min(1 + Int(owed * r * r), left);
+  return std::min(1 + Int(owed * (grave ? r : r * r)), left);
 }
 
 /// How far the list of the men hurt today has grown, and what it spares the others.
