@@ -1,6 +1,7 @@
 #include "engine/availability.h"
 
 #include "engine/game_state.h"
+#include "league/player_values.h"
 #include "league/program.h"
 #include "league/season_date.h"
 
@@ -13,11 +14,6 @@ constexpr int kNextSeason = 12;  // a return in August is none
 SeasonDate Today() { return {game.GameMonth, game.GameDay}; }
 SeasonDate ReturnOf(const PlayerRecord& p) { return {p.InjuryReturnMonth, p.InjuryReturnDay}; }
 bool LeagueGame() { return program.ReplayLocked && program.GameKind == "L"; }
-
-int Durability(const PlayerRecord& p) {
-  const int forAll = league.rules.UniversalDurabilityList;
-  return forAll > 0 ? forAll : p.RateDurability;
-}
 
 void Heal(PlayerRecord& p) {
   p.InjuryReturnMonth = p.InjuryReturnDay = 0;

@@ -5,6 +5,7 @@
 #include "engine/execution.h"
 #include "engine/incident_steps.h"
 #include "engine/incidents.h"
+#include "league/player_values.h"
 #include "league/program.h"
 #include "league/season_date.h"
 
@@ -57,11 +58,6 @@ int CountsOut(double minutes) {
     if (base + 20 * Rnd() > minutes && Rnd(3) == 2) counts += 10;
   }
   return std::max(counts, 3);
-}
-
-int Durability(const PlayerRecord& p) {
-  const int forAll = league.rules.UniversalDurabilityList;
-  return forAll > 0 ? forAll : p.RateDurability;
 }
 
 bool Frail(int durability) { return durability <= Rnd(6) || durability <= Rnd(9) || Rnd(3) == 1; }
