@@ -7,6 +7,7 @@
 #include "engine/availability.h"
 #include "engine/eligible.h"
 #include "engine/outcome.h"
+#include "league/season_date.h"
 #include "support/neutral_game.h"
 
 namespace tipline {
@@ -132,7 +133,7 @@ TEST(TemporaryInjury, HowLongHeSits) {
     std::vector<double> counts;  // the draw, ten more, and for each of five: share, ten more
     int sits;
   } cases[] = {{"at least three", {1, 1, 0, 0, 0, 0.1, 0.2}, 3},
-               {"all there is", {25, 2, 0.99, 1, 0.99, 1, 0.99, 2, 0.99, 2, 0.99, 2}, 65},
+               {"all there is", {25, 2, 0.99, 0.99, 0.99, 2, 0.99, 2, 0.99, 2}, 65},
                {"a drawn 25 and ten", {25, 2, 0, 0, 0, 0.1, 0.2}, 35}};
   for (const auto& c : cases) {
     SetUpTwelve();
@@ -203,8 +204,8 @@ TEST(Injury, PickInjurySparesThoseItMust) {
       {"the man of the others", [] {}, true},
       {"the man with the ball", [] { game.BallPlayer = 2; }, false},
       {"a man who has just come in", [] { OMan(2).PlayerGameTime = 0; }, false},
-      {"seven must be left", [] { O().EligibleCount = 8; }, true},
-      {"six are too few", [] { O().EligibleCount = 7; }, false},
+      {"eight must be left", [] { O().EligibleCount = 9; }, true},
+      {"seven are too few", [] { O().EligibleCount = 8; }, false},
       {"ten men on the roster", [] { game.player[2][11] = game.player[2][12] = {}; }, false},
       {"ten of them active", [] { game.loaded[2][11].PlayerOut = game.loaded[2][12].PlayerOut = 1; }, false},
       {"he has missed his share", [] { OTeam().Wins = 40; }, false},
