@@ -123,8 +123,8 @@ int main(int argc, char** argv) {
     }
   }
   tipline::SeedRandom(a.common.Seed ? *a.common.Seed
-                                     : static_cast<std::uint64_t>(
-                                           std::chrono::system_clock::now().time_since_epoch().count()));
+                                    : static_cast<std::uint64_t>(
+                                          std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
   terminal.AssumeYes = a.yes;
   program.Home = platform::DataHome(a.home);

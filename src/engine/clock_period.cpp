@@ -197,8 +197,9 @@ void EndPeriod() {
 /// Free throws are still to be shot when the clock is out.
 bool FreeThrowsRemain() {
   const PlayResult& r = game.PlayResult;
-  return game.play.FlagrantLevel > 0 || IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) || r == "F1" || r == "F2" || r == "F1-1" ||
-         r == "F3-2" || r == "FTM" || r == "FTG" || r == "MF" || r == "M3F" || r == "GF" || r == "G3F";
+  return game.play.FlagrantLevel > 0 || IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) ||
+         r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "FTM" || r == "FTG" || r == "MF" ||
+         r == "M3F" || r == "GF" || r == "G3F";
 }
 
 void ClearOrders(Side& side) {

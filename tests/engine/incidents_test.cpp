@@ -55,10 +55,15 @@ void SetUpTrouble() {
 unsigned Seen(void (*change)()) {
   SetUpTrouble();
   change();
+  const Game start = game;
   unsigned seen = 0;
-  EachSeed(20000, [&] {
-    if (PlayIsInterrupted()) seen |= 1u << static_cast<int>(game.incident.Kind);
-  });
+  for (unsigned seed = 0; seed < 20000; ++seed) {
+    random.Seed(seed);
+    game.LineupAnnounced = start.LineupAnnounced;
+    if (!PlayIsInterrupted()) continue;
+    seen |= 1u << static_cast<int>(game.incident.Kind);
+    game = start;
+  }
   return seen;
 }
 
