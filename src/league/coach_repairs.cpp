@@ -61,7 +61,8 @@ struct CoachRepair {
     const std::string file = Upper(t.LogoFile.View());
     const bool path = file.find('/') != std::string::npos;
     bool known = false;
-    for (const std::string_view kind : {"WMF", "BMP", "JPG", "GIF", "JPE"}) known = known || file.ends_with(kind);
+    for (const std::string_view kind : {"WMF", "BMP", "JPG", "GIF", "JPE"})
+      known = known || file.ends_with(kind);
     if (path || !known) t.LogoFile = t.City.Str() + ".jpg";
     if (TakeMark(t.LogoYearMark, 99) && t.Year >= 2016) AssignLogo(t);
   }

@@ -44,7 +44,8 @@ void TellBadLines(const char* file, const std::vector<int>& lines) {
     text += (k ? ", " : "") + std::to_string(lines[k]);
   }
   if (lines.size() > kNamed) text += " and " + std::to_string(lines.size() - kNamed) + " more";
-  platform::dialogs().Tell(text + " can't be used and " + (lines.size() == 1 ? "is" : "are") + " passed over!");
+  platform::dialogs().Tell(text + " can't be used and " + (lines.size() == 1 ? "is" : "are") +
+                           " passed over!");
 }
 
 /// Every line behind the `header` lines: `take` says whether it can be used.

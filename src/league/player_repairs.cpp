@@ -26,7 +26,9 @@ const Row* Known(const std::map<std::string, Row, std::less<>>& table, const Pla
 }
 
 /// A surname with the initial before it, as common surnames are shown: "J,Smith".
-bool HasInitial(const PlayerRecord& p) { return p.ShortName.View().size() >= 2 && p.ShortName.View()[1] == ','; }
+bool HasInitial(const PlayerRecord& p) {
+  return p.ShortName.View().size() >= 2 && p.ShortName.View()[1] == ',';
+}
 
 struct PlayerRepair {
   PlayerRecord& p;

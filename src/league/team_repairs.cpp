@@ -9,8 +9,8 @@
 namespace tipline {
 namespace {
 
-constexpr int kMostRealGames = 100;         // more real wins or losses are rubbish
-constexpr int kMostTeamRebounds = 2000;     // of a season
+constexpr int kMostRealGames = 100;      // more real wins or losses are rubbish
+constexpr int kMostTeamRebounds = 2000;  // of a season
 constexpr int kMostTeamReboundsAGame = 30;
 constexpr int kMostPeriodPoints = 4000;
 
@@ -71,15 +71,16 @@ struct TeamRepair {
     if (!TakeMark(t.CanadaMark, 199)) return;
     constexpr std::string_view kCanadian[] = {"Canada",   "Toronto", "Montreal",  "Ottawa",
                                               "Winnipeg", "Alberta", "Vancouver", "Calgary"};
-    const bool named = std::find(std::begin(kCanadian), std::end(kCanadian), t.City.View()) != std::end(kCanadian);
+    const bool named =
+        std::find(std::begin(kCanadian), std::end(kCanadian), t.City.View()) != std::end(kCanadian);
     const CityRow* city = FindCity(t);
     t.CanadianTeam = named || (city && city->Canadian) ? 1 : 0;
   }
 
   void TeamRebounds() {
     const int games = GamesOf(t);
-    const bool tooMany = t.OppTeamRebounds > kMostTeamRebounds ||
-                         t.OppTeamRebounds > kMostTeamReboundsAGame * (games + 1);
+    const bool tooMany =
+        t.OppTeamRebounds > kMostTeamRebounds || t.OppTeamRebounds > kMostTeamReboundsAGame * (games + 1);
     if (tooMany || games == 0) t.OppTeamRebounds = 0;
   }
 

@@ -1,6 +1,6 @@
 #pragma once
-// What the record of a team lacks that an older layout wrote, and what no record may say. Each repair behind a
-// marker runs once in a record's life.
+// What the record of a team lacks that an older layout wrote, and what no record may say. Each repair behind
+// a marker runs once in a record's life.
 #include "league/coach_record.h"
 #include "league/team_record.h"
 
