@@ -8,19 +8,6 @@
 namespace tipline {
 namespace {
 
-/// What every slot must have, whether it holds a team or not.
-void RepairSlot(TeamRecord& t) {
-  if (t.Abbrev.Empty()) t.Abbrev = t.City.View().substr(0, 3);
-  if (t.Year < kFirstEraYear) t.Year = 2013;
-  if (t.HomeForeColor == 0 && t.HomeBackColor == 0) t.HomeForeColor = 0x00FFFFFF;
-  if (t.TeamType == 'D') t.RosterKind = "D";
-  if (t.TeamType != 'A' && t.TeamType != 'C' && t.TeamType != 'O') t.TeamType = "P";
-  if (t.Wins + t.Losses == 0) {
-    t.NeutralWins = t.NeutralLosses = t.DivisionWins = t.DivisionLosses = t.HomeWins = t.HomeLosses = 0;
-    t.Streak = 0;
-  }
-}
-
 bool WriteTeams(const std::set<int>& teams) {
   const RecordFile file(TeamsFile(), kTeamSlotBytes);
   const int slots = std::max(file.Count(), *teams.rbegin());
@@ -82,8 +69,9 @@ void LoadAllTeams() {
     const bool active = team.TeamActive == 1;
     if (active) RepairTeamAtOpening(team);
     RepairSlot(team);
+    if (!active) return;
     const auto now = RecordBytes(team);
-    if (active && !std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
+    if (!std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
   });
   if (!repaired.empty()) WriteTeams(repaired);
   RebuildLookups();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "league/league.h"
 #include "league/markers.h"
 #include "league/name_tables.h"
 #include "league/season_reset.h"
@@ -147,6 +148,18 @@ struct TeamRepair {
 };
 
 }  // namespace
+
+void RepairSlot(TeamRecord& t) {
+  if (t.Abbrev.Empty()) t.Abbrev = t.City.View().substr(0, 3);
+  if (t.Year < kFirstEraYear) t.Year = 2013;
+  if (t.HomeForeColor == 0 && t.HomeBackColor == 0) t.HomeForeColor = 0x00FFFFFF;
+  if (t.TeamType == 'D') t.RosterKind = "D";
+  if (t.TeamType != 'A' && t.TeamType != 'C' && t.TeamType != 'O') t.TeamType = "P";
+  if (t.Wins + t.Losses == 0) {
+    t.NeutralWins = t.NeutralLosses = t.DivisionWins = t.DivisionLosses = t.HomeWins = t.HomeLosses = 0;
+    t.Streak = 0;
+  }
+}
 
 bool RepairTeamAtOpening(TeamRecord& team) {
   const auto before = RecordBytes(team);

@@ -294,6 +294,7 @@ TEST_F(TeamScreens, PlansOfAnotherVersionAreMadeAnewOnce) {
     roster.coach.PlanVersion = static_cast<i16>(c.version);
     roster.coach.OffAdjust1[0] = static_cast<u8>(c.slider);
     roster.player[1].RotationGrid[1][1] = 1;
+    for (auto& man : roster.player) man.DepthRank = {};
     EXPECT_EQ(ReadyPlan(roster), c.changed) << c.why;
     EXPECT_EQ(roster.player[1].RotationGrid[1][1], c.anew ? 0 : 1) << c.why;
     EXPECT_EQ(roster.player[1].DepthRank[1] > 0, c.anew) << c.why;
