@@ -117,7 +117,7 @@ LeagueImage MakeSmallImage() {
   LeagueRequest request;
   request.Name = "Fuzz";
   request.Divisions = 2, request.Teams = kImageTeams;
-  request.Games = 6;
+  request.Games = 10;
   std::string message;
   if (!MakeLeague(request, message)) throw std::runtime_error(message);
   program.LeagueFolder = LeaguesFolder() / request.Name;

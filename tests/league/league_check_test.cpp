@@ -71,23 +71,26 @@ TEST_F(Doctor, NamesWhatIsWrongAndChangesNothing) {
     change(league.team[1]);
     WriteTeam(1);
   };
+  const auto put = [](const std::filesystem::path& file, const std::string& bytes) {
+    ASSERT_TRUE(WriteWholeFile(file, bytes));
+  };
   const auto man = [](auto change) {
     PlayerRecord p;
     ReadPlayer(1, p);
     change(p);
-    RecordFile(PlayersFile(), kPlayerSlotBytes).RewriteAll(PlayerRows(), [&p](int row, u8* bytes) {
+    const RecordFile file(PlayersFile(), kPlayerSlotBytes);
+    const bool written = file.RewriteAll(PlayerRows(), [&p](int row, u8* bytes) {
       if (row == 1) WriteRecord(p, bytes);
     });
+    ASSERT_TRUE(written);
   };
   const struct {
     const char* finding;
     std::function<void()> spoil;
   } cases[] = {
       {"HCPLAYER is missing", [&] { std::filesystem::remove(PlayersFile()); }},
-      {"HCgameplan has 700 bytes",
-       [&] { WriteWholeFile(CoachesFile(), ReadWholeFile(CoachesFile()).substr(0, 700)); }},
-      {"HCTEAMS ends within a record",
-       [&] { WriteWholeFile(TeamsFile(), ReadWholeFile(TeamsFile()) + "x"); }},
+      {"HCgameplan has 700 bytes", [&] { put(CoachesFile(), ReadWholeFile(CoachesFile()).substr(0, 700)); }},
+      {"HCTEAMS ends within a record", [&] { put(TeamsFile(), ReadWholeFile(TeamsFile()) + "x"); }},
       {"rules outside their lists", [&] { league.rules.MinuteList = 21, SaveRules(); }},
       {"would repair the rules", [&] { league.rules.JumpBallMark = 0, SaveRules(); }},
       {"which HCPLAYER does not have", [&] { team([](TeamRecord& t) { t.Roster[30] = 999; }); }},
@@ -98,15 +101,13 @@ TEST_F(Doctor, NamesWhatIsWrongAndChangesNothing) {
       {"would repair 1 man.", [&] { man([](PlayerRecord& p) { p.InfoMark = 0; }); }},
       {"would repair the team.", [&] { team([](TeamRecord& t) { t.LastTenMark = 0; }); }},
       {"its game plan is that of team 2",
-       [&] { WriteWholeFile(CoachesFile(), ReadWholeFile(CoachesFile()).replace(2, 1, "\2")); }},
+       [&] { put(CoachesFile(), ReadWholeFile(CoachesFile()).replace(2, 1, "\2")); }},
       {"a team that is not there",
-       [&] {
-         WriteWholeFile(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(114, 1, "\4"));
-       }},
+       [&] { put(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(114, 1, "\4")); }},
       {"1 game has no date",
-       [&] { WriteWholeFile(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(5, 1, "\77")); }},
+       [&] { put(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(5, 1, "\77")); }},
       {"days off that are no dates",
-       [&] { WriteWholeFile(DailyFile(), std::string("\x63\0\0\x07\0", 5) + std::string(495, '\0')); }},
+       [&] { put(DailyFile(), std::string("\x63\0\0\x07\0", 5) + std::string(495, '\0')); }},
   };
   const auto kept = home.Home() / "kept";
   std::filesystem::copy(folder, kept);

@@ -37,6 +37,7 @@ class Resets : public testing::Test {
     ASSERT_TRUE(SaveAllTeams());
     LoadRules();
     SaveRules();
+    LoadRules();
   }
 
   static void PutMan(int recNo, int team, const char* name, int replayGames = 3) {
@@ -188,7 +189,7 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
       EXPECT_EQ(league.ComboTeams[static_cast<int>(league.player.size()) - 1], c.text) << c.why;
     }
   }
-  OpenParts({{1, 70, 300, 1}, {1002, -30, 500}});
+  OpenParts({{1, 70, 300, 1}, {1002, -30, 500, 0, "Al", 1}});
   ComboPlayerScan();
   EXPECT_EQ(league.player.back().Stats[2].Min, 500) << "a wrong join: the longest part stands for him";
   league = {};

@@ -16,11 +16,14 @@ class Repairs : public testing::Test {
  protected:
   TemporaryLeague folder;
   platform::ScriptedDialogs dialogs;
-  TeamRecord t;
-  CoachRecord c;
-  PlayerRecord p;
+  TeamRecord team;
+  CoachRecord coach;
+  PlayerRecord man;
 
-  void SetUp() override { MakeSound(); }
+  void SetUp() override {
+    Table("VTX-Cities.csv", "");
+    MakeSound();
+  }
 
   void Table(const char* name, const std::string& text) {
     ASSERT_TRUE(WriteWholeFile(program.ProgramFolder / name, text));
@@ -28,17 +31,20 @@ class Repairs : public testing::Test {
 
   void MakeSound() {
     league.rules.SuspensionsCheck = 1;
-    t = {}, c = {}, p = {};
-    t.TeamActive = 1, t.Year = 2022, t.TeamType = "P", t.City = "Salem", t.Abbrev = "SLM",
-    t.Nickname = "Cats";
-    t.HomeForeColor = 1, t.RoadForeColor = 3, t.Wins = 2, t.LogoFile = "Salem.jpg", t.CoachName = "A Coach";
-    t.OldArenaName = "Hall";
-    p.RecNo = 5, p.TeamNo = 3, p.Year = 2022, p.PrimaryPosition = 2, p.Salary = 900, p.DebutYear = 2015;
-    p.FirstName = "Al", p.LastName = "Ames", p.ShortName = "Ames", p.OldRateDefOutside = 4;
-    p.Stats[1].G = 10, p.Stats[1].Min = 340, p.Stats[2].G = 2, p.HeightFeet = 6, p.HeightInches = 7;
-    RepairTeam(t, c), RepairCoach(c, t), RepairPlayer(p, t);
-    t.PlanMark = 9;
-    EXPECT_FALSE(RepairTeam(t, c) || RepairCoach(c, t) || RepairPlayer(p, t)) << "once is enough";
+    team = {}, coach = {}, man = {};
+    team.TeamActive = 1, team.Year = 2022, team.TeamType = "P", team.City = "Salem", team.Abbrev = "SLM",
+    team.Nickname = "Cats";
+    team.HomeForeColor = 1, team.RoadForeColor = 3, team.Wins = 2, team.LogoFile = "Salem.jpg",
+    team.CoachName = "A Coach";
+    team.OldArenaName = "Hall";
+    man.RecNo = 5, man.TeamNo = 3, man.Year = 2022, man.PrimaryPosition = 2, man.Salary = 900,
+    man.DebutYear = 2015;
+    man.FirstName = "Al", man.LastName = "Ames", man.ShortName = "Ames", man.OldRateDefOutside = 4;
+    man.Stats[1].G = 10, man.Stats[1].Min = 340, man.Stats[2].G = 2, man.HeightFeet = 6, man.HeightInches = 7;
+    RepairTeam(team, coach), RepairCoach(coach, team), RepairPlayer(man, team);
+    team.PlanMark = 9;
+    EXPECT_FALSE(RepairTeam(team, coach) || RepairCoach(coach, team) || RepairPlayer(man, team))
+        << "once is enough";
   }
 };
 
@@ -52,19 +58,19 @@ struct MarkedCase {
 
 /// With its marker a field stays; without, it is mended once.
 template <class Record, class Repair>
-void TestMarked(const Record& sound, const MarkedCase<Record>& c, Repair repair) {
+void TestMarked(const Record& sound, const MarkedCase<Record>& test, Repair repair) {
   Record marked = sound;
-  c.spoil(marked);
-  ASSERT_FALSE(c.mended(marked)) << c.why << ": the case shows nothing";
+  test.spoil(marked);
+  ASSERT_FALSE(test.mended(marked)) << test.why << ": the case shows nothing";
   repair(marked);
-  EXPECT_FALSE(c.mended(marked)) << c.why << ", marked: stays";
+  EXPECT_FALSE(test.mended(marked)) << test.why << ", marked: stays";
   Record old = sound;
-  c.spoil(old);
-  old.*c.mark = 1;
-  EXPECT_TRUE(repair(old)) << c.why;
-  EXPECT_TRUE(c.mended(old)) << c.why;
-  EXPECT_EQ(old.*c.mark, sound.*c.mark) << c.why;
-  EXPECT_FALSE(repair(old)) << c.why << ", twice";
+  test.spoil(old);
+  old.*test.mark = 1;
+  EXPECT_TRUE(repair(old)) << test.why;
+  EXPECT_TRUE(test.mended(old)) << test.why;
+  EXPECT_EQ(old.*test.mark, sound.*test.mark) << test.why;
+  EXPECT_FALSE(repair(old)) << test.why << ", twice";
 }
 
 // clang-format off
@@ -94,9 +100,9 @@ TEST_F(Repairs, OfATeamBehindMarkers) {
       {"court", &T::CourtMark, [](T&) {}, [](const T& t) { return t.CourtFile == "court.jpg"; }},
       {"court of 2013", &T::CourtYearMark, [](T& t) { t.Year = 2013, t.City = "New Bend"; }, [](const T& t) { return t.CourtFile == "VTX-Court-NewBend14.jpg"; }},
   };
-  for (const auto& k : cases) TestMarked(t, k, [this](T& team) { return RepairTeam(team, c); });
+  for (const auto& k : cases) TestMarked(team, k, [this](T& one) { return RepairTeam(one, coach); });
   const MarkedCase<T> logo{"logo", &T::LogoYearMark, [](T&) {}, [](const T& t) { return t.LogoFile == "logo.gif"; }};
-  TestMarked(t, logo, [this](T& team) { return RepairCoach(c, team); });
+  TestMarked(team, logo, [this](T& one) { return RepairCoach(coach, one); });
 }
 
 TEST_F(Repairs, OfATeamWhateverItsAge) {
@@ -120,16 +126,15 @@ TEST_F(Repairs, OfATeamWhateverItsAge) {
   };
   for (const auto& k : cases) {
     MakeSound();
-    k.spoil(t);
-    RepairTeam(t, c);
-    EXPECT_TRUE(k.holds(t)) << k.why;
-    EXPECT_FALSE(RepairTeam(t, c)) << k.why << ", twice";
+    k.spoil(team);
+    RepairTeam(team, coach);
+    EXPECT_TRUE(k.holds(team)) << k.why;
+    EXPECT_FALSE(RepairTeam(team, coach)) << k.why << ", twice";
   }
   for (const char* file : {"a.doc", "x/y.jpg", ""}) {
-    t.LogoFile = file;
-    EXPECT_TRUE(RepairCoach(c, t)) << file;
-    EXPECT_EQ(t.LogoFile, "Abc.jpg") << "the last city above";
-    t.City = "Abc";
+    team.LogoFile = file;
+    EXPECT_TRUE(RepairCoach(coach, team)) << file;
+    EXPECT_EQ(team.LogoFile, "Salem.jpg") << file;
   }
 }
 
@@ -147,12 +152,12 @@ TEST_F(Repairs, OfACoach) {
       {"coverage", &C::DefaultsMark, [](C& c) { c.Coverage5[0] = 4; }, [](const C& c) { return c.Coverage5[0] == 2; }},
       {"sixth slider", &C::DefAdjust6Mark, [](C& c) { c.DefAdjust6[10] = 4; }, [](const C& c) { return c.DefAdjust6[10] == 2; }},
   };
-  for (const auto& k : cases) TestMarked(c, k, [this](C& coach) { return RepairCoach(coach, t); });
-  c.DefAdjust6Mark = 0, c.DefAdjust6[0] = 4, c.OffAdjust1[0] = 5, c.FightSongMark = 0, c.FightSong = "song.Mp3";
-  RepairCoach(c, t);
-  EXPECT_EQ(c.DefAdjust6[0], 4) << "the general plan keeps its sixth slider";
-  EXPECT_EQ(c.OffAdjust1[0], 2) << "no slider goes above 4";
-  EXPECT_EQ(c.FightSong, "song.Mp3");
+  for (const auto& k : cases) TestMarked(coach, k, [this](C& one) { return RepairCoach(one, team); });
+  coach.DefAdjust6Mark = 0, coach.DefAdjust6[0] = 4, coach.OffAdjust1[0] = 5, coach.FightSongMark = 0, coach.FightSong = "song.Mp3";
+  RepairCoach(coach, team);
+  EXPECT_EQ(coach.DefAdjust6[0], 4) << "the general plan keeps its sixth slider";
+  EXPECT_EQ(coach.OffAdjust1[0], 2) << "no slider goes above 4";
+  EXPECT_EQ(coach.FightSong, "song.Mp3");
 }
 
 TEST_F(Repairs, OfAManBehindMarkers) {
@@ -190,10 +195,10 @@ TEST_F(Repairs, OfAManBehindMarkers) {
       {"first team", &P::OriginalTeamMark, [](P& p) { p.OriginalTeam = ""; }, [](const P& p) { return p.OriginalTeam == "SLM"; }},
       {"surname", &P::ShortNameMark, [](P& p) { p.LastName = "SMITH", p.ShortName = "SMITH"; }, [](const P& p) { return p.ShortName == "A,SMITH"; }},
   };
-  for (const auto& k : cases) TestMarked(p, k, [this](P& man) { return RepairPlayer(man, t); });
-  PlayerRecord plausible = p;
+  for (const auto& k : cases) TestMarked(man, k, [this](P& one) { return RepairPlayer(one, team); });
+  PlayerRecord plausible = man;
   plausible.SalaryModelMark = 0;
-  RepairPlayer(plausible, t);
+  RepairPlayer(plausible, team);
   EXPECT_EQ(plausible.DebutYear, 2015);
 }
 
@@ -227,27 +232,27 @@ TEST_F(Repairs, OfAManWhateverHisAge) {
   };
   for (const auto& k : cases) {
     MakeSound();
-    k.spoil(p);
-    RepairPlayer(p, t);
-    EXPECT_TRUE(k.holds(p)) << k.why;
-    EXPECT_FALSE(RepairPlayer(p, t)) << k.why << ", twice";
+    k.spoil(man);
+    RepairPlayer(man, team);
+    EXPECT_TRUE(k.holds(man)) << k.why;
+    EXPECT_FALSE(RepairPlayer(man, team)) << k.why << ", twice";
   }
-  p.SuspensionGames = 3;
+  man.SuspensionGames = 3;
   league.rules.SuspensionsCheck = 0;
-  RepairPlayer(p, t);
-  EXPECT_EQ(p.SuspensionGames, 0) << "the rules know none";
+  RepairPlayer(man, team);
+  EXPECT_EQ(man.SuspensionGames, 0) << "the rules know none";
 }
 // clang-format on
 
 TEST_F(Repairs, ARealTeamIsCopiedWhenItIsKnown) {
-  for (auto& line : t.RealTotals) line.FGA = line.FGM = line.FTA = line.FTM = 10, line.Ast = 6;
-  t.RosterKind = "D";
-  EXPECT_FALSE(RepairPlayer(p, t)) << "a draft team is nobody's real team";
-  t.RosterKind = "S";
-  EXPECT_TRUE(RepairPlayer(p, t));
-  EXPECT_EQ(p.RealTeamAst[2], 6);
-  t.RealTotals[1].FGA = 20;
-  EXPECT_FALSE(RepairPlayer(p, t)) << "copied once";
+  for (auto& line : team.RealTotals) line.FGA = line.FGM = line.FTA = line.FTM = 10, line.Ast = 6;
+  team.RosterKind = "D";
+  EXPECT_FALSE(RepairPlayer(man, team)) << "a draft team is nobody's real team";
+  team.RosterKind = "S";
+  EXPECT_TRUE(RepairPlayer(man, team));
+  EXPECT_EQ(man.RealTeamAst[2], 6);
+  team.RealTotals[1].FGA = 20;
+  EXPECT_FALSE(RepairPlayer(man, team)) << "copied once";
 }
 
 TEST(NameTables, ShippedOnesAreCopiedAndAUsersOwnStay) {
@@ -272,7 +277,7 @@ TEST(NameTables, ShippedOnesAreCopiedAndAUsersOwnStay) {
 }
 
 TEST(NameTables, AFieldIsSetByItsNameOrNotAtAll) {
-  PlayerRecord p;
+  PlayerRecord man;
   const struct {
     const char *field, *value;
     bool set;
@@ -280,9 +285,9 @@ TEST(NameTables, AFieldIsSetByItsNameOrNotAtAll) {
                {"StartMonth", "5x", false},    {"Real.FGA", "-32769", false}, {"Real.FGA", "612", true},
                {"College", "Bend", true},      {"RecNo", "4", false},         {"TeamNo", "4", false},
                {"PositionText", "SGX", false}, {"Nonsense", "1", false},      {"Stats", "1", false}};
-  for (const auto& c : cases) EXPECT_EQ(SetField(p, c.field, c.value), c.set) << c.field << " " << c.value;
-  EXPECT_EQ(p.StartMonth, 5);
-  EXPECT_EQ(p.Stats[1].FGA, 612);
+  for (const auto& c : cases) EXPECT_EQ(SetField(man, c.field, c.value), c.set) << c.field << " " << c.value;
+  EXPECT_EQ(man.StartMonth, 5);
+  EXPECT_EQ(man.Stats[1].FGA, 612);
 }
 
 }  // namespace
