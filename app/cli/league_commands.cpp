@@ -121,11 +121,6 @@ bool OpenTheLeague(const Common& common) {
   return true;
 }
 
-std::string TeamName(const TeamRecord& team) {
-  if (team.Nickname.Empty() || team.Nickname == team.City) return team.City.Str();
-  return team.City.Str() + " " + team.Nickname.Str();
-}
-
 int FindTeam(const std::string& text) {
   std::vector<int> found;
   for (int t = 1; t <= kTeams; ++t) {
@@ -224,7 +219,7 @@ int Dump(const std::string& file, int record, const Common& common) {
   if (era && !LoadEra() && !MakeEraFile()) return 1;
   if (!DumpRecord(file, record, std::cout)) {
     return Refuse("no record " + Str(record) + " of a file \"" + file +
-                  "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES and Basketball-Era.dat");
+                  "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily and Basketball-Era.dat");
   }
   return 0;
 }

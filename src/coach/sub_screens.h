@@ -1,9 +1,16 @@
 #pragma once
 // The panels in which a human coach makes his substitutions, at a stop. Nothing changes in the game before
 // Ok.
+#include <array>
+#include <string_view>
+
 #include "engine/game_state.h"
 
 namespace tipline {
+
+inline constexpr std::array<std::string_view, 8> kQuickLineups{
+    "Enter Starters",    "Blowout Lineup",   "Offense Lineup", "Three Point Lineup",
+    "Free Throw Lineup", "Fastbreak Lineup", "Defense Lineup", "Press Lineup"};
 
 /// The sub panel of a whole team.
 struct HCQUICKSUB {
@@ -16,6 +23,11 @@ struct HCQUICKSUB {
   /// there. False, with its message, when nobody fit to play is chosen, or when the side's substitution
   /// settings keep a tired man or one in foul trouble off.
   bool PutIn(int position, int slot);
+  /// Puts one of the special lineups in: 0 the starters by the depth chart, 1 to 7 as `kQuickLineups` names
+  /// them. Who may not appear is left out, for a starter the next of his position comes in; a position that
+  /// nobody is left for keeps its man. False, and nothing changes, for another index or when the lineup names
+  /// nobody who may appear.
+  bool QuickLineup(int index);
   /// Takes the five into the game. False, with its message, when a spot is empty or the free-throw shooter is
   /// missing.
   bool Ok();

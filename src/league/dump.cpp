@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/record_file.h"
+#include "league/daily.h"
 #include "league/files.h"
 #include "league/schedule.h"
 #include "league/setup.h"
@@ -241,6 +242,7 @@ const FileFormat kFormats[] = {
                         "2 records: 1 the rules, below; 2 the pools of the tournament"),
     Format<ScheduleRecord>(kDefaultScheduleFile, DefaultSchedule, kScheduleSlotBytes,
                            "as many records as there are games; the rules name the file"),
+    Format<DailyRecord>("HcDaily", DailyFile, kDailySlotBytes, "record number = RecNo of the player"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
     Format<SetupRecord>("HcSetup2023.dat", SetupFile, kSetupSlotBytes, "1 record: the user's preferences"),
