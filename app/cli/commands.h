@@ -34,7 +34,4 @@ int FindTeam(const std::string& text);
 /// City and nickname, the city alone where both are the same.
 std::string TeamName(const TeamRecord& team);
 
-/// The game just played, as a fan reads it: periods, every man's line, what else there is to tell.
-void PrintBox(std::ostream& out);
-
 }  // namespace tipline::cli

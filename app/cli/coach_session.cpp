@@ -1,0 +1,147 @@
+#include "cli/coach_session.h"
+
+#include "cli/box_score.h"
+#include "cli/coach_commands.h"
+#include "cli/coach_events.h"
+#include "cli/coach_screen.h"
+#include "engine/engine.h"
+#include "engine/game_state.h"
+
+namespace tipline::cli {
+namespace {
+
+constexpr std::size_t kScreenWidth = 79;
+
+/// What a line without a word means: go on where that is open, else the plain thing to do.
+std::string_view PlainCommand() {
+  if (CanContinue()) return "continue";
+  if (game.GameState == "FREETHROW-SHOOT") return "shoot";
+  return game.GameState == "DEFENSE-CALL" ? "def normal" : "computer";
+}
+
+}  // namespace
+
+CoachSession::CoachSession(std::istream& in, std::ostream& out, std::ostream& err, Manner manner)
+    : in_(in), out_(out), err_(err), manner_(manner), before_(platform::dialogs()) {
+  platform::UseDialogs(this);
+}
+
+CoachSession::~CoachSession() { platform::UseDialogs(&before_); }
+
+int CoachSession::Side() const { return game.ActingSide; }
+
+void CoachSession::Say(std::string_view line) {
+  std::string_view indent;
+  while (line.size() + indent.size() > kScreenWidth) {
+    const std::size_t room = kScreenWidth - indent.size();
+    std::size_t cut = line.rfind(' ', room);
+    if (cut == std::string_view::npos || cut < room / 2) cut = room;
+    out_ << indent << line.substr(0, cut) << '\n';
+    line.remove_prefix(cut);
+    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+    indent = "    ";
+  }
+  out_ << indent << line << '\n';
+}
+
+void CoachSession::Tell(std::string_view message, std::string_view) {
+  refused_ = true;
+  out_.flush();
+  err_ << message << std::endl;
+}
+
+Answer CoachSession::Refuse(std::string_view reason) {
+  Tell(reason, "");
+  return Answer::kRefused;
+}
+
+bool CoachSession::Ask(std::string_view question, std::string_view) {
+  const auto line = NextLine(std::string(question) + " [y/n] ");
+  const std::string answer = line ? Squeezed(*line) : "";
+  if (answer == "y" || answer == "yes") return true;
+  refused_ = true;
+  if (!answer.empty() && answer != "n" && answer != "no") kept_ = line;
+  return false;
+}
+
+std::optional<std::string> CoachSession::NextLine(std::string_view prompt) {
+  if (kept_) {
+    const std::string line = *kept_;
+    kept_.reset();
+    return line;
+  }
+  out_ << prompt << std::flush;
+  std::string line;
+  if (!std::getline(in_, line)) {
+    out_ << '\n';
+    return std::nullopt;
+  }
+  if (!manner_.prompt) out_ << line << '\n';
+  return line;
+}
+
+void CoachSession::TellPeriodEnd(int period) {
+  out_ << '\n';
+  PrintPeriods(out_, period);
+}
+
+void CoachSession::TellSinceLastStop() {
+  if (toldRows_ < game.PlayLogCount) out_ << '\n';
+  while (toldRows_ < game.PlayLogCount) {
+    const PlayLogRow& row = game.PlayLog[++toldRows_];
+    for (; toldPeriod_ < row.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
+    Say(EventLine(row));
+  }
+  for (; toldPeriod_ < game.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
+}
+
+void CoachSession::ShowTheStop() {
+  const std::string score = ScoreLine();
+  out_ << '\n' << (manner_.bold ? "\033[1m" + score + "\033[0m" : score) << '\n';
+  PrintFloor(out_);
+  const bool both = game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H";
+  Say((both ? "[" + game.team[Side()].Abbrev.Str() + "] " : "") + Prompt());
+  if (firstStop_) Say("An empty line does the plain thing; help lists what you can say.");
+  firstStop_ = false;
+}
+
+Answer CoachSession::Obey(const std::string& line) {
+  Words words = SplitWords(line);
+  if (words.empty()) words = SplitWords(PlainCommand());
+  const Command* command = FindCommand(words[0]);
+  if (!command) return Refuse("There is no command \"" + words[0] + "\". " + OpenCommands());
+  if (!command->open()) return Refuse("Not at this stop: " + std::string(command->name) + ". " + OpenCommands());
+  words.erase(words.begin());
+  refused_ = false;
+  return command->run(*this, words);
+}
+
+Answer CoachSession::TakeCommand() {
+  const auto line = NextLine("> ");
+  if (line) return Obey(*line);
+  HandOver();
+  return Answer::kGoesOn;
+}
+
+void CoachSession::HandOver() {
+  Say("That was the last word: the computer coaches on.");
+  for (tipline::Side& side : game.side) side.CoachMode = "C";
+  SetPlayBox();
+}
+
+bool CoachSession::Run() {
+  NewGame();
+  while (!game.GameOver) {
+    TellSinceLastStop();
+    ShowTheStop();
+    Answer answer;
+    do {
+      answer = TakeCommand();
+    } while (answer == Answer::kStays || answer == Answer::kRefused);
+    if (answer == Answer::kQuits) return false;
+  }
+  TellSinceLastStop();
+  return true;
+}
+
+}  // namespace tipline::cli
