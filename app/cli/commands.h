@@ -31,7 +31,5 @@ bool OpenTheLeague(const Common& common);
 /// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no
 /// team or more than one.
 int FindTeam(const std::string& text);
-/// City and nickname, the city alone where both are the same.
-std::string TeamName(const TeamRecord& team);
 
 }  // namespace tipline::cli

@@ -121,11 +121,6 @@ bool OpenTheLeague(const Common& common) {
   return true;
 }
 
-std::string TeamName(const TeamRecord& team) {
-  if (team.Nickname.Empty() || team.Nickname == team.City) return team.City.Str();
-  return team.City.Str() + " " + team.Nickname.Str();
-}
-
 int FindTeam(const std::string& text) {
   std::vector<int> found;
   for (int t = 1; t <= kTeams; ++t) {

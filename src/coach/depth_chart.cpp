@@ -8,10 +8,6 @@ namespace {
 constexpr int kRanks = 6;
 constexpr int kSpecialLineups = 7;
 
-bool OnTeam(const Roster& roster, int slot) {
-  return roster.player[slot].RecNo != 0 && roster.player[slot].TeamNo == roster.TeamNo;
-}
-
 double MinutesPerGame(const PlayerRecord& player) {
   const StatLine& real = player.Stats[1];
   return real.G > 0 ? static_cast<double>(real.Min) / real.G : 0;

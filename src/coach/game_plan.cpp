@@ -1,35 +1,13 @@
 #include "coach/game_plan.h"
 
+#include <array>
+
 #include "base/numbers.h"
 
 namespace tipline {
 namespace {
 
 constexpr u8 kNeutral = 2;
-constexpr u8 kNormalCoverage = 3;
-
-void ClearPlayerDefense(CoachRecord& coach, int plan) {
-  coach.DefendInside[plan].Fill(kNormalCoverage);
-  coach.DefendOutside[plan].Fill(kNormalCoverage);
-  coach.DefendThree[plan].Fill(kNormalCoverage);
-  coach.DoubleInside[plan].Fill(0);
-  coach.DoubleOutside[plan].Fill(0);
-  coach.DoubleThree[plan].Fill(0);
-  coach.DefendUsage[plan].Fill(0);
-}
-
-void SetNeutral(CoachRecord& c, int plan) {
-  for (auto* slider :
-       {&c.Coverage1, &c.Coverage2, &c.Coverage3, &c.Coverage4, &c.Coverage5, &c.OffAdjust1, &c.OffAdjust2,
-        &c.OffAdjust3, &c.OffAdjust4, &c.OffAdjust5, &c.OffAdjust6, &c.DefAdjust1, &c.DefAdjust2,
-        &c.DefAdjust3, &c.DefAdjust4, &c.DefAdjust5, &c.DefAdjust6}) {
-    (*slider)[plan] = kNeutral;
-  }
-}
-
-bool OnTeam(const Roster& roster, int slot) {
-  return roster.player[slot].RecNo != 0 && roster.player[slot].TeamNo == roster.TeamNo;
-}
 
 /// Ball hawks at guard count double.
 double PressBase(const Roster& roster, double x) {
@@ -53,6 +31,24 @@ double Lean(const Roster& roster, double x, u8 PlayerRecord::*rating) {
 
 }  // namespace
 
+Table<u8, 0, 10> CoachRecord::*SliderField(int slider) {
+  using C = CoachRecord;
+  static constexpr std::array<Table<u8, 0, 10> C::*, kSliders> kFields{
+      &C::Coverage1,  &C::Coverage2,  &C::Coverage3,  &C::Coverage4,  &C::Coverage5,  &C::OffAdjust1,
+      &C::OffAdjust2, &C::OffAdjust3, &C::OffAdjust4, &C::OffAdjust5, &C::OffAdjust6, &C::DefAdjust1,
+      &C::DefAdjust2, &C::DefAdjust3, &C::DefAdjust4, &C::DefAdjust5, &C::DefAdjust6};
+  return kFields[static_cast<std::size_t>(slider)];
+}
+
+void NormalCoverage(CoachRecord& coach, int plan) {
+  for (auto* coverage : {&coach.DefendInside, &coach.DefendOutside, &coach.DefendThree}) {
+    (*coverage)[plan].Fill(3);
+  }
+  for (auto* doubled : {&coach.DoubleInside, &coach.DoubleOutside, &coach.DoubleThree}) {
+    (*doubled)[plan].Fill(0);
+  }
+}
+
 int PlanAgainst(const CoachRecord& coach, int opponent) {
   for (int plan = 1; plan <= 10; ++plan) {
     if (coach.PlanOpponent[plan] == opponent && opponent != 0) return plan;
@@ -64,8 +60,11 @@ void SetDefaultPlanSliders(Roster& roster, bool keepPlayerDefense) {
   CoachRecord& coach = roster.coach;
   double x = 0;  // carried from plan to plan
   for (int plan = 0; plan <= 10; ++plan) {
-    if (!keepPlayerDefense) ClearPlayerDefense(coach, plan);
-    SetNeutral(coach, plan);
+    if (!keepPlayerDefense) {
+      NormalCoverage(coach, plan);
+      coach.DefendUsage[plan].Fill(0);
+    }
+    for (int slider = 0; slider < kSliders; ++slider) (coach.*SliderField(slider))[plan] = kNeutral;
     const auto lean = [&](Table<u8, 0, 10>& slider, double start, u8 PlayerRecord::*rating) {
       x = Lean(roster, start, rating);
       slider[plan] = static_cast<u8>(Round(x));

@@ -5,11 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "league/roster.h"
+#include "coach/game_plan.h"
 
 namespace tipline {
 
-inline constexpr int kSliders = 17;
 struct SliderCaption {
   std::string_view frame, caption;
 };
@@ -34,14 +33,20 @@ struct PlanScreen {
   std::vector<std::string> GamePlanList() const;
   /// "Game Plan vs " and the opponent.
   std::string Title() const;
-  /// Names the opponent of the plan on the screen; 0 empties it. False, with its message, for the general plan;
-  /// false for a slot that holds no team.
+  /// Names the opponent of the plan on the screen; 0 empties it. False, with its message, for the general
+  /// plan; false for a slot that holds no team.
   bool ChooseOpponent(int teamNo);
+  /// `opponent` is the team that the plan on the screen is written against: its men can be covered.
+  bool OpponentLoaded() const;
+  /// Value of slider 0 to 16.
   int Slider(int slider) const;
   /// False, and nothing changes, unless slider 0..16 and value 0..4.
   bool SetSlider(int slider, int value);
-  /// Steps a cell of the grid for a man of the opponent. False for a slot without a man.
+  /// Steps a cell of the grid for a man of the opponent: coverage on to the next and from "Foul" to "Off",
+  /// double team on and off, usage on and from "100%" to "25%". False, and nothing changes, for a slot
+  /// without a man.
   bool StepCell(int slot, PlanColumn column);
+  /// Every man of the plan is covered as usual, nobody doubled; the usage stays.
   void ClearPlayerDefense();
   /// The computer's own plan, sliders and, where the opponent is loaded, grid. Draws.
   void ComputerGamePlan();

@@ -18,6 +18,11 @@ constexpr int kSecondBlockTeams = 8;
 
 }  // namespace
 
+std::string TeamName(const TeamRecord& team) {
+  if (team.Nickname.Empty() || team.Nickname == team.City) return team.City.Str();
+  return team.City.Str() + " " + team.Nickname.Str();
+}
+
 int DivisionOf(int team) {
   if (team < 1 || team > kTeams) return 0;
   if (team <= kFirstBlock) return (team - 1) / kFirstBlockTeams + 1;

@@ -55,6 +55,8 @@ struct League {
 
 extern League league;
 
+/// City and nickname, the city alone where both are the same.
+std::string TeamName(const TeamRecord& team);
 /// Division 1 to 36 of team slot 1 to 720; 0 for any other number.
 int DivisionOf(int team);
 /// Conference of a team by the lookup; 0 for a number outside 1 to 720.

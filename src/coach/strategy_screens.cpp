@@ -1,0 +1,172 @@
+#include "coach/strategy_screens.h"
+
+#include <algorithm>
+
+#include "coach/computer_coach.h"
+#include "platform/dialogs.h"
+
+namespace tipline {
+namespace {
+
+using Caption = std::string_view;
+constexpr Caption kTypes[] = {"Man", "2-1-2 Zone", "2-3 Zone", "3-2 Zone"};
+constexpr Caption kHelps[] = {"Normal", "Inside", "Outside", "Strong Inside", "Strong Outside"};
+constexpr Caption kPressures[] = {"None", "Halfcourt Trap", "Halfcourt Pressure", "Fullcourt Trap",
+                                  "Fullcourt Pressure"};
+constexpr Caption kPaces[] = {"Very Slow", "Slow", "Normal", "Fast", "Very Fast"};
+constexpr Caption kInsideMen[] = {"0 Players", "0-1 Players", "1 Player", "1-2 Players", "2 Players"};
+constexpr Caption kCrash[] = {"Normal", "Strong", "Light"};
+
+constexpr int kWorstFreeThrowShooter = 3;  // a foul order that only the computer gives
+
+int& Setting(int side, StrategyList list) {
+  Side& s = game.side[side];
+  switch (list) {
+    case StrategyList::kHelp:
+      return s.DefenseHelp;
+    case StrategyList::kPressure:
+      return s.Pressure;
+    case StrategyList::kPace:
+      return s.OffensePace;
+    case StrategyList::kInsideOffense:
+      return s.InsideOffense;
+    case StrategyList::kCrashOffense:
+      return s.CrashBoardsOffense;
+    case StrategyList::kCrashDefense:
+      return s.CrashBoardsDefense;
+    default:
+      return s.DefenseType;
+  }
+}
+
+int& CoverageOf(Man& man, Zone zone) {
+  return zone == Zone::kInside    ? man.CoverageInside
+         : zone == Zone::kOutside ? man.CoverageOutside
+                                  : man.CoverageThree;
+}
+
+int& DoubleOf(Man& man, Zone zone) {
+  return zone == Zone::kInside    ? man.DoubleTeamInside
+         : zone == Zone::kOutside ? man.DoubleTeamOutside
+                                  : man.DoubleTeamThree;
+}
+
+bool HasMan(int side, int slot) { return slot >= 1 && slot <= kRosterSlots && OnTeam(side, slot); }
+
+}  // namespace
+
+std::span<const std::string_view> StrategyCaptions(StrategyList list) {
+  switch (list) {
+    case StrategyList::kHelp:
+      return kHelps;
+    case StrategyList::kPressure:
+      return kPressures;
+    case StrategyList::kPace:
+      return kPaces;
+    case StrategyList::kInsideOffense:
+      return kInsideMen;
+    case StrategyList::kCrashOffense:
+    case StrategyList::kCrashDefense:
+      return kCrash;
+    default:
+      return std::span(kTypes).first(league.rules.ZoneLegalCheck ? std::size(kTypes) : 1);
+  }
+}
+
+int StrategyValue(int side, StrategyList list) { return Setting(side, list); }
+
+bool SetStrategy(int side, StrategyList list, int value) {
+  if (value < 0 || value >= static_cast<int>(StrategyCaptions(list).size())) return false;
+  Setting(side, list) = value;
+  return true;
+}
+
+std::string QuickStrategy::Title() const { return TeamName(game.team[side]) + " Strategy"; }
+void QuickStrategy::UseRotationGridCheck(bool on) { game.side[side].UseRotationGrid = on; }
+void QuickStrategy::AutoSubWhenTiredCheck(bool on) { game.side[side].AutoSubWhenTired = on; }
+void QuickStrategy::AutoSubWhenFoulTroubleCheck(bool on) { game.side[side].AutoSubWhenFoulTrouble = on; }
+
+DefenseScreen::DefenseScreen(int forSide) : side(forSide) {
+  const Side& s = game.side[side];
+  StoredMatchup = s.StoredMatchup;
+  ComputerMatchups = game.coach[side].ComputerMatchups == 1;
+  UseRotationGridCheck = s.UseRotationGrid == 1;
+  AutoSubWhenTiredCheck = s.AutoSubWhenTired == 1;
+  AutoSubWhenFoulTroubleCheck = s.AutoSubWhenFoulTrouble == 1;
+  LastShotCheck = s.LastShot == 1;
+  QuickShotCheck = s.QuickShot == 1;
+  NoFoulCheck = s.NoFoul == 1;
+  StealFoulCheck = s.StealFoul == 1;
+  TimeoutDefenseCheck = s.TimeoutDefense == 1;
+  TimeoutOffenseCheck = s.TimeoutOffense == 1;
+  QuickFoulList = Clamp(s.QuickFoul, 0, 2);
+}
+
+void DefenseScreen::ComputerSuggestMatchupsCommand() {
+  Table<int, 1, kPositions>& inForce = game.side[side].StoredMatchup;
+  const Table<int, 1, kPositions> kept = inForce;
+  ComputerSetMatchups(side);
+  StoredMatchup = inForce;
+  inForce = kept;  // a suggestion holds once it is saved
+}
+
+void DefenseScreen::ComputerCallCommand() {
+  ComputerDefenseCall(side);
+  QuickFoulList = Clamp(game.side[side].QuickFoul, 0, 2);  // the call decides on fouling, too
+}
+
+bool DefenseScreen::SetCoverage(int slot, Zone zone, int coverage) {
+  if (!HasMan(3 - side, slot) || coverage < 1 || coverage > static_cast<int>(kCoverageCaptions.size())) {
+    return false;
+  }
+  CoverageOf(ManAt(3 - side, slot), zone) = coverage;
+  return true;
+}
+
+bool DefenseScreen::SetDoubleTeam(int slot, Zone zone, bool doubled) {
+  if (!HasMan(3 - side, slot)) return false;
+  DoubleOf(ManAt(3 - side, slot), zone) = doubled;
+  return true;
+}
+
+bool DefenseScreen::StepGlobalOffense(int slot) {
+  if (!HasMan(side, slot)) return false;
+  int& order = ManAt(side, slot).GlobalOffense;
+  order = order >= kThree ? 0 : order + 1;
+  if (order == kThree && !league.rules.ThreePointCheck) order = 0;
+  return true;
+}
+
+bool DefenseScreen::StepSafeStyle(int slot) {
+  if (!HasMan(side, slot)) return false;
+  int& safe = ManAt(side, slot).SafeStyle;
+  safe = safe == 0 ? 1 : 0;
+  return true;
+}
+
+bool DefenseScreen::SaveDefenseScreen() {
+  for (int own = 1; own <= kPositions; ++own) {
+    if (std::find(StoredMatchup.begin(), StoredMatchup.end(), own) != StoredMatchup.end()) continue;
+    platform::dialogs().Tell("Each position must be defended..check the Defensive Matchups Grid");
+    return false;
+  }
+  // No copy of the coverage is taken here: the one play whose call departs from it takes its own.
+  Side& s = game.side[side];
+  s.StoredMatchup = StoredMatchup;
+  game.coach[side].ComputerMatchups = ComputerMatchups;
+  s.UseRotationGrid = UseRotationGridCheck;
+  s.AutoSubWhenTired = AutoSubWhenTiredCheck;
+  s.AutoSubWhenFoulTrouble = AutoSubWhenFoulTroubleCheck;
+  s.LastShot = LastShotCheck;
+  s.QuickShot = QuickShotCheck;
+  s.NoFoul = NoFoulCheck;
+  s.StealFoul = StealFoulCheck;
+  s.TimeoutDefense = TimeoutDefenseCheck;
+  s.TimeoutOffense = TimeoutOffenseCheck;
+  // The list shows the computer's order against one man as "Poor Shooter"; left alone, it stays his.
+  const bool leftAlone = s.QuickFoul == kWorstFreeThrowShooter && QuickFoulList == 2;
+  if (!leftAlone) s.QuickFoul = Clamp(QuickFoulList, 0, 2);
+  return true;
+}
+
+}  // namespace tipline
