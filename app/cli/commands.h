@@ -16,12 +16,18 @@ struct Common {
   bool Csv = false;
 };
 
+struct PlayRequest {
+  std::string Visitor, Home;   ///< number, abbreviation, city or nickname
+  std::string Coach = "none";  ///< who is coached by the user: "none", "visitor", "home", "both"
+  std::string Calls = "";      ///< how often he is asked: "none", "default", "all", "" by his preferences
+};
+
 int NewLeague(LeagueRequest request, const Common& common);
 int ShowTeams(const Common& common);
 /// `view`: "stats" (this season), "real" or "ratings".
 int ShowRoster(const std::string& team, const std::string& view, const Common& common);
 int RateTeams(const std::string& team, bool all, const Common& common);
-int PlayExhibition(const std::string& visitor, const std::string& home, const Common& common);
+int PlayExhibition(const PlayRequest& request, const Common& common);
 int Dump(const std::string& file, int record, const Common& common);
 /// What ./run does without arguments: a league is made where there is none, then the menu or one game.
 int Start(const Common& common);
