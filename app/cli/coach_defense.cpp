@@ -37,7 +37,9 @@ int ZoneAt(const Words& words, std::size_t& at) {
 }
 
 std::string CoverageText(int coverage) {
-  return coverage >= 1 && coverage <= 6 ? std::string(kCoverageCaptions[static_cast<std::size_t>(coverage - 1)]) : "";
+  return coverage >= 1 && coverage <= 6
+             ? std::string(kCoverageCaptions[static_cast<std::size_t>(coverage - 1)])
+             : "";
 }
 
 /// "Tight*": how a man is covered, with a mark where he is doubled.
@@ -78,8 +80,9 @@ Answer SaveMatchups(CoachSession& session, DefenseScreen& screen) {
   if (!screen.SaveDefenseScreen()) return Answer::kRefused;
   std::string text = "Match-ups:";
   for (int p = 1; p <= kPositions; ++p) {
-    text += (p > 1 ? ", " : " ") + ManName(session.Side(), game.side[session.Side()].Lineup[screen.StoredMatchup[p]]) +
-            " on " + ManName(3 - session.Side(), game.side[3 - session.Side()].Lineup[p]);
+    text += (p > 1 ? ", " : " ") +
+            ManName(session.Side(), game.side[session.Side()].Lineup[screen.StoredMatchup[p]]) + " on " +
+            ManName(3 - session.Side(), game.side[3 - session.Side()].Lineup[p]);
   }
   session.Say(text + ".");
   return Answer::kStays;
@@ -92,7 +95,8 @@ Answer MatchOne(CoachSession& session, DefenseScreen& screen, const Words& words
   const Found defender = FindPosition(session.Side(), words[1]);
   if (defender.value == 0) return session.Refuse(defender.fault);
   for (int p = 1; p <= kPositions; ++p) {
-    if (screen.StoredMatchup[p] == defender.value) screen.StoredMatchup[p] = screen.StoredMatchup[attacker.value];
+    if (screen.StoredMatchup[p] == defender.value)
+      screen.StoredMatchup[p] = screen.StoredMatchup[attacker.value];
   }
   screen.StoredMatchup[attacker.value] = defender.value;
   return SaveMatchups(session, screen);
@@ -130,7 +134,8 @@ void ShowPlan(CoachSession& session, const PlanScreen& screen) {
   Columns table({"", "<Slider", "0-4", "<"});
   for (int slider = 0; slider < kSliders; ++slider) {
     const SliderCaption& caption = CaptionOf(slider);
-    table.Row({Str(slider), std::string(caption.caption), Str(screen.Slider(slider)), std::string(caption.frame)});
+    table.Row(
+        {Str(slider), std::string(caption.caption), Str(screen.Slider(slider)), std::string(caption.frame)});
   }
   table.Print(session.Out(), false);
 }
@@ -168,8 +173,9 @@ Answer PlanSlider(CoachSession& session, PlanScreen& screen, const Words& words)
   const std::string said = Joined(words, 0, words.size() - 1);
   const int slider = SliderOf(said);
   if (slider < 0) {
-    return session.Refuse(std::string(slider == kSeveral ? "More than one slider is called" : "There is no slider") +
-                          " \"" + said + "\"; plan lists them with their numbers.");
+    return session.Refuse(
+        std::string(slider == kSeveral ? "More than one slider is called" : "There is no slider") + " \"" +
+        said + "\"; plan lists them with their numbers.");
   }
   const std::string& value = words.back();
   if (value.size() != 1 || !screen.SetSlider(slider, value[0] - '0'))
@@ -219,7 +225,8 @@ Answer DoMatch(CoachSession& session, const Words& words) {
 
 Answer DoCover(CoachSession& session, const Words& words) {
   const int coverage = words.empty() ? kNoChoice : ChoiceOf(words.back(), kCoverageCaptions);
-  if (words.size() < 2 || coverage < 0) return session.Refuse("cover WHO ZONE " + Listed(kCoverageCaptions) + ".");
+  if (words.size() < 2 || coverage < 0)
+    return session.Refuse("cover WHO ZONE " + Listed(kCoverageCaptions) + ".");
   std::size_t end = words.size() - 1;
   const int zone = ZoneAt(words, end);
   const Found man = FindMan(3 - session.Side(), Joined(words, 0, end));
@@ -227,8 +234,8 @@ Answer DoCover(CoachSession& session, const Words& words) {
   DefenseScreen screen(session.Side());
   InZones(zone, [&](Zone z) { screen.SetCoverage(man.value, z, coverage + 1); });
   session.Say(ManName(3 - session.Side(), man.value) + " is covered " +
-              (zone == kAllZones ? "everywhere" : std::string(kZones[static_cast<std::size_t>(zone)])) + ": " +
-              CoverageText(coverage + 1) + ".");
+              (zone == kAllZones ? "everywhere" : std::string(kZones[static_cast<std::size_t>(zone)])) +
+              ": " + CoverageText(coverage + 1) + ".");
   return Answer::kStays;
 }
 
@@ -251,14 +258,15 @@ Answer DoOrder(CoachSession& session, const Words& words) {
   constexpr std::array<std::string_view, 4> kOrders{"normal", "inside", "outside", "three"};
   const int order = words.size() < 2 ? kNoChoice : ChoiceOf(words.back(), kOrders);
   if (order < 0) return session.Refuse("order WHO " + Listed(kOrders) + ".");
-  if (order == kThree && !league.rules.ThreePointCheck) return session.Refuse("There is no three in this game.");
+  if (order == kThree && !league.rules.ThreePointCheck)
+    return session.Refuse("There is no three in this game.");
   const Found man = FindMan(session.Side(), Joined(words, 0, words.size() - 1));
   if (man.value == 0) return session.Refuse(man.fault);
   DefenseScreen screen(session.Side());
   for (int step = 0; step < 4 && ManAt(session.Side(), man.value).GlobalOffense != order; ++step)
     screen.StepGlobalOffense(man.value);
-  session.Say(ManName(session.Side(), man.value) + " is told to shoot: " +
-              std::string(kOrders[static_cast<std::size_t>(order)]) + ".");
+  session.Say(ManName(session.Side(), man.value) +
+              " is told to shoot: " + std::string(kOrders[static_cast<std::size_t>(order)]) + ".");
   return Answer::kStays;
 }
 

@@ -63,7 +63,8 @@ std::string What(const PlayLogRow& row) {
   if (r == "G") return " scores" + std::string(How(row.Action));
   if (r == "GF") return " scores" + std::string(How(row.Action)) + " and is fouled";
   if (r == "M") return " misses" + std::string(How(row.Action));
-  if (r == "MF") return " is fouled" + std::string(row.Action == "INSIDE" ? " shooting inside" : How(row.Action));
+  if (r == "MF")
+    return " is fouled" + std::string(row.Action == "INSIDE" ? " shooting inside" : How(row.Action));
   if (r == "TIMEOUT") return row.Note == kMediaTimeout ? "~media timeout" : "~timeout";
   if (IsFloorFoul(r)) return " is fouled";
   for (const Sentence& s : kSentences) {
@@ -84,7 +85,8 @@ std::string Helped(const PlayLogRow& row) {
       return ", stolen by " + name;
     case kFouledBy:
       if (row.OtherSide == row.Side && row.OtherSlot == row.Slot) return "";
-      return row.Outcome == "M" || row.Outcome == "M3" ? "; " + name + " fouls under the basket" : " by " + name;
+      return row.Outcome == "M" || row.Outcome == "M3" ? "; " + name + " fouls under the basket"
+                                                       : " by " + name;
     default:
       return "";
   }

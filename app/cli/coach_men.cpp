@@ -40,8 +40,10 @@ Answer SubOne(CoachSession& session, const Words& words) {
   const bool wasIn = PositionOf(side, man.value) > 0;
   HCquickOnePlayerSub panel{side, position.value};
   if (!panel.Choose(man.value)) return Answer::kRefused;
-  session.Say(ManName(side, man.value) + (wasIn || out == 0 ? " plays position " + std::to_string(position.value)
-                                                            : " comes in for " + ManName(side, out)) + ".");
+  session.Say(ManName(side, man.value) +
+              (wasIn || out == 0 ? " plays position " + std::to_string(position.value)
+                                 : " comes in for " + ManName(side, out)) +
+              ".");
   return Answer::kStays;
 }
 
@@ -73,7 +75,7 @@ Answer DoLineup(CoachSession& session, const Words& words) {
   const int lineup = ChoiceOf(Joined(words), kLineups);
   if (lineup < 0) return session.Refuse("Which line-up: " + Listed(kLineups) + "?");
   HCQUICKSUB panel(session.Side());
-//  panel.QuickLineup(lineup);
+  //  panel.QuickLineup(lineup);
   if (!panel.Ok()) return Answer::kRefused;
   session.Say("On the floor: " + FiveOf(session.Side()) + ".");
   return Answer::kStays;

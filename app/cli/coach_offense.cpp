@@ -12,11 +12,12 @@ namespace {
 
 std::string Handler() { return ManName(game.OffenseSide, game.BallPlayer); }
 
-constexpr std::array<std::string_view, 9> kCallKinds{"any",  "inside",        "outside",     "three",    "drive",
-                                                     "goto", "pick and roll", "force three", "hold ball"};
+constexpr std::array<std::string_view, 9> kCallKinds{
+    "any", "inside", "outside", "three", "drive", "goto", "pick and roll", "force three", "hold ball"};
 constexpr int kPickCall = 6, kHoldCall = 8, kAnybodyHolds = 6;
 
-constexpr std::array<std::string_view, 7> kDefenseCalls{"", "off", "loose", "normal", "tight", "foul", "double team"};
+constexpr std::array<std::string_view, 7> kDefenseCalls{"",      "off",  "loose",      "normal",
+                                                        "tight", "foul", "double team"};
 
 /// The position that the words name; 0, told, when they name none with a man.
 int Teammate(CoachSession& session, const Words& words) {
@@ -82,7 +83,8 @@ std::string TellCall(const Call& call) {
     text += " for " + ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[call.CallPlayer]);
   if (call.CallForce) text += ", forced";
   if (call.CallAlleyOop)
-    text += ", alley-oop to " + ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[call.CallAlleyPlayer]);
+    text += ", alley-oop to " +
+            ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[call.CallAlleyPlayer]);
   return text + ".";
 }
 
@@ -109,8 +111,8 @@ int TenthsOf(std::string_view word) {
   return 0;
 }
 
-/// The mark that is meant, by its own text or by period and clock: "end 2", "4th 2:00", "2:00" in this period.
-/// "NONE" when there is none.
+/// The mark that is meant, by its own text or by period and clock: "end 2", "4th 2:00", "2:00" in this
+/// period. "NONE" when there is none.
 WatchUntil ReadMark(const Words& words) {
   WatchUntil mark;
   int period = game.Period, below = 0;
@@ -172,7 +174,9 @@ Answer DoShoot(CoachSession& session, const Words&) {
   return session.GoOn(Handler() + " looks for his shot.", ShootChosen);
 }
 
-Answer DoDrive(CoachSession& session, const Words&) { return session.GoOn(Handler() + " drives.", DriveChosen); }
+Answer DoDrive(CoachSession& session, const Words&) {
+  return session.GoOn(Handler() + " drives.", DriveChosen);
+}
 
 Answer DoBreak(CoachSession& session, const Words&) { return session.GoOn("They run.", FastBreakChosen); }
 
@@ -222,8 +226,9 @@ Answer DoDefenseCall(CoachSession& session, const Words& words) {
   const int call = ChoiceOf(Joined(words), kDefenseCalls);
   if (call < 1) return session.Refuse("Guard the ball how? " + Listed(kDefenseCalls) + ".");
   game.call.DefenseCall = call;
-  return session.GoOn("The ball is guarded: " + std::string(kDefenseCalls[static_cast<std::size_t>(call)]) + ".",
-                      DefensePlayCallChosen);
+  return session.GoOn(
+      "The ball is guarded: " + std::string(kDefenseCalls[static_cast<std::size_t>(call)]) + ".",
+      DefensePlayCallChosen);
 }
 
 Answer DoTimeout(CoachSession& session, const Words& words) {
@@ -234,8 +239,8 @@ Answer DoTimeout(CoachSession& session, const Words& words) {
     SetFocus(side, focus);
   }
   const int left = game.side[side].TimeoutsLeft - 1;
-  return session.GoOn("Timeout " + game.team[side].City.Str() + ", " + std::to_string(left) + " left; stressed: " +
-                          std::string(game.side[side].TimeoutFocus.Text()) + ".",
+  return session.GoOn("Timeout " + game.team[side].City.Str() + ", " + std::to_string(left) +
+                          " left; stressed: " + std::string(game.side[side].TimeoutFocus.Text()) + ".",
                       TimeoutChosen);
 }
 

@@ -47,7 +47,8 @@ std::string BallLine() {
   const std::string shot = ShotName(ManAt(side, game.BallPlayer).ShotPick);
   const int position = PositionOf(side, game.BallPlayer);
   std::string line = "Ball: " + ManName(side, game.BallPlayer) + " (" + Place(position) + ")";
-  if (!shot.empty() && game.GameState != "FASTBREAK") line += shot == "three" ? " beyond the arc" : " " + shot;
+  if (!shot.empty() && game.GameState != "FASTBREAK")
+    line += shot == "three" ? " beyond the arc" : " " + shot;
   if (game.GameState != "FASTBREAK") {
     line += ", guarded by " + ManName(game.DefenseSide, GuardOf(position));
   }
@@ -56,8 +57,8 @@ std::string BallLine() {
 }
 
 void PrintAttack(std::ostream& out, int side) {
-  Columns table({"<", "<" + game.team[side].City.Str().substr(0, 16), "<Shot", "Rtg", "Opt", "Eng", "PF", "Pts", "FG",
-                 "<Guarded by"});
+  Columns table({"<", "<" + game.team[side].City.Str().substr(0, 16), "<Shot", "Rtg", "Opt", "Eng", "PF",
+                 "Pts", "FG", "<Guarded by"});
   for (int p = 1; p <= kPositions; ++p) {
     const int slot = game.side[side].Lineup[p];
     if (slot == 0) continue;
@@ -81,17 +82,18 @@ int ManGuardedBy(int side, int position) {
 
 /// The five at a stop where the side has no shot to choose.
 void PrintFive(std::ostream& out, int side) {
-  Columns table({"<", "<" + game.team[side].City.Str().substr(0, 16), "Eng", "PF", "Min", "Pts", "<Guards", "Pts",
-                 "<Shot"});
+  const bool attacked = BallIsLive() && side == game.DefenseSide;
+  Columns table({"<", "<" + game.team[side].City.Str().substr(0, 16), "Eng", "PF", "Min", "Pts", "<Guards",
+                 "Pts", attacked ? "<Shot" : "<"});
   for (int p = 1; p <= kPositions; ++p) {
     const int slot = game.side[side].Lineup[p];
     if (slot == 0) continue;
     const Man& man = ManAt(side, slot);
     const StatLine& line = PlayerAt(side, slot).Stats[3];
     const int other = ManGuardedBy(side, p);
-    const bool attacked = BallIsLive() && side == game.DefenseSide;
     table.Row({Place(p), " " + ManName(side, slot), Str(man.Energy), Str(line.Pf), Str(MinutesOf(man)),
-               Str(PointsOf(line)), ManName(3 - side, other), Str(PointsOf(PlayerAt(3 - side, other).Stats[3])),
+               Str(PointsOf(line)), ManName(3 - side, other),
+               Str(PointsOf(PlayerAt(3 - side, other).Stats[3])),
                attacked ? ShotName(ManAt(3 - side, other).ShotPick) : ""});
   }
   table.Print(out, false);
@@ -122,16 +124,18 @@ StatLine SumOf(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) continue;
     const StatLine& s = PlayerAt(side, slot).Stats[3];
-    for (auto counter : {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA,
-                         &StatLine::FTM, &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St,
-                         &StatLine::Bk, &StatLine::To}) {
+    for (auto counter :
+         {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA, &StatLine::FTM,
+          &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St, &StatLine::Bk, &StatLine::To}) {
       sum.*counter = static_cast<i16>(sum.*counter + s.*counter);
     }
   }
   return sum;
 }
 
-std::string Average(int count, int games) { return Fixed(games > 0 ? static_cast<double>(count) / games : 0, 1); }
+std::string Average(int count, int games) {
+  return Fixed(games > 0 ? static_cast<double>(count) / games : 0, 1);
+}
 
 }  // namespace
 
@@ -148,8 +152,8 @@ std::string ScoreLine() {
   const Side& visitor = game.side[1];
   const Side& home = game.side[2];
   const auto pair = [](int a, int b) { return Str(a) + "-" + Str(b); };
-  std::string line = ShortTeam(1) + " " + Str(visitor.Score) + "  " + ShortTeam(2) + " " + Str(home.Score) + "   " +
-                     PeriodText() + " " + ClockText(game.GameClock);
+  std::string line = ShortTeam(1) + " " + Str(visitor.Score) + "  " + ShortTeam(2) + " " + Str(home.Score) +
+                     "   " + PeriodText() + " " + ClockText(game.GameClock);
   if (league.rules.ShotClockList > 0) line += "   shot " + Str((game.ShotClock + 9) / 10);
   line += "   fouls " + pair(visitor.TeamFouls, home.TeamFouls) + "   timeouts " +
           pair(visitor.TimeoutsLeft, home.TimeoutsLeft);
@@ -189,7 +193,8 @@ void PrintTeams(std::ostream& out) {
     const Side& own = game.side[side];
     table.Row({ShortTeam(side), Of(s.FGM, s.FGA), Of(s.F3M, s.F3A), Of(s.FTM, s.FTA), Str(s.Off),
                Str(s.Reb + own.GameTeamRebounds), Str(s.Ast), Str(s.St), Str(s.Bk),
-               Str(s.To + own.GameTeamTurnovers), Str(own.FastbreakPoints), Str(own.BenchPoints), Str(own.Score)});
+               Str(s.To + own.GameTeamTurnovers), Str(own.FastbreakPoints), Str(own.BenchPoints),
+               Str(own.Score)});
   }
   table.Print(out, false);
   PrintPeriods(out, game.Period);
@@ -203,17 +208,17 @@ void PrintMan(std::ostream& out, int side, int slot) {
       << ShortTeam(side) << '\n';
   Columns lines({"<", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "Pts"});
   lines.Row({"This game", Str(MinutesOf(ManAt(side, slot))), Of(now.FGM, now.FGA), Of(now.F3M, now.F3A),
-             Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St), Str(now.Bk),
-             Str(now.To), Str(PointsOf(now))});
+             Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St),
+             Str(now.Bk), Str(now.To), Str(PointsOf(now))});
   const auto each = [&real](int count) { return Average(count, real.G); };
   lines.Row({"His season", each(real.Min), Share(real.FGM, real.FGA), Share(real.F3M, real.F3A),
-             Share(real.FTM, real.FTA), each(real.Off), each(real.Reb), each(real.Ast), each(real.Pf), each(real.St),
-             each(real.Bk), each(real.To), each(PointsOf(real))});
+             Share(real.FTM, real.FTA), each(real.Off), each(real.Reb), each(real.Ast), each(real.Pf),
+             each(real.St), each(real.Bk), each(real.To), each(PointsOf(real))});
   lines.Print(out, false);
   Columns ratings({"Off", "In", "Out", "Drv", "3P", "Fast", "Pass", "OReb", "DReb", "D-Out", "D-In", "D-To"});
   ratings.Row({Str(p.RateOffense / 10), Str(p.RateOffInside), Str(p.RateOffOutside), Str(p.RateOffDrive),
-               Str(p.RateOffThree), Str(p.RateOffFastbreak), Str(p.RatePassing), Str(p.RateRebOff), Str(p.RateRebDef),
-               Str(p.RateDefOutside), Str(p.RateDefInside), Str(p.RateDefForce)});
+               Str(p.RateOffThree), Str(p.RateOffFastbreak), Str(p.RatePassing), Str(p.RateRebOff),
+               Str(p.RateRebDef), Str(p.RateDefOutside), Str(p.RateDefInside), Str(p.RateDefForce)});
   ratings.Print(out, false);
 }
 

@@ -30,8 +30,8 @@ CoachSession::~CoachSession() { platform::UseDialogs(&before_); }
 
 int CoachSession::Side() const { return game.ActingSide; }
 
-void CoachSession::Say(std::string_view line) {
-  std::string_view indent;
+void CoachSession::Say(std::string_view line, std::size_t blanks) {
+  std::string indent;
   while (line.size() + indent.size() > kScreenWidth) {
     const std::size_t room = kScreenWidth - indent.size();
     std::size_t cut = line.rfind(' ', room);
@@ -39,7 +39,7 @@ void CoachSession::Say(std::string_view line) {
     out_ << indent << line.substr(0, cut) << '\n';
     line.remove_prefix(cut);
     line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-    indent = "    ";
+    indent.assign(blanks, ' ');
   }
   out_ << indent << line << '\n';
 }
@@ -110,7 +110,8 @@ Answer CoachSession::Obey(const std::string& line) {
   if (words.empty()) words = SplitWords(PlainCommand());
   const Command* command = FindCommand(words[0]);
   if (!command) return Refuse("There is no command \"" + words[0] + "\". " + OpenCommands());
-  if (!command->open()) return Refuse("Not at this stop: " + std::string(command->name) + ". " + OpenCommands());
+  if (!command->open())
+    return Refuse("Not at this stop: " + std::string(command->name) + ". " + OpenCommands());
   words.erase(words.begin());
   refused_ = false;
   return command->run(*this, words);

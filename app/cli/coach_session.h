@@ -1,6 +1,7 @@
 #pragma once
-// A game that a person coaches line by line: at each stop that asks him it shows the floor, and takes commands
-// until the game goes on. Plain lines in, plain lines out, so that a script coaches as well as a fan.
+// A game that a person coaches line by line: at each stop that asks him it shows the floor, and takes
+// commands until the game goes on. Plain lines in, plain lines out, so that a script coaches as well as a
+// fan.
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -37,8 +38,8 @@ class CoachSession : private platform::Dialogs {
   bool Run();
 
   // For the commands.
-  /// One line, or more below one another where it is longer than the screen is wide.
-  void Say(std::string_view line);
+  /// One line, or more below one another, set in by `indent`, where it is longer than the screen is wide.
+  void Say(std::string_view line, std::size_t indent = 4);
   /// The refusal of a command, with its reason.
   Answer Refuse(std::string_view reason);
   /// A question of the program's own operations, or of a command.

@@ -58,10 +58,12 @@ void ListCommands(CoachSession& session, bool all) {
   for (const Command& c : Commands()) {
     if (!all && !c.open()) continue;
     char head[32];
-    std::snprintf(head, sizeof head, "%2s  %-10s ", std::string(c.brief).c_str(), std::string(c.name).c_str());
-    session.Say(head + std::string(c.help));
+    std::snprintf(head, sizeof head, "%2s  %-10s ", std::string(c.brief).c_str(),
+                  std::string(c.name).c_str());
+    session.Say(head + std::string(c.help), 15);
   }
-  session.Say("A man goes by name, roster number (#9) or position (1 to 5, PG to C); help COMMAND tells more.");
+  session.Say("Men go by name, roster number (#9) or position (1 to 5, PG to C).", 0);
+  session.Say("\"help COMMAND\" tells more, \"help all\" lists what is closed now, too.", 0);
 }
 
 // The checks of the defense screen.
@@ -78,7 +80,8 @@ constexpr Check kChecks[] = {
     {"timeoutoffense", "timeout behind our basket", &DefenseScreen::TimeoutOffenseCheck},
     {"timeoutdefense", "timeout when we win the ball", &DefenseScreen::TimeoutDefenseCheck},
     {"tired", "the computer takes tired men off", &DefenseScreen::AutoSubWhenTiredCheck},
-    {"foultrouble", "the computer takes men in foul trouble off", &DefenseScreen::AutoSubWhenFoulTroubleCheck},
+    {"foultrouble", "the computer takes men in foul trouble off",
+     &DefenseScreen::AutoSubWhenFoulTroubleCheck},
     {"grid", "the computer follows the rotation grid", &DefenseScreen::UseRotationGridCheck},
 };
 constexpr std::array<std::string_view, 3> kFoulWords{"none", "any", "poor"};
@@ -86,7 +89,8 @@ constexpr std::array<std::string_view, 3> kFoulWords{"none", "any", "poor"};
 void ListChecks(CoachSession& session, const DefenseScreen& screen) {
   for (const Check& c : kChecks) {
     char head[40];
-    std::snprintf(head, sizeof head, "  %-15s %-4s ", std::string(c.name).c_str(), screen.*c.value ? "on" : "off");
+    std::snprintf(head, sizeof head, "  %-15s %-4s ", std::string(c.name).c_str(),
+                  screen.*c.value ? "on" : "off");
     session.Say(head + std::string(c.caption));
   }
   session.Say("  quickfoul       " + std::string(kFoulWords[static_cast<std::size_t>(screen.QuickFoulList)]) +
@@ -103,7 +107,8 @@ Answer SetQuickFoul(CoachSession& session, DefenseScreen& screen, const std::str
   const int list = ChoiceOf(said, kFoulWords);
   if (list < 0) return session.Refuse("quickfoul: " + Listed(kFoulWords) + ".");
   screen.QuickFoulList = list;
-  return Save(session, screen, "Foul at once: " + std::string(kQuickFoulCaptions[static_cast<std::size_t>(list)]) + ".");
+  return Save(session, screen,
+              "Foul at once: " + std::string(kQuickFoulCaptions[static_cast<std::size_t>(list)]) + ".");
 }
 
 }  // namespace

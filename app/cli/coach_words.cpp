@@ -11,7 +11,8 @@ namespace tipline::cli {
 namespace {
 
 bool AllDigits(std::string_view text) {
-  return !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
+  return !text.empty() &&
+         std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
 }
 
 /// A number of at most three digits; 0 otherwise.
@@ -88,7 +89,8 @@ Words SplitWords(std::string_view line) {
 
 std::string Joined(const Words& words, std::size_t first, std::size_t end) {
   std::string text;
-  for (std::size_t i = first; i < std::min(end, words.size()); ++i) text += (text.empty() ? "" : " ") + words[i];
+  for (std::size_t i = first; i < std::min(end, words.size()); ++i)
+    text += (text.empty() ? "" : " ") + words[i];
   return text;
 }
 
