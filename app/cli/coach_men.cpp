@@ -75,7 +75,7 @@ Answer DoLineup(CoachSession& session, const Words& words) {
   const int lineup = ChoiceOf(Joined(words), kLineups);
   if (lineup < 0) return session.Refuse("Which line-up: " + Listed(kLineups) + "?");
   HCQUICKSUB panel(session.Side());
-  //  panel.QuickLineup(lineup);
+  if (!panel.QuickLineup(lineup)) return session.Refuse("Nobody is named for that line-up.");
   if (!panel.Ok()) return Answer::kRefused;
   session.Say("On the floor: " + FiveOf(session.Side()) + ".");
   return Answer::kStays;

@@ -1,5 +1,7 @@
 #include "cli/coach_session.h"
 
+#include <algorithm>
+
 #include "cli/box_score.h"
 #include "cli/coach_commands.h"
 #include "cli/coach_events.h"
@@ -17,6 +19,18 @@ std::string_view PlainCommand() {
   if (CanContinue()) return "continue";
   if (game.GameState == "FREETHROW-SHOOT") return "shoot";
   return game.GameState == "DEFENSE-CALL" ? "def normal" : "computer";
+}
+
+using Five = Table<int, 1, kPositions>;
+
+/// Names of the men of one five who are not in the other.
+std::string Others(int side, const Five& five, const Five& other) {
+  std::string names;
+  for (const int slot : five) {
+    if (slot == 0 || std::find(other.begin(), other.end(), slot) != other.end()) continue;
+    names += (names.empty() ? "" : ", ") + ManName(side, slot);
+  }
+  return names;
 }
 
 }  // namespace
@@ -93,6 +107,18 @@ void CoachSession::TellSinceLastStop() {
     Say(EventLine(row));
   }
   for (; toldPeriod_ < game.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
+  TellChanges();
+}
+
+void CoachSession::TellChanges() {
+  for (int side = 1; side <= 2; ++side) {
+    const auto& before = fives_[side];
+    const auto& now = game.side[side].Lineup;
+    const std::string in = Others(side, now, before), out = Others(side, before, now);
+    if (before[1] > 0 && !in.empty())
+      Say("In for " + ShortTeam(side) + ": " + in + (out.empty() ? "." : ", out: " + out + "."));
+    fives_[side] = now;
+  }
 }
 
 void CoachSession::ShowTheStop() {
@@ -114,7 +140,9 @@ Answer CoachSession::Obey(const std::string& line) {
     return Refuse("Not at this stop: " + std::string(command->name) + ". " + OpenCommands());
   words.erase(words.begin());
   refused_ = false;
-  return command->run(*this, words);
+  const Answer answer = command->run(*this, words);
+  if (answer == Answer::kStays) fives_[Side()] = game.side[Side()].Lineup;  // his own changes were told
+  return answer;
 }
 
 Answer CoachSession::TakeCommand() {

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "cli/coach_words.h"
+#include "engine/game_state.h"
 #include "platform/dialogs.h"
 
 namespace tipline::cli {
@@ -64,6 +65,7 @@ class CoachSession : private platform::Dialogs {
   /// Everything that happened between two stops, in its order.
   void TellSinceLastStop();
   void TellPeriodEnd(int period);
+  void TellChanges();
   void ShowTheStop();
   Answer TakeCommand();
   Answer Obey(const std::string& line);
@@ -74,9 +76,10 @@ class CoachSession : private platform::Dialogs {
   std::ostream& err_;
   Manner manner_;
   platform::Dialogs& before_;
-  std::optional<std::string> kept_;  ///< a line that was no answer to a question: the next command
-  int toldRows_ = 0;                 ///< rows of the play log that were told
-  int toldPeriod_ = 1;               ///< periods whose score was told, plus one
+  std::optional<std::string> kept_;           ///< a line that was no answer to a question: the next command
+  int toldRows_ = 0;                          ///< rows of the play log that were told
+  int toldPeriod_ = 1;                        ///< periods whose score was told, plus one
+  Table2<int, 1, 2, 1, kPositions> fives_{};  ///< who was on the floor when it was last told
   bool refused_ = false;
   bool firstStop_ = true;
 };

@@ -35,7 +35,34 @@ bool ShooterMissing(int side, const Table<int, 1, kPositions>& lineup) {
   return !Refuse(NameOf(side, game.BallPlayer) + " is at the line..he must be in the game!");
 }
 
+constexpr int kSpecialLineups = 7;
+
+/// The man of the side who is named for a position in a line-up, but for those already placed; 0 for nobody.
+int NamedFor(int side, int lineup, int position, const Table<bool, 1, kRosterSlots>& placed) {
+  int best = 0, bestRank = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!IsEligible(side, slot) || placed[slot]) continue;
+    const PlayerRecord& p = PlayerAt(side, slot);
+    const int rank = lineup == 0 ? p.DepthRank[position] : p.RotationOrder[lineup] == position ? 1 : 0;
+    if (rank > bestRank) best = slot, bestRank = rank;
+  }
+  return best;
+}
+
 }  // namespace
+
+bool HCQUICKSUB::QuickLineup(int index) {
+  if (index < 0 || index > kSpecialLineups) return false;
+  Table<bool, 1, kRosterSlots> placed{};
+  bool named = false;
+  for (int p = 1; p <= kPositions; ++p) {
+    const int slot = NamedFor(side, index, p, placed);
+    if (slot == 0) continue;
+    placed[slot] = named = true;
+    if (lineup[p] != slot) PutIn(p, slot);
+  }
+  return named;
+}
 
 bool HCQUICKSUB::PutIn(int position, int slot) {
   if (slot < 1 || slot > kRosterSlots || !IsEligible(side, slot)) return Refuse("You must select a player!");

@@ -16,6 +16,11 @@ struct HCQUICKSUB {
   /// there. False, with its message, when nobody fit to play is chosen, or when the side's substitution
   /// settings keep a tired man or one in foul trouble off.
   bool PutIn(int position, int slot);
+  /// Sends a line-up in, as far as its men may come in: 0 the first men of the depth chart, 1 to 7 the
+  /// special line-ups (blowout, offense, three point, free throw, fastbreak, defense, press). A man who is
+  /// kept off is told of, and his place stays as it is. False when `index` is no line-up or nobody is named
+  /// for it.
+  bool QuickLineup(int index);
   /// Takes the five into the game. False, with its message, when a spot is empty or the free-throw shooter is
   /// missing.
   bool Ok();
