@@ -112,7 +112,21 @@ std::string OpenCommands() {
     if (c.open == Always || !c.open()) continue;
     text += (text.empty() ? "" : ", ") + std::string(c.name);
   }
-  return "Open: " + text + (text.empty() ? "" : ", ") + "and more (help).";
+  return "Open: " + text + (text.empty() ? "" : ", ") +
+         "and more (help); an empty line is: " + std::string(PlainCommand()) + ".";
+}
+
+std::string WhyClosed(const Command& command) {
+  if (command.run == DoTimeout && game.side[game.ActingSide].TimeoutsLeft == 0)
+    return "There is no timeout left.";
+  if (command.run == DoTimeout && game.TimeoutTaken) return "A timeout was just taken.";
+  return "Not at this stop: " + std::string(command.name) + ". " + OpenCommands();
+}
+
+std::string_view PlainCommand() {
+  if (CanContinue()) return "continue";
+  if (game.GameState == "FREETHROW-SHOOT") return "shoot";
+  return game.GameState == "DEFENSE-CALL" ? "def normal" : "computer";
 }
 
 }  // namespace tipline::cli

@@ -20,8 +20,12 @@ struct Command {
 std::span<const Command> Commands();
 /// By its name, its short form, or what only one name begins with; nullptr for none.
 const Command* FindCommand(std::string_view word);
-/// One sentence that names the commands that are open.
+/// One sentence that names the commands that are open, and what a line without a word stands for.
 std::string OpenCommands();
+/// Why a command is not open.
+std::string WhyClosed(const Command& command);
+/// The command that an empty line stands for: to go on where that is open, else the plain thing to do.
+std::string_view PlainCommand();
 
 // The handlers, by what they are about.
 

@@ -154,7 +154,8 @@ std::string ScoreLine() {
   const auto pair = [](int a, int b) { return Str(a) + "-" + Str(b); };
   std::string line = ShortTeam(1) + " " + Str(visitor.Score) + "  " + ShortTeam(2) + " " + Str(home.Score) +
                      "   " + PeriodText() + " " + ClockText(game.GameClock);
-  if (league.rules.ShotClockList > 0) line += "   shot " + Str((game.ShotClock + 9) / 10);
+  if (league.rules.ShotClockList > 0 && game.ShotClock <= game.GameClock)
+    line += "   shot " + Str((game.ShotClock + 9) / 10);
   line += "   fouls " + pair(visitor.TeamFouls, home.TeamFouls) + "   timeouts " +
           pair(visitor.TimeoutsLeft, home.TimeoutsLeft);
   if (!IsJump(game.GameState)) line += "   " + ShortTeam(game.OffenseSide) + " ball";

@@ -14,13 +14,6 @@ namespace {
 
 constexpr std::size_t kScreenWidth = 79;
 
-/// What a line without a word means: go on where that is open, else the plain thing to do.
-std::string_view PlainCommand() {
-  if (CanContinue()) return "continue";
-  if (game.GameState == "FREETHROW-SHOOT") return "shoot";
-  return game.GameState == "DEFENSE-CALL" ? "def normal" : "computer";
-}
-
 using Five = Table<int, 1, kPositions>;
 
 /// Names of the men of one five who are not in the other.
@@ -127,8 +120,9 @@ void CoachSession::ShowTheStop() {
   PrintFloor(out_);
   const bool both = game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H";
   Say((both ? "[" + game.team[Side()].Abbrev.Str() + "] " : "") + Prompt());
-  if (firstStop_) Say("An empty line does the plain thing; help lists what you can say.");
-  firstStop_ = false;
+  bool& shown = shown_[game.GameState.Index()];
+  if (!shown) Say(OpenCommands());  // once for each kind of stop
+  shown = true;
 }
 
 Answer CoachSession::Obey(const std::string& line) {
@@ -136,8 +130,7 @@ Answer CoachSession::Obey(const std::string& line) {
   if (words.empty()) words = SplitWords(PlainCommand());
   const Command* command = FindCommand(words[0]);
   if (!command) return Refuse("There is no command \"" + words[0] + "\". " + OpenCommands());
-  if (!command->open())
-    return Refuse("Not at this stop: " + std::string(command->name) + ". " + OpenCommands());
+  if (!command->open()) return Refuse(WhyClosed(*command));
   words.erase(words.begin());
   refused_ = false;
   const Answer answer = command->run(*this, words);

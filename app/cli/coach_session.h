@@ -2,7 +2,9 @@
 // A game that a person coaches line by line: at each stop that asks him it shows the floor, and takes
 // commands until the game goes on. Plain lines in, plain lines out, so that a script coaches as well as a
 // fan.
+#include <array>
 #include <istream>
+#include <iterator>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -81,7 +83,7 @@ class CoachSession : private platform::Dialogs {
   int toldPeriod_ = 1;                        ///< periods whose score was told, plus one
   Table2<int, 1, 2, 1, kPositions> fives_{};  ///< who was on the floor when it was last told
   bool refused_ = false;
-  bool firstStop_ = true;
+  std::array<bool, std::size(GameStateWords::kTexts)> shown_{};  ///< states whose commands were named
 };
 
 }  // namespace tipline::cli
