@@ -73,8 +73,8 @@ constexpr Command kCommands[] = {
     {"order", "", "WHO normal | inside | outside | three", "the shot your man is told to take",
      "3 three;3 normal;1 outside", Always, DoOrder},
     {"safe", "", "WHO [off]", "your man stays out of foul trouble", "4;4 off", Always, DoSafe},
-    {"plan", "", "[SLIDER 0-4 | computer | clear | cell WHO COLUMN]", "the game plan in force",
-     ";Drive 3;15 2;cell 1 inside;computer;clear;Use Zones 4", Always, DoPlan},
+    {"plan", "", "[SLIDER 0-4 | computer | clear | against | cell WHO COLUMN]", "the game plan in force",
+     ";Drive 3;15 2;against;cell 1 inside;computer;clear;Use Zones 4", Always, DoPlan},
 
     {"sub", "", "[POSITION MAN ...]", "send men in; alone, the bench", ";1 6;2 #7 3 #8;1 #1 2 #2 3 #3 4 #4 5 #5",
      BallIsDead, DoSub},

@@ -163,7 +163,7 @@ Answer PlanCell(CoachSession& session, PlanScreen& screen, const Words& words) {
   const Found man = FindMan(3 - session.Side(), Joined(words, 1, name));
   if (man.value == 0) return session.Refuse(man.fault);
   if (!screen.StepCell(man.value, static_cast<PlanColumn>(column)))
-    return session.Refuse("The plan in force is not written against this team.");
+    return session.Refuse("The plan in force is for all opponents; plan against begins one for this team.");
   session.Say("The plan's cell has stepped on: " + ManName(3 - session.Side(), man.value) + ", " +
               std::string(kPlanColumns[static_cast<std::size_t>(column)]) + ".");
   return Answer::kStays;
@@ -184,10 +184,26 @@ Answer PlanSlider(CoachSession& session, PlanScreen& screen, const Words& words)
   return Answer::kStays;
 }
 
+/// The plan against this opponent comes into force: his own, or the first that is free.
+Answer PlanForThem(CoachSession& session, PlanScreen& screen) {
+  const int side = session.Side();
+  const int them = game.GameTeam[3 - side];
+  if (!screen.OpponentLoaded()) {
+    for (screen.plan = 1; screen.plan <= 10 && screen.own.coach.PlanOpponent[screen.plan] != 0;)
+      ++screen.plan;
+    if (screen.plan > 10) return session.Refuse("All ten plans are taken.");
+    if (!screen.ChooseOpponent(them)) return session.Refuse("No plan can be written against this team.");
+  }
+  game.side[side].GamePlanIndex = PlanAgainst(screen.own.coach, them);
+  session.Say(screen.Title() + " is in force, for this game.");
+  return Answer::kStays;
+}
+
 Answer ChangePlan(CoachSession& session, PlanScreen& screen, const Words& words) {
   const std::string verb = Squeezed(words[0]);
   if (verb == "cell") return PlanCell(session, screen, words);
   if (words.size() >= 2) return PlanSlider(session, screen, words);
+  if (verb == "against") return PlanForThem(session, screen);
   if (verb == "computer") {
     screen.ComputerGamePlan();
     session.Say("The computer has made the plan, for this game.");
@@ -198,7 +214,7 @@ Answer ChangePlan(CoachSession& session, PlanScreen& screen, const Words& words)
     session.Say("The plan covers every man as usual.");
     return Answer::kStays;
   }
-  return session.Refuse("plan SLIDER 0-4, plan computer, plan clear, plan cell WHO COLUMN.");
+  return session.Refuse("plan SLIDER 0-4, plan computer, plan clear, plan against, plan cell WHO COLUMN.");
 }
 
 }  // namespace

@@ -164,7 +164,7 @@ std::string ScoreLine() {
 
 void PrintFloor(std::ostream& out) {
   const std::string ball = BallLine();
-  if (!ball.empty()) out << ball << '\n';
+  if (!ball.empty()) out << Plain(ball) << '\n';
   const int side = game.ActingSide;
   const bool attacks = side == game.OffenseSide && !BallIsDue() && BallIsLive();
   if (attacks) {
@@ -205,8 +205,9 @@ void PrintMan(std::ostream& out, int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
   const StatLine& now = p.Stats[3];
   const StatLine& real = p.Stats[1];
-  out << p.FirstName.Str() << " " << p.LastName.Str() << " (#" << slot << ", " << Positions(p) << "), "
-      << ShortTeam(side) << '\n';
+  out << Plain(p.FirstName.Str() + " " + p.LastName.Str() + " (#" + Str(slot) + ", " + Positions(p) + "), " +
+               ShortTeam(side))
+      << '\n';
   Columns lines({"<", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "Pts"});
   lines.Row({"This game", Str(MinutesOf(ManAt(side, slot))), Of(now.FGM, now.FGA), Of(now.F3M, now.F3A),
              Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St),

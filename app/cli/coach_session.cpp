@@ -6,6 +6,7 @@
 #include "cli/coach_commands.h"
 #include "cli/coach_events.h"
 #include "cli/coach_screen.h"
+#include "cli/columns.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
 
@@ -37,7 +38,9 @@ CoachSession::~CoachSession() { platform::UseDialogs(&before_); }
 
 int CoachSession::Side() const { return game.ActingSide; }
 
-void CoachSession::Say(std::string_view line, std::size_t blanks) {
+void CoachSession::Say(std::string_view text, std::size_t blanks) {
+  const std::string plain = Plain(std::string(text));
+  std::string_view line = plain;
   std::string indent;
   while (line.size() + indent.size() > kScreenWidth) {
     const std::size_t room = kScreenWidth - indent.size();
@@ -54,7 +57,7 @@ void CoachSession::Say(std::string_view line, std::size_t blanks) {
 void CoachSession::Tell(std::string_view message, std::string_view) {
   refused_ = true;
   out_.flush();
-  err_ << message << std::endl;
+  err_ << Plain(std::string(message)) << std::endl;
 }
 
 Answer CoachSession::Refuse(std::string_view reason) {
@@ -77,13 +80,13 @@ std::optional<std::string> CoachSession::NextLine(std::string_view prompt) {
     kept_.reset();
     return line;
   }
-  out_ << prompt << std::flush;
+  out_ << Plain(std::string(prompt)) << std::flush;
   std::string line;
   if (!std::getline(in_, line)) {
     out_ << '\n';
     return std::nullopt;
   }
-  if (!manner_.prompt) out_ << line << '\n';
+  if (!manner_.prompt) out_ << Plain(line) << '\n';
   return line;
 }
 
@@ -115,7 +118,7 @@ void CoachSession::TellChanges() {
 }
 
 void CoachSession::ShowTheStop() {
-  const std::string score = ScoreLine();
+  const std::string score = Plain(ScoreLine());
   out_ << '\n' << (manner_.bold ? "\033[1m" + score + "\033[0m" : score) << '\n';
   PrintFloor(out_);
   const bool both = game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H";

@@ -147,7 +147,7 @@ Answer DoHelp(CoachSession& session, const Words& words) {
     return Answer::kStays;
   }
   const Command* command = FindCommand(words[0]);
-  const bool helpDefense = Choice(said, StrategyList::kHelp, "") != kNoChoice;
+  const bool helpDefense = Choice(said, StrategyList::kHelp, "") >= 0;
   if (helpDefense || !command) return SetList(session, StrategyList::kHelp, said, "");
   Explain(session, *command);
   return Answer::kStays;

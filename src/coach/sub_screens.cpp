@@ -41,7 +41,7 @@ constexpr int kSpecialLineups = 7;
 int NamedFor(int side, int lineup, int position, const Table<bool, 1, kRosterSlots>& placed) {
   int best = 0, bestRank = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!IsEligible(side, slot) || placed[slot]) continue;
+    if (!MayAppear(side, slot) || placed[slot]) continue;
     const PlayerRecord& p = PlayerAt(side, slot);
     const int rank = lineup == 0 ? p.DepthRank[position] : p.RotationOrder[lineup] == position ? 1 : 0;
     if (rank > bestRank) best = slot, bestRank = rank;
@@ -65,7 +65,7 @@ bool HCQUICKSUB::QuickLineup(int index) {
 }
 
 bool HCQUICKSUB::PutIn(int position, int slot) {
-  if (slot < 1 || slot > kRosterSlots || !IsEligible(side, slot)) return Refuse("You must select a player!");
+  if (slot < 1 || slot > kRosterSlots || !MayAppear(side, slot)) return Refuse("You must select a player!");
   if (const int place = PlaceOf(lineup, slot)) {
     std::swap(lineup[place], lineup[position]);
     return true;
@@ -93,7 +93,7 @@ bool HCQUICKSUB::Ok() {
 }
 
 bool HCquickOnePlayerSub::Choose(int slot) {
-  if (slot >= 1 && slot <= kRosterSlots && IsEligible(side, slot)) {
+  if (slot >= 1 && slot <= kRosterSlots && MayAppear(side, slot)) {
     const PlayerRecord& p = PlayerAt(side, slot);
     const bool fits =
         p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;

@@ -13,7 +13,7 @@ struct HCQUICKSUB {
   explicit HCQUICKSUB(int forSide) : side(forSide), lineup(game.side[forSide].Lineup) {}
 
   /// Puts the man at roster place `slot` in at a position; a man already chosen changes places with the one
-  /// there. False, with its message, when nobody fit to play is chosen, or when the side's substitution
+  /// there. False, with its message, when nobody is chosen who may play, or when the side's substitution
   /// settings keep a tired man or one in foul trouble off.
   bool PutIn(int position, int slot);
   /// Sends a line-up in, as far as its men may come in: 0 the first men of the depth chart, 1 to 7 the

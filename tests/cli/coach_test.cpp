@@ -1,6 +1,7 @@
 // A game coached line by line: scripts, right and wrong, play it to its end.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 #include <streambuf>
@@ -14,6 +15,7 @@
 #include "harness/laws.h"
 #include "harness/memory_league.h"
 #include "league/setup.h"
+#include "support/torture.h"
 
 namespace tipline::cli {
 namespace {
@@ -53,14 +55,16 @@ const Words kWrong{"",         "99",
 /// Coaches anything, line by line as the session reads it, and looks at the game at every line.
 class AnyCoach : public std::streambuf {
  public:
-  AnyCoach(std::uint64_t seed, const std::ostringstream& err) : err_(err) { draw_.Seed(seed); }
+  AnyCoach(std::uint64_t seed, const std::ostringstream& err, int lines) : err_(err), left_(lines) {
+    draw_.Seed(seed);
+  }
 
   static inline std::map<std::string_view, int> done;  ///< by command: times it was carried out
 
  protected:
   int_type underflow() override {
     Judge();
-    if (++lines_ > 4000) return traits_type::eof();
+    if (--left_ < 0) return traits_type::eof();
     line_ = NextLine() + "\n";
     before_ = Digest(0, GameBook());
     told_ = err_.str().size();
@@ -72,7 +76,7 @@ class AnyCoach : public std::streambuf {
   void Judge() {
     const std::string law = BrokenLaw();
     EXPECT_EQ(law, "") << "after " << line_;
-    if (!law.empty()) lines_ = 4000;
+    if (!law.empty()) left_ = 0;
     if (err_.str().size() > told_) {
       EXPECT_EQ(Digest(0, GameBook()), before_) << "refused, but it changed the game: " << line_;
     } else if (command_) {
@@ -121,7 +125,7 @@ class AnyCoach : public std::streambuf {
   const Command* command_ = nullptr;
   std::uint64_t before_ = 0;
   std::size_t told_ = 0;
-  int lines_ = 0;
+  int left_;
 };
 
 TEST(CoachSession, EveryCommandRightAndWrongReachesTheEndOfTheGame) {
@@ -130,7 +134,7 @@ TEST(CoachSession, EveryCommandRightAndWrongReachesTheEndOfTheGame) {
     SCOPED_TRACE(seed);
     SetUpCoachedGame(kPresets[seed % 4], seed, "H", seed % 2 ? "H" : "C");
     std::ostringstream out, err;
-    AnyCoach coach(seed, err);
+    AnyCoach coach(seed, err, 4000);
     std::istream in(&coach);
     CoachSession session(in, out, err, {});
     EXPECT_TRUE(session.Run());
@@ -140,6 +144,22 @@ TEST(CoachSession, EveryCommandRightAndWrongReachesTheEndOfTheGame) {
   for (const Command& c : Commands()) {
     if (c.name == "quit") continue;
     EXPECT_GT(AnyCoach::done[c.name], 0) << c.name << " was never carried out";
+  }
+}
+
+TEST(CoachSession, AnyCoachReachesTheEndUnderAnyRulesWithAnyMen) {
+  for (std::uint64_t seed = 1; seed <= 8; ++seed) {
+    OpenTortureLeague(seed);
+    SCOPED_TRACE("seed " + std::to_string(seed) + ": " + TortureLabel());
+    PrepareGame();
+    for (tipline::Side& side : game.side) side.CoachMode = "H";
+    std::ostringstream out, err;
+    AnyCoach coach(seed, err, 400);
+    std::istream in(&coach);
+    EXPECT_TRUE(CoachSession(in, out, err, {}).Run());
+    EXPECT_TRUE(game.GameOver);
+    const auto steers = [](char c) { return c != '\n' && (static_cast<unsigned char>(c) < 32 || c == 127); };
+    EXPECT_TRUE(std::none_of(out.view().begin(), out.view().end(), steers));
   }
 }
 
