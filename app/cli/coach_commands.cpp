@@ -112,8 +112,7 @@ std::string OpenCommands() {
     if (c.open == Always || !c.open()) continue;
     text += (text.empty() ? "" : ", ") + std::string(c.name);
   }
-  return "Open: " + text + (text.empty() ? "" : ", ") +
-         "and more (help); an empty line is: " + std::string(PlainCommand()) + ".";
+  return "Open: " + text + (text.empty() ? "" : ", ") + "and more (help).";
 }
 
 std::string WhyClosed(const Command& command) {

@@ -20,7 +20,7 @@ struct Command {
 std::span<const Command> Commands();
 /// By its name, its short form, or what only one name begins with; nullptr for none.
 const Command* FindCommand(std::string_view word);
-/// One sentence that names the commands that are open, and what a line without a word stands for.
+/// One sentence that names the commands that are open.
 std::string OpenCommands();
 /// Why a command is not open.
 std::string WhyClosed(const Command& command);

@@ -181,7 +181,8 @@ Answer DoDrive(CoachSession& session, const Words&) {
 Answer DoBreak(CoachSession& session, const Words&) { return session.GoOn("They run.", FastBreakChosen); }
 
 Answer DoPass(CoachSession& session, const Words&) {
-  return session.GoOn(Handler() + " looks to pass.", PassChosen);
+  const bool onBreak = game.GameState == "FASTBREAK";
+  return session.GoOn(onBreak ? "They pull the ball out." : Handler() + " looks to pass.", PassChosen);
 }
 
 Answer DoQuickPass(CoachSession& session, const Words& words) {

@@ -47,11 +47,9 @@ std::string BallLine() {
   const std::string shot = ShotName(ManAt(side, game.BallPlayer).ShotPick);
   const int position = PositionOf(side, game.BallPlayer);
   std::string line = "Ball: " + ManName(side, game.BallPlayer) + " (" + Place(position) + ")";
-  if (!shot.empty() && game.GameState != "FASTBREAK")
-    line += shot == "three" ? " beyond the arc" : " " + shot;
-  if (game.GameState != "FASTBREAK") {
-    line += ", guarded by " + ManName(game.DefenseSide, GuardOf(position));
-  }
+  const bool set = game.GameState == "OFFENSE" || game.GameState == "DEFENSE-CALL";
+  if (set && !shot.empty()) line += shot == "three" ? " beyond the arc" : " " + shot;
+  if (set) line += ", guarded by " + ManName(game.DefenseSide, GuardOf(position));
   if (game.GameState == "OFFENSE" && QuickPassLabel().back() == '!') line += "; " + QuickPassLabel();
   return line;
 }

@@ -124,7 +124,10 @@ void CoachSession::ShowTheStop() {
   const bool both = game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H";
   Say((both ? "[" + game.team[Side()].Abbrev.Str() + "] " : "") + Prompt());
   bool& shown = shown_[game.GameState.Index()];
-  if (!shown) Say(OpenCommands());  // once for each kind of stop
+  if (!shown) {  // once for each kind of stop
+    Say(OpenCommands());
+    Say("An empty line is: " + std::string(PlainCommand()) + ".");
+  }
   shown = true;
 }
 
