@@ -2,8 +2,8 @@
 #include <array>
 #include <memory>
 
-#include "cli/coach_commands.h"
 #include "cli/coach_screen.h"
+#include "cli/coach_table.h"
 #include "cli/columns.h"
 #include "coach/plan_screen.h"
 #include "coach/strategy_screens.h"

@@ -2,8 +2,8 @@
 #include <array>
 
 #include "cli/box_score.h"
-#include "cli/coach_commands.h"
 #include "cli/coach_screen.h"
+#include "cli/coach_table.h"
 #include "coach/sub_screens.h"
 
 namespace tipline::cli {

@@ -1,8 +1,8 @@
 // Commands that run the game: the attack, the answer to a call, timeouts, how far the computer goes on.
 #include <array>
 
-#include "cli/coach_commands.h"
 #include "cli/coach_screen.h"
+#include "cli/coach_table.h"
 #include "coach/computer_coach.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "cli/box_score.h"
-#include "cli/coach_commands.h"
 #include "cli/coach_events.h"
 #include "cli/coach_screen.h"
+#include "cli/coach_table.h"
 #include "cli/columns.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdio>
 
-#include "cli/coach_commands.h"
+#include "cli/coach_table.h"
 #include "coach/strategy_screens.h"
 
 namespace tipline::cli {

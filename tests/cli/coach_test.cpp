@@ -7,8 +7,8 @@
 #include <streambuf>
 
 #include "base/random.h"
-#include "cli/coach_commands.h"
 #include "cli/coach_session.h"
+#include "cli/coach_table.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "harness/game_book.h"

@@ -1,4 +1,4 @@
-#include "cli/coach_commands.h"
+#include "cli/coach_table.h"
 
 #include "engine/engine.h"
 #include "engine/game_state.h"
