@@ -15,6 +15,7 @@ namespace {
 
 using namespace tipline;
 using cli::Common;
+using cli::PlayRequest;
 
 constexpr int kWrongUsage = 2;
 
@@ -24,7 +25,8 @@ struct Arguments {
   std::uint64_t seed = 0;
   bool yes = false;
   LeagueRequest request;
-  std::string visitor, homeTeam, team, view = "ratings", file;
+  PlayRequest play;
+  std::string team, view = "ratings", file;
   int record = 1;
   bool all = false;
   cli::CoachRequest coach;
@@ -75,8 +77,16 @@ void AddLists(CLI::App& app, Arguments& a) {
 
 void AddPlay(CLI::App& app, Arguments& a) {
   auto* play = app.add_subcommand("play", "an exhibition game between two teams");
-  play->add_option("visitor", a.visitor, "number, abbreviation, city or nickname")->required();
-  play->add_option("hometeam", a.homeTeam, "the team at home")->required();
+  play->add_option("visitor", a.play.Visitor, "number, abbreviation, city or nickname")->required();
+  play->add_option("hometeam", a.play.Home, "the team at home")->required();
+  play->add_option("--coach", a.play.Coach, "side that you coach: none, visitor, home or both")
+      ->check(CLI::IsMember({"none", "visitor", "home", "both"}))
+      ->capture_default_str();
+  play->add_option(
+          "--calls", a.play.Calls,
+          "plays that you are asked for: none, default (more when it counts) or all; without it your "
+          "preferences, at first all")
+      ->check(CLI::IsMember({"none", "default", "all"}));
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");
@@ -114,10 +124,10 @@ int RunCommand(CLI::App& app, Arguments& a) {
     }
     return cli::RateTeams(a.team, a.all, a.common);
   }
-  if (app.got_subcommand("play")) return cli::PlayExhibition(a.visitor, a.homeTeam, a.common);
   if (app.got_subcommand("depth")) return cli::ShowDepth(a.coach, a.common);
   if (app.got_subcommand("rotation")) return cli::ShowRotation(a.coach, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
+  if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();

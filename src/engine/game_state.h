@@ -323,9 +323,9 @@ struct Game : GameRun {
   Table2<LoadedMan, 1, 2, 0, kRosterSlots> loaded;
   bool NeutralGame = false;
   int GameMonth = 0, GameCalendarMonth = 0, GameDay = 0,
-      GameYear = 0;           ///< season month (1 September), calendar month
-  int ScheduleRow = 0;        ///< row of the running game in the schedule, 0 unscheduled
-  bool AnalysisMode = false;  ///< the chances are run as a what-if
+      GameYear = 0;                ///< season month (1 September), calendar month
+  int ScheduleRow = 0;             ///< row of the running game in the schedule, 0 unscheduled
+  bool AnalysisMode = false;       ///< the chances are run as a what-if
   tipline::WatchUntil WatchUntil;  ///< both sides run unattended up to this mark
 };
 
