@@ -6,8 +6,9 @@
 #include <iostream>
 
 #include "base/random.h"
-#include "cli/commands.h"
+#include "cli/schedule_commands.h"
 #include "cli/terminal.h"
+#include "league/dump.h"
 #include "league/program.h"
 #include "platform/folders.h"
 
@@ -30,6 +31,7 @@ struct Arguments {
   int record = 1;
   bool all = false;
   cli::CoachRequest coach;
+  cli::ScheduleArguments schedule;
 };
 
 /// Options that every command takes, in front of it or behind it.
@@ -57,7 +59,7 @@ void AddLeagueNew(CLI::App& app, Arguments& a) {
   number("--year", a.request.Year, "season year, 1946 to 2050");
   number("--divisions", a.request.Divisions, "number of divisions");
   number("--teams", a.request.Teams, "number of teams");
-  number("--games", a.request.Games, "games of a season");
+  number("--games", a.request.Games, "games of a season, an even number from 10 to 98");
 }
 
 void AddLists(CLI::App& app, Arguments& a) {
@@ -70,8 +72,7 @@ void AddLists(CLI::App& app, Arguments& a) {
       ->capture_default_str();
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
-  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily or Basketball-Era.dat")
-      ->required();
+  dump->add_option("file", a.file, FormatNames())->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
 }
 
@@ -129,6 +130,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
+  if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
@@ -144,6 +146,7 @@ int main(int argc, char** argv) {
   AddLists(app, a);
   AddPlay(app, a);
   AddCoach(app, a);
+  cli::AddSchedule(app, a.schedule, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -160,7 +163,7 @@ int main(int argc, char** argv) {
                                      : static_cast<std::uint64_t>(
                                            std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
-  terminal.AssumeYes = a.yes;
+  terminal.AssumeYes = a.yes || a.schedule.Yes;
   program.Home = platform::DataHome(a.home);
   program.ProgramFolder = program.Home / "program";
   try {

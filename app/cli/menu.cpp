@@ -4,9 +4,9 @@
 
 #include "cli/commands.h"
 #include "cli/terminal.h"
+#include "league/data_tree.h"
 #include "league/league.h"
 #include "league/program.h"
-#include "league/data_tree.h"
 
 namespace tipline::cli {
 namespace {

@@ -6,13 +6,18 @@
 
 namespace tipline::cli {
 
-void Terminal::Tell(std::string_view message, std::string_view) {
-  std::cerr << "tipline: " << message << '\n';
+void Terminal::Tell(std::string_view message, std::string_view title) {
+  std::cerr << "tipline: " << message;
+  if (!title.empty()) std::cerr << " (" << title << ")";
+  std::cerr << '\n';
 }
 
 bool Terminal::Ask(std::string_view question, std::string_view) {
   if (AssumeYes) return true;
-  if (!Interactive()) return false;
+  if (!Interactive()) {
+    Refuse("--yes answers the question: " + std::string(question));
+    return false;
+  }
   const auto answer = AskLine(std::string(question) + " [y/n] ");
   return answer && !answer->empty() && ((*answer)[0] == 'y' || (*answer)[0] == 'Y');
 }
