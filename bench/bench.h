@@ -23,6 +23,8 @@ int Speed(std::ostream& out, const BenchOptions& options);
 int One(std::ostream& out, const BenchOptions& options);
 /// Seeded games of all presets against the laws of the game, at the end of each and stop by stop.
 int Laws(std::ostream& out, const BenchOptions& options);
+/// The computer's rotation grids of all presets: holes, time, targets, and what men play by them.
+int Rotation(std::ostream& out, const BenchOptions& options);
 /// Leagues through the decades beside their eras and the men's own seasons.
 int Realism(std::ostream& out, const BenchOptions& options);
 

@@ -20,6 +20,7 @@ int Usage() {
                "  speed      games a second, time by stage, heap allocations\n"
                "  one        N games (1) and nothing else, for a profiler\n"
                "  laws       N games (2000) of all presets against the laws of the game\n"
+               "  rotation   the computer's rotation grids, and N games (200) of each preset by them\n"
                "  realism    leagues from 1950 to 2022 beside their eras; --season for a full season\n";
   return 2;
 }
@@ -54,6 +55,7 @@ int Run(std::string_view command, const BenchOptions& options) {
   if (command == "speed") return Speed(std::cout, options);
   if (command == "one") return One(std::cout, options);
   if (command == "laws") return Laws(std::cout, options);
+  if (command == "rotation") return Rotation(std::cout, options);
   if (command == "realism") return Realism(std::cout, options);
   if (command == "players") {
     UseShippedEras();

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "frontoffice/league_maker.h"
 
@@ -27,6 +28,18 @@ int ShowTeams(const Common& common);
 /// `view`: "stats" (this season), "real" or "ratings".
 int ShowRoster(const std::string& team, const std::string& view, const Common& common);
 int RateTeams(const std::string& team, bool all, const Common& common);
+/// What the coach of a team has laid down, and what the computer would.
+struct CoachRequest {
+  std::string team, opponent;
+  std::vector<std::string> settings;  ///< CAPTION=VALUE
+  bool make = false, clear = false;
+};
+/// The depth chart by rank and the special lineups.
+int ShowDepth(const CoachRequest& request, const Common& common);
+/// The rotation grid, minute by minute.
+int ShowRotation(const CoachRequest& request, const Common& common);
+/// Sliders, and against an opponent the coverage of his men.
+int ShowPlan(const CoachRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
 int Dump(const std::string& file, int record, const Common& common);
 /// What ./run does without arguments: a league is made where there is none, then the menu or one game.

@@ -219,7 +219,7 @@ int Dump(const std::string& file, int record, const Common& common) {
   if (era && !LoadEra() && !MakeEraFile()) return 1;
   if (!DumpRecord(file, record, std::cout)) {
     return Refuse("no record " + Str(record) + " of a file \"" + file +
-                  "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES and Basketball-Era.dat");
+                  "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily and Basketball-Era.dat");
   }
   return 0;
 }

@@ -29,6 +29,7 @@ struct Arguments {
   std::string team, view = "ratings", file;
   int record = 1;
   bool all = false;
+  cli::CoachRequest coach;
 };
 
 /// Options that every command takes, in front of it or behind it.
@@ -69,7 +70,7 @@ void AddLists(CLI::App& app, Arguments& a) {
       ->capture_default_str();
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
-  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES or Basketball-Era.dat")
+  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily or Basketball-Era.dat")
       ->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
 }
@@ -93,6 +94,25 @@ void AddPlay(CLI::App& app, Arguments& a) {
   app.add_subcommand("start", "the menu; without a terminal one exhibition game");
 }
 
+void AddCoach(CLI::App& app, Arguments& a) {
+  const auto add = [&](const char* name, const char* help, const char* make) {
+    auto* command = app.add_subcommand(name, help);
+    command->add_option("team", a.coach.team, "number, abbreviation, city or nickname")->required();
+    command->add_flag("--make", a.coach.make, make);
+    command->add_flag("--csv", a.common.Csv, "as comma-separated text");
+    return command;
+  };
+  add("depth", "who plays: depth chart and special lineups", "have the computer set both");
+  auto* rotation = add("rotation", "who stands where in each minute", "have the computer set the grid");
+  rotation->add_flag("--clear", a.coach.clear, "empty the grid")->excludes("--make");
+  rotation->add_flag("--yes", a.yes, "without asking");
+  auto* plan = add("plan", "a coach's plan: sliders and coverage", "have the computer set the plan");
+  plan->add_option("--opponent", a.coach.opponent, "the plan against this team; made where there is none");
+  plan->add_option("--set", a.coach.settings,
+                   "CAPTION=VALUE, 0 least to 4 most; \"Off Crash Boards\" and \"Def Crash Boards\" tell "
+                   "the two apart");
+}
+
 int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("league")) return cli::NewLeague(a.request, a.common);
   if (app.got_subcommand("teams")) return cli::ShowTeams(a.common);
@@ -105,6 +125,9 @@ int RunCommand(CLI::App& app, Arguments& a) {
     return cli::RateTeams(a.team, a.all, a.common);
   }
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
+  if (app.got_subcommand("depth")) return cli::ShowDepth(a.coach, a.common);
+  if (app.got_subcommand("rotation")) return cli::ShowRotation(a.coach, a.common);
+  if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
@@ -120,6 +143,7 @@ int main(int argc, char** argv) {
   AddLeagueNew(app, a);
   AddLists(app, a);
   AddPlay(app, a);
+  AddCoach(app, a);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,6 +1,7 @@
 #include "coach/depth_chart.h"
 
 #include "base/numbers.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {
@@ -13,24 +14,10 @@ double MinutesPerGame(const PlayerRecord& player) {
   return real.G > 0 ? static_cast<double>(real.Min) / real.G : 0;
 }
 
-void CheckTargets(Roster& roster, const RulesRecord& rules) {
-  int sum = 0;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (OnTeam(roster, slot)) sum += roster.player[slot].TargetMinutes;
-  }
-  if (sum >= (rules.PeriodList == 2 ? 150 : 180)) return;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(roster, slot)) continue;
-    PlayerRecord& player = roster.player[slot];
-    player.TargetMinutes = static_cast<u8>(Clamp(Int(MinutesPerGame(player)), 0, 255));
-  }
-}
-
 /// A man who played little counts for less.
 double ByGames(const PlayerRecord& player) {
   const StatLine& real = player.Stats[1];
-  const bool college = player.PlayerType == 'C' || player.PlayerType == 'O';
-  const double season = EraRow(player.Year, college, 2012).Games + 1.0;
+  const double season = EraRow(player.Year, IsCollegeLevel(player), 2012).Games + 1.0;
   if (MinutesPerGame(player) >= 10 && real.G / season >= 0.2) return 1;
   return real.G < 10 ? 0.1 : real.G < 20 ? 0.2 : real.G < 30 ? 0.3 : real.G < 40 ? 0.4 : 1;
 }
@@ -134,10 +121,33 @@ void PickForLineup(Roster& roster, int lineup, int position) {
 
 }  // namespace
 
-void SetDefaultDepthCharts(Roster& roster, const RulesRecord& rules) {
+void CheckTargets(Roster& roster, const RulesRecord& rules) {
+  int sum = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (OnTeam(roster, slot)) sum += roster.player[slot].TargetMinutes;
+  }
+  if (sum >= (rules.PeriodList == 2 ? 150 : 180)) return;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(roster, slot)) continue;
+    PlayerRecord& player = roster.player[slot];
+    player.TargetMinutes = static_cast<u8>(Clamp(Int(MinutesPerGame(player)), 0, 255));
+  }
+}
+
+void ClearDepthCharts(Roster& roster) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (OnTeam(roster, slot)) roster.player[slot].DepthRank.Fill(0);
   }
+}
+
+void ClearSpecialLineups(Roster& roster) {
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (OnTeam(roster, slot)) roster.player[slot].RotationOrder.Fill(0);
+  }
+}
+
+void SetDefaultDepthCharts(Roster& roster, const RulesRecord& rules) {
+  ClearDepthCharts(roster);
   CheckTargets(roster, rules);
   for (int position = 1; position <= 5; ++position) {
     RankPosition(roster, position, rules.SalaryValueList == 1);
@@ -145,34 +155,9 @@ void SetDefaultDepthCharts(Roster& roster, const RulesRecord& rules) {
 }
 
 void SetDefaultSpecialLineups(Roster& roster) {
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (OnTeam(roster, slot)) roster.player[slot].RotationOrder.Fill(0);
-  }
+  ClearSpecialLineups(roster);
   for (int lineup = 1; lineup <= kSpecialLineups; ++lineup) {
     for (int position = 1; position <= 5; ++position) PickForLineup(roster, lineup, position);
-  }
-}
-
-void CopyRotationToCoach(Roster& roster) {
-  CoachRecord& coach = roster.coach;
-  coach.DepthChart = {};
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    const PlayerRecord& player = roster.player[slot];
-    coach.SavedStatus[slot] = player.Status;
-    coach.SavedOnlyBlowouts[slot] = player.OnlyPlayInBlowouts;
-    coach.SavedNeverBlowouts[slot] = coach.SavedNeverBlowouts2[slot] = player.NeverPlayInBlowouts;
-    coach.SavedTargetMinutes[slot] = player.TargetMinutes;
-    coach.SavedDontPlayCrunch[slot] = player.DontPlayCrunchTime;
-    coach.SavedDontPlayTired[slot] = player.DontPlayWhenTired;
-    for (int k = 1; k <= 10; ++k) coach.SavedRotationOrder[k][slot] = player.RotationOrder[k];
-    for (int p = 1; p <= 5; ++p) {
-      coach.SavedShotSelection[slot][p] = player.ShotSelection[p];
-      coach.SavedPositionAllowed[slot][p] = player.PositionAllowed[p];
-      const int rank = player.DepthRank[p];
-      if (OnTeam(roster, slot) && rank >= 1 && rank <= kRanks) {
-        coach.DepthChart[p][kRanks + 1 - rank] = static_cast<u8>(slot);
-      }
-    }
   }
 }
 

@@ -1,6 +1,8 @@
 #include "coach/plan_screen.h"
 
 #include "base/random.h"
+#include "league/files.h"
+#include "league/saved_rotation.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -159,6 +161,14 @@ bool PlanScreen::StepCell(int slot, PlanColumn column) {
 }
 
 void PlanScreen::ClearPlayerDefense() { NormalCoverage(own.coach, plan); }
+
+bool PlanScreen::ExportPlan() const { return WriteRoster(own) && ExportCoach(own.TeamNo); }
+
+bool PlanScreen::ImportPlan() {
+  if (!ImportCoach(own.TeamNo, own.coach)) return false;
+  CopyRotationFromCoach(own);
+  return true;
+}
 
 void PlanScreen::ComputerGamePlan() {
   SetDefaultPlanSliders(own, true);

@@ -48,6 +48,12 @@ struct PlanScreen {
   bool StepCell(int slot, PlanColumn column);
   /// Every man of the plan is covered as usual, nobody doubled; the usage stays.
   void ClearPlayerDefense();
+  /// Saves the team and writes its plan, rotation included, to `<City> Coach.coa` in the league folder.
+  /// False, after telling the user, when a file could not be written.
+  bool ExportPlan() const;
+  /// Takes such a file over for the team in hand, coach and men; the caller saves. False, with its message
+  /// and nothing changed, when the file is missing or belongs to another team.
+  bool ImportPlan();
   /// The computer's own plan, sliders and, where the opponent is loaded, grid. Draws.
   void ComputerGamePlan();
 };

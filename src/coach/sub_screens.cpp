@@ -1,6 +1,7 @@
 #include "coach/sub_screens.h"
 #include "engine/eligible.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -35,34 +36,22 @@ bool ShooterMissing(int side, const Table<int, 1, kPositions>& lineup) {
   return !Refuse(NameOf(side, game.BallPlayer) + " is at the line..he must be in the game!");
 }
 
-constexpr int kSpecialLineups = 7;
-
-/// The man of the side who is named for a position in a line-up, but for those already placed; 0 for nobody.
-int NamedFor(int side, int lineup, int position, const Table<bool, 1, kRosterSlots>& placed) {
-  int best = 0, bestRank = 0;
+/// Who a lineup names for a position, of those who may appear and are not taken yet; 0 nobody.
+int NamedFor(int side, int index, int position, const Table<int, 1, kPositions>& taken) {
+  int named = 0;
+  int bestRank = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!MayAppear(side, slot) || placed[slot]) continue;
+    if (!MayAppear(side, slot) || PlaceOf(taken, slot) != 0) continue;
     const PlayerRecord& p = PlayerAt(side, slot);
-    const int rank = lineup == 0 ? p.DepthRank[position] : p.RotationOrder[lineup] == position ? 1 : 0;
-    if (rank > bestRank) best = slot, bestRank = rank;
-  }
-  return best;
-}
-
-}  // namespace
-
-bool HCQUICKSUB::QuickLineup(int index) {
-  if (index < 0 || index > kSpecialLineups) return false;
-  Table<bool, 1, kRosterSlots> placed{};
-  bool named = false;
-  for (int p = 1; p <= kPositions; ++p) {
-    const int slot = NamedFor(side, index, p, placed);
-    if (slot == 0) continue;
-    placed[slot] = named = true;
-    if (lineup[p] != slot) PutIn(p, slot);
+    const int rank = index == 0 ? p.DepthRank[position] : p.RotationOrder[index] == position ? 1 : 0;
+    if (rank <= bestRank) continue;
+    bestRank = rank;
+    named = slot;
   }
   return named;
 }
+
+}  // namespace
 
 bool HCQUICKSUB::PutIn(int position, int slot) {
   if (slot < 1 || slot > kRosterSlots || !MayAppear(side, slot)) return Refuse("You must select a player!");
@@ -82,6 +71,20 @@ bool HCQUICKSUB::PutIn(int position, int slot) {
         "trouble to be entered.");
   }
   lineup[position] = slot;
+  return true;
+}
+
+bool HCQUICKSUB::QuickLineup(int index) {
+  if (index < 0 || index >= static_cast<int>(kQuickLineups.size())) return false;
+  Table<int, 1, kPositions> five{};
+  for (int position = 1; position <= kPositions; ++position) {
+    five[position] = NamedFor(side, index, position, five);
+  }
+  if (std::all_of(five.begin(), five.end(), [](int slot) { return slot == 0; })) return false;
+  for (int position = 1; position <= kPositions; ++position) {
+    if (five[position] == 0 && PlaceOf(five, lineup[position]) == 0) five[position] = lineup[position];
+  }
+  lineup = five;
   return true;
 }
 

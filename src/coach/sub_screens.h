@@ -1,9 +1,16 @@
 #pragma once
 // The panels in which a human coach makes his substitutions, at a stop. Nothing changes in the game before
 // Ok.
+#include <array>
+#include <string_view>
+
 #include "engine/game_state.h"
 
 namespace tipline {
+
+inline constexpr std::array<std::string_view, 8> kQuickLineups{
+    "Enter Starters",    "Blowout Lineup",   "Offense Lineup", "Three Point Lineup",
+    "Free Throw Lineup", "Fastbreak Lineup", "Defense Lineup", "Press Lineup"};
 
 /// The sub panel of a whole team.
 struct HCQUICKSUB {
@@ -16,10 +23,10 @@ struct HCQUICKSUB {
   /// there. False, with its message, when nobody is chosen who may play, or when the side's substitution
   /// settings keep a tired man or one in foul trouble off.
   bool PutIn(int position, int slot);
-  /// Sends a line-up in, as far as its men may come in: 0 the first men of the depth chart, 1 to 7 the
-  /// special line-ups (blowout, offense, three point, free throw, fastbreak, defense, press). A man who is
-  /// kept off is told of, and his place stays as it is. False when `index` is no line-up or nobody is named
-  /// for it.
+  /// Puts one of the special lineups in: 0 the starters by the depth chart, 1 to 7 as `kQuickLineups` names
+  /// them. Who may not appear is left out, for a starter the next of his position comes in; a position that
+  /// nobody is left for keeps its man. False, and nothing changes, for another index or when the lineup names
+  /// nobody who may appear.
   bool QuickLineup(int index);
   /// Takes the five into the game. False, with its message, when a spot is empty or the free-throw shooter is
   /// missing.

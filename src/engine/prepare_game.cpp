@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "coach/game_plan.h"
+#include "coach/plan_load.h"
 #include "coach/substitutions.h"
 #include "engine/chances.h"
 #include "engine/engine.h"
@@ -44,11 +45,23 @@ void ClearGameLine(PlayerRecord& p) {
   p.Flagrants[3] = 0;
 }
 
+bool InLeagueGame() { return program.ReplayLocked && program.GameKind == "L"; }
+
 void Available(int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
   LoadedMan& man = LoadedAt(side, slot);
-  const bool suspended = program.ReplayLocked && program.GameKind == "L" && p.SuspensionGames > 0;
-  man.PlayerOut = !OnTeam(side, slot) || p.Status == 99 || suspended ? 1 : 0;
+  const bool suspended = InLeagueGame() && p.SuspensionGames > 0;
+  if (InLeagueGame() && AwayOn(p, DateOf(game.GameMonth, game.GameDay))) man.PlayerUnavailable = 1;
+  man.PlayerOut = !OnTeam(side, slot) || p.Status == 99 || suspended || man.PlayerUnavailable ? 1 : 0;
+}
+
+/// The coach's list of days off, where his team goes by it.
+void GoByDailyList(const Roster& roster, int side) {
+  if (!InLeagueGame() || roster.coach.UseDailyInactive != 1) return;
+  const int today = DateOf(game.GameMonth, game.GameDay);
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    LoadedAt(side, slot).PlayerUnavailable = SitsOut(roster.daily[slot], today) ? 1 : 0;
+  }
 }
 
 }  // namespace
@@ -56,6 +69,7 @@ void Available(int side, int slot) {
 bool LoadTeam(int teamNo, int side) {
   Roster roster;
   const bool found = ReadRoster(teamNo, roster);
+  if (found && ReadyPlan(roster)) WriteRoster(roster);  // once: the file then holds the plan of this version
   game.GameTeam[side] = found ? teamNo : 0;
   game.team[side] = roster.team;
   game.coach[side] = roster.coach;
@@ -63,8 +77,10 @@ bool LoadTeam(int teamNo, int side) {
     game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
     game.loaded[side][slot] = {};
   }
-  if (found) ReadySide(side);
-  return found;
+  if (!found) return false;
+  GoByDailyList(roster, side);
+  ReadySide(side);
+  return true;
 }
 
 void ReadySide(int side) {

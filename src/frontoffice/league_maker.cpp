@@ -6,6 +6,7 @@
 #include "base/record_file.h"
 #include "coach/depth_chart.h"
 #include "coach/game_plan.h"
+#include "coach/plan_load.h"
 #include "frontoffice/made_up_player.h"
 #include "frontoffice/rating_math.h"
 #include "frontoffice/rating_run.h"
@@ -14,6 +15,7 @@
 #include "league/player_values.h"
 #include "league/recent.h"
 #include "league/rules.h"
+#include "league/saved_rotation.h"
 
 namespace tipline {
 namespace {
@@ -113,7 +115,7 @@ TeamRecord NewTeam(const Plan& plan, const TeamIdentity& identity, const NameDat
 void SetCoach(Roster& roster) {
   CoachRecord& coach = roster.coach;
   const std::string city = roster.team.City.Str();
-  coach.PlanVersion = roster.team.Year >= 2020 ? 120 : 123;
+  coach.PlanVersion = PlanVersionOf(roster.team.Year);
   coach.TeamNo = static_cast<i16>(roster.TeamNo);
   for (u8* mark : {&coach.DefaultsMark, &coach.DefAdjust6Mark, &coach.PaceMark, &coach.CoachPhotoMark,
                    &coach.UniformMark, &coach.DailyMark, &coach.ColorNameMark, &coach.FontMark}) {

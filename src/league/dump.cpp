@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/record_file.h"
+#include "league/daily.h"
 #include "league/files.h"
 
 namespace tipline {
@@ -235,6 +236,7 @@ const FileFormat kFormats[] = {
                         "720 records; record number = team number"),
     Format<RulesRecord>("HCRULES", RulesFile, kRulesSlotBytes,
                         "2 records: 1 the rules, below; 2 the pools of the tournament"),
+    Format<DailyRecord>("HcDaily", DailyFile, kDailySlotBytes, "record number = RecNo of the player"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
 };

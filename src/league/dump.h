@@ -7,9 +7,9 @@
 namespace tipline {
 
 /// Prints record n of a file field by field: offset, name, value, meaning. The last part of `fileName` says
-/// which format it is (HCTEAMS, HCPLAYER, HCgameplan, HCRULES, Basketball-Era.dat; letters large or small); a
-/// bare name lies in the league folder, the era file in the program folder. False, and nothing printed, for
-/// another name or a record that does not begin within the file.
+/// which format it is (HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily, Basketball-Era.dat; letters large or
+/// small); a bare name lies in the league folder, the era file in the program folder. False, and nothing
+/// printed, for another name or a record that does not begin within the file.
 bool DumpRecord(std::string_view fileName, int n, std::ostream& out);
 
 /// The formats of all these files as a document in Markdown.

@@ -27,6 +27,7 @@ std::filesystem::path TeamsFile() { return LeagueFile("HCTEAMS"); }
 std::filesystem::path PlayersFile() { return LeagueFile("HCPLAYER"); }
 std::filesystem::path CoachesFile() { return LeagueFile("HCgameplan"); }
 std::filesystem::path RulesFile() { return LeagueFile("HCRULES"); }
+std::filesystem::path DailyFile() { return LeagueFile("HcDaily"); }
 
 std::filesystem::path EraFile() {
   if (program.ProgramFolder.empty()) return {};
@@ -104,16 +105,15 @@ bool ExportCoach(int team) {
   return Written(file.Write(1, coach), file.Path());
 }
 
-bool ImportCoach(int team) {
+bool ImportCoach(int team, CoachRecord& coach) {
   if (!IsTeamSlot(team)) return false;
-  CoachRecord coach;
-  CoachExport(team).Read(1, coach);
-  if (coach.TeamNo != team) {
+  CoachRecord read;
+  CoachExport(team).Read(1, read);
+  if (read.TeamNo != team) {
     platform::dialogs().Tell("You may only import a game plan for " + league.team[team].City.Str() + "!");
     return false;
   }
-  if (!Written(Coaches().Write(team, coach), CoachesFile())) return false;
-  league.coach[team] = coach;
+  coach = read;
   return true;
 }
 

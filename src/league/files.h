@@ -14,6 +14,7 @@ std::filesystem::path TeamsFile();    ///< HCTEAMS of the open league
 std::filesystem::path PlayersFile();  ///< HCPLAYER
 std::filesystem::path CoachesFile();  ///< HCgameplan
 std::filesystem::path RulesFile();    ///< HCRULES
+std::filesystem::path DailyFile();    ///< HcDaily
 std::filesystem::path EraFile();      ///< Basketball-Era.dat of the program folder, shared by all leagues
 
 /// The team's city as a part of a file name: without / \ + * ? and zero bytes.
@@ -56,8 +57,8 @@ void ZeroPlayer(PlayerRecord& player, int block);
 /// The coach's plan of a team, as HCgameplan holds it, in a file of its own: `<City> Coach.coa` in the league
 /// folder. False when it could not be written.
 bool ExportCoach(int team);
-/// Reads such a file over the team's record, in memory and in HCgameplan. Refused, with its message, when the
-/// file is missing or belongs to another team.
-bool ImportCoach(int team);
+/// Reads such a file over `coach`. Refused, with its message and nothing changed, when the file is missing or
+/// belongs to another team.
+bool ImportCoach(int team, CoachRecord& coach);
 
 }  // namespace tipline

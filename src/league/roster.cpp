@@ -1,7 +1,10 @@
 #include "league/roster.h"
 
+#include <memory>
+
 #include "base/record_file.h"
 #include "league/files.h"
+#include "league/saved_rotation.h"
 
 namespace tipline {
 namespace {
@@ -19,7 +22,9 @@ void ReadMan(const RecordFile& players, i16& entry, PlayerRecord& man) {
 
 bool WriteCoachOf(const Roster& roster) {
   const RecordFile file(CoachesFile(), kCoachSlotBytes);
-  CoachRecord coach = roster.coach;
+  const auto saved = std::make_unique<Roster>(roster);
+  CopyRotationToCoach(*saved);
+  CoachRecord& coach = saved->coach;
   coach.TeamNo = static_cast<i16>(roster.TeamNo);
   if (!Written(file.Write(roster.TeamNo, coach), file.Path())) return false;
   league.coach[roster.TeamNo] = coach;
@@ -44,6 +49,14 @@ bool WriteTeamOf(const Roster& roster) {
   return true;
 }
 
+bool WriteDaysOff(const Roster& roster) {
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(roster, slot) || roster.player[slot].RecNo < 1) continue;
+    if (!WriteDaily(roster.player[slot].RecNo, roster.daily[slot])) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 bool ReadRoster(int teamNo, Roster& roster) {
@@ -60,13 +73,14 @@ bool ReadRoster(int teamNo, Roster& roster) {
   coaches.Read(teamNo, roster.coach);
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (team.Roster[slot] > 0) ReadMan(players, roster.team.Roster[slot], roster.player[slot]);
+    ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
   }
   return true;
 }
 
 bool WriteRoster(const Roster& roster) {
   if (roster.TeamNo < 1 || roster.TeamNo > kTeams) return false;
-  return WriteCoachOf(roster) && WriteMen(roster) && WriteTeamOf(roster);
+  return WriteCoachOf(roster) && WriteMen(roster) && WriteTeamOf(roster) && WriteDaysOff(roster);
 }
 
 }  // namespace tipline

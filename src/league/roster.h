@@ -1,6 +1,7 @@
 #pragma once
 // One team with its men, as roster screens, rating runs and games take it.
 #include "base/tables.h"
+#include "league/daily.h"
 #include "league/league.h"
 
 namespace tipline {
@@ -10,6 +11,7 @@ struct Roster {
   TeamRecord team;
   CoachRecord coach;
   Table<PlayerRecord, 0, kRosterSlots> player;  ///< by roster slot; 0 stays empty, an unused slot has RecNo 0
+  Table<DailyRecord, 0, kRosterSlots> daily;    ///< the days off of each of them
 };
 
 /// The man of a roster slot belongs to the team; an empty slot, or a former member who keeps his, does not.
@@ -17,13 +19,13 @@ inline bool OnTeam(const Roster& roster, int slot) {
   return roster.player[slot].RecNo != 0 && roster.player[slot].TeamNo == roster.TeamNo;
 }
 
-/// Reads a team, its coach and its men from the league folder. Roster slots that point at a removed row are
-/// cleared in the copy. False when `teamNo` is outside 1..720 or the slot holds no team.
+/// Reads a team, its coach, its men and their days off from the league folder. Roster slots that point at a
+/// removed row are cleared in the copy. False when `teamNo` is outside 1..720 or the slot holds no team.
 bool ReadRoster(int teamNo, Roster& roster);
 
-/// Writes coach, men (each at its RecNo) and team back, in this order; `league.coach` and `league.team`
-/// follow. A slot without a man is cleared. False, after telling the user, when a file could not be written;
-/// what comes after it is then left alone.
+/// Writes coach (with what the men carry of the rotation), men (each at its RecNo), team and days off back,
+/// in this order; `league.coach` and `league.team` follow. A slot without a man is cleared. False, after
+/// telling the user, when a file could not be written; what comes after it is then left alone.
 bool WriteRoster(const Roster& roster);
 
 }  // namespace tipline

@@ -80,19 +80,18 @@ TEST_F(Rosters, APlanTravelsOnlyToItsOwnTeam) {
   ASSERT_TRUE(WriteCoach(5));
   ASSERT_TRUE(ExportCoach(5));
   const auto file = program.LeagueFolder / "SalemWest Coach.coa";
-  league.coach[5].OverallPace = 1;
-  ASSERT_TRUE(WriteCoach(5));
-  ASSERT_TRUE(ImportCoach(5));
-  EXPECT_EQ(league.coach[5].OverallPace, 3);
-  league.coach[5] = {};
-  ASSERT_TRUE(ReadCoach(5));
-  EXPECT_EQ(league.coach[5].OverallPace, 3) << "in the file, too";
+  CoachRecord coach;
+  ASSERT_TRUE(ImportCoach(5, coach));
+  EXPECT_EQ(coach.OverallPace, 3);
 
   league.team[6].City = "Aston";
   std::filesystem::rename(file, program.LeagueFolder / "Aston Coach.coa");
-  EXPECT_FALSE(ImportCoach(6));
+  coach = {};
+  EXPECT_FALSE(ImportCoach(6, coach));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"You may only import a game plan for Aston!"});
-  EXPECT_EQ(league.coach[6].OverallPace, 0);
+  EXPECT_EQ(coach.OverallPace, 0);
+  std::filesystem::resize_file(program.LeagueFolder / "Aston Coach.coa", 3);
+  EXPECT_FALSE(ImportCoach(6, coach)) << "cut off before the team number";
 }
 
 }  // namespace

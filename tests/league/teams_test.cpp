@@ -130,7 +130,8 @@ TEST_F(Teams, AnyBytesOpenWithoutHarm) {
 TEST_F(Teams, NumbersOutsideTheLeagueChangeNothing) {
   for (const int team : {0, 721, 999, -1}) {
     EXPECT_FALSE(ReadTeam(team) || WriteTeam(team) || ReadCoach(team) || WriteCoach(team)) << team;
-    EXPECT_FALSE(ExportCoach(team) || ImportCoach(team)) << team;
+    CoachRecord coach;
+    EXPECT_FALSE(ExportCoach(team) || ImportCoach(team, coach)) << team;
   }
   EXPECT_FALSE(ReadTeam(1)) << "no file";
   EXPECT_TRUE(std::filesystem::is_empty(program.LeagueFolder));

@@ -1,0 +1,14 @@
+#pragma once
+// What a team's plan needs before it is read: at the load for a game or a screen.
+#include "league/roster.h"
+
+namespace tipline {
+
+/// `PlanVersion` of a team's plans by its year.
+constexpr int PlanVersionOf(int year) { return year >= 2020 ? 120 : 123; }
+
+/// Sliders out of range go back to neutral; a team without plans gets them; plans of another version are made
+/// anew, with the depth charts, and the rotation grid is cleared. True when something changed.
+bool ReadyPlan(Roster& roster);
+
+}  // namespace tipline

@@ -1,0 +1,56 @@
+#include "league/daily.h"
+
+#include <algorithm>
+
+#include "base/record_file.h"
+#include "league/files.h"
+
+namespace tipline {
+namespace {
+
+constexpr u8 kCleared = 99;
+
+RecordFile Daily() { return {DailyFile(), kDailySlotBytes}; }
+
+}  // namespace
+
+void ReadDaily(int recNo, DailyRecord& daily) {
+  daily = {};
+  if (recNo >= 1) Daily().Read(recNo, daily);
+  if (daily.DailyMark != kCleared) daily = {};
+  daily.DailyMark = kCleared;
+}
+
+bool WriteDaily(int recNo, const DailyRecord& daily) {
+  return recNo >= 1 && Written(Daily().Write(recNo, daily), DailyFile());
+}
+
+bool SitsOut(const DailyRecord& daily, int date) {
+  const auto first = daily.InactiveDates.begin() + 1;
+  return date > 0 && std::find(first, daily.InactiveDates.end(), date) != daily.InactiveDates.end();
+}
+
+bool EnterDate(DailyRecord& daily, int date) {
+  const auto free = std::find(daily.InactiveDates.begin() + 1, daily.InactiveDates.end(), 0);
+  if (free == daily.InactiveDates.end()) return false;
+  *free = static_cast<i16>(date);
+  return true;
+}
+
+void ClearDate(DailyRecord& daily, int date) {
+  std::replace(daily.InactiveDates.begin() + 1, daily.InactiveDates.end(), static_cast<i16>(date), i16{0});
+}
+
+bool AwayOn(const PlayerRecord& p, int date) {
+  const bool notYet = p.StartMonth > 0 && date < DateOf(p.StartMonth, p.StartDay);
+  const bool noMore = p.EndMonth > 0 && date > DateOf(p.EndMonth, p.EndDay);
+  if (league.rules.TransactionDatesCheck == 1 && (notYet || noMore)) return true;
+  for (int span = 1; span <= 5; ++span) {
+    const int start = DateOf(p.InactiveStartMonth[span], p.InactiveStartDay[span]);
+    const int stop = DateOf(p.InactiveStopMonth[span], p.InactiveStopDay[span]);
+    if (start <= date && date <= stop) return true;
+  }
+  return false;
+}
+
+}  // namespace tipline
