@@ -1,6 +1,4 @@
 // Commands about the men: substitutions, line-ups, the jumper, box and figures; and the end of it all.
-#include <array>
-
 #include "cli/box_score.h"
 #include "cli/coach_screen.h"
 #include "cli/coach_table.h"
@@ -8,9 +6,6 @@
 
 namespace tipline::cli {
 namespace {
-
-constexpr std::array<std::string_view, 8> kLineups{"starters",   "blowout",   "offense", "three point",
-                                                   "free throw", "fastbreak", "defense", "press"};
 
 std::string FiveOf(int side) {
   std::string text;
@@ -72,8 +67,8 @@ Answer DoSub(CoachSession& session, const Words& words) {
 }
 
 Answer DoLineup(CoachSession& session, const Words& words) {
-  const int lineup = ChoiceOf(Joined(words), kLineups);
-  if (lineup < 0) return session.Refuse("Which line-up: " + Listed(kLineups) + "?");
+  const int lineup = ChoiceOf(Joined(words), kQuickLineups);
+  if (lineup < 0) return session.Refuse("Which line-up: " + Listed(kQuickLineups) + "?");
   HCQUICKSUB panel(session.Side());
   if (!panel.QuickLineup(lineup)) return session.Refuse("Nobody is named for that line-up.");
   if (!panel.Ok()) return Answer::kRefused;
