@@ -159,9 +159,9 @@ int main(int argc, char** argv) {
       return kWrongUsage;
     }
   }
-  tipline::random.Seed(a.common.Seed ? *a.common.Seed
-                                     : static_cast<std::uint64_t>(
-                                           std::chrono::system_clock::now().time_since_epoch().count()));
+  tipline::SeedRandom(a.common.Seed ? *a.common.Seed
+                                    : static_cast<std::uint64_t>(
+                                          std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
   terminal.AssumeYes = a.yes || a.schedule.Yes;
   program.Home = platform::DataHome(a.home);

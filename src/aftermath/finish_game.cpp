@@ -82,6 +82,16 @@ void AddPlaceLine(Table<StatLine, 1, 3>& lines, const StatLine& line) {
   if (line.GS == 1) Add(lines[2].GS, 1);
 }
 
+/// A game of the suspension is served; one that was earned today begins with the next game.
+void ServeSuspensions() {
+  for (int s = 1; s <= 2; ++s) {
+    for (int slot = 1; slot <= kRosterSlots; ++slot) {
+      u8& games = PlayerAt(s, slot).SuspensionGames;
+      if (LoadedAt(s, slot).Suspended && games > 0) --games;
+    }
+  }
+}
+
 void AddToSeason(int side, int slot) {
   PlayerRecord& p = PlayerAt(side, slot);
   const Man& man = ManAt(side, slot);
@@ -148,6 +158,7 @@ void AddTeamLines() {
 }  // namespace
 
 void FinishGame() {
+  if (program.GameKind == "L") ServeSuspensions();
   for (int s = 1; s <= 2; ++s) {
     const int left = CountEligible(s);
     game.side[s].ShortHanded = left < kPositions ? left : 0;

@@ -5,6 +5,12 @@
 namespace tipline {
 
 Random random;
+Random showRandom;
+
+void SeedRandom(std::uint64_t seed) {
+  random.Seed(seed);
+  showRandom.Seed(~seed);
+}
 
 void Random::Seed(std::uint64_t seed) {
   for (auto& word : state_) {  // splitmix64, so that neighbouring seeds give unlike games

@@ -144,7 +144,10 @@ void NoteChange() {
   if (game.side[1].Lineup == game.side[1].PreviousLineup &&
       game.side[2].Lineup == game.side[2].PreviousLineup)
     return;
-  if (game.GameClock != FullPeriod()) game.PlayResult = "";
+  if (game.GameClock != FullPeriod()) {
+    game.PlayResult = "";
+    game.LineupAnnounced = 1;
+  }
   game.LastSubClock = game.GameClock;
 }
 

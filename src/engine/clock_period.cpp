@@ -84,7 +84,7 @@ bool PeriodIsOver() {
   if (game.PlayResult == "NOSHOT" || game.play.NoShotEnd == 1 || game.PlayKind == "ENDPERIOD") return true;
   const PlayResult& r = game.PlayResult;
   const bool shotsToCome = r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "GF" || r == "MF" ||
-                           r == "G3F" || r == "M3F";
+                           r == "G3F" || r == "M3F" || game.play.FlagrantLevel > 0;
   if (shotsToCome || IsFreeThrow(game.PlayKind)) return false;
   return !(IsFreeThrow(game.GameState) && game.PlayKind.Text().size() >= 6);
 }
@@ -127,6 +127,7 @@ void OpenPeriod(int clock) {
   game.PlayResult = "";
   game.possession = {};
   game.SecondChance = 0;
+  game.TechnicalFreeThrow = 0;
   game.LastSubClock = 99999;  // of the period before
   for (Side& side : game.side) side.TeamFouls = 0;
 }
@@ -203,8 +204,9 @@ void EndPeriod() {
 /// Free throws are still to be shot when the clock is out.
 bool FreeThrowsRemain() {
   const PlayResult& r = game.PlayResult;
-  return IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) || r == "F1" || r == "F2" || r == "F1-1" ||
-         r == "F3-2" || r == "FTM" || r == "FTG" || r == "MF" || r == "M3F" || r == "GF" || r == "G3F";
+  return game.play.FlagrantLevel > 0 || IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) ||
+         r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "FTM" || r == "FTG" || r == "MF" ||
+         r == "M3F" || r == "GF" || r == "G3F";
 }
 
 void ClearOrders(Side& side) {

@@ -6,6 +6,7 @@
 
 #include "engine/chances.h"
 #include "engine/clock.h"
+#include "engine/incidents.h"
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"
 #include "engine/who.h"
@@ -357,12 +358,10 @@ void PostFreeThrow() {
     PostPoints(game.OffenseSide, game.BallPlayer, 1, 'F');
     if (!TimeLeft() && (game.PlayKind == "SHOOT1" || game.PlayKind == "SHOOT2-1"))
       game.PlayKind = "ENDPERIOD";
+  } else if (lastShot && !TimeLeft()) {
+    game.PlayKind = "ENDPERIOD";
   } else if (lastShot && !game.TechnicalFreeThrow) {
-    if (TimeLeft()) {
-      FightForRebound();
-    } else {
-      game.PlayKind = "ENDPERIOD";
-    }
+    FightForRebound();
   }
   if (game.PlayKind == "ENDPERIOD") game.GameState = "DEADBALL-DEFENSE";
 }
@@ -386,9 +385,11 @@ void Post() {
     MissedShot();
   } else if (r == "MF" || r == "M3F") {
     PostFoul(game.DefenseSide, game.play.Fouler);
+    FlagrantFoul();
   } else if (IsFloorFoul(r)) {
     PostFoul(game.DefenseSide, game.play.Fouler);
     OffBallVictim();
+    FlagrantFoul();
   } else if (r == "FTG" || r == "FTM") {
     PostFreeThrow();
   } else if (r == "ST") {

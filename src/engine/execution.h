@@ -43,6 +43,10 @@ void CountPossession(int side);
 /// `game.possession`.
 void SwapSides();
 
+/// The other side goes to the line for a technical, or is done there: the sides change over, but nobody has
+/// lost the ball and no possession has ended.
+void FaceAbout();
+
 /// A row of the play log: what a man (slot 0: the team) of `side` tried and what came of it, at `clock`
 /// tenths left. When the log is full the row is left out.
 void AddPlayLog(int clock, int side, int slot, PlayKind action, PlayResult outcome, PlayNote note = kNoNote,

@@ -23,10 +23,11 @@ struct LoadedMan {
   int PlayerOut = 0;  ///< 1 = cannot play (status, suspension, injury; in the game: ejection, lasting injury)
   int PlayerUnavailable = 0;  ///< 1 = out by dates, spans or the daily list
   double SharePutback = 0, ShareBreak = 0, ShareInside = 0, ShareOutside = 0,
-         ShareDrive = 0;  ///< see ShotMix
-  double HotHand = 0;     ///< today's shooting form, a fraction added to his percentages
-  int PlayLength = 3000;  ///< stint before he needs a rest, 3000 to 14000
-  int RestLength = 300;   ///< rest that restores him fully, 300 to 2400
+         ShareDrive = 0;   ///< see ShotMix
+  double HotHand = 0;      ///< today's shooting form, a fraction added to his percentages
+  bool Suspended = false;  ///< he sits out a game of his suspension
+  int PlayLength = 3000;   ///< stint before he needs a rest, 3000 to 14000
+  int RestLength = 300;    ///< rest that restores him fully, 300 to 2400
 };
 
 /// Points, rebounds, assists, steals, blocks and turnovers of a stretch of the game.
@@ -115,6 +116,7 @@ struct Side {
   int GameFGA = 0, GameTo = 0;                      ///< the side's totals in this game
   int GameTeamTurnovers = 0, GameTeamRebounds = 0;  ///< charged to the team and to no player
   int LooseBalls = 0;
+  int IllegalDefenses = 0;
   int FastbreakPoints = 0, BenchPoints = 0, BiggestLead = 0;
   int ExtraPaintPoints = 0, ExtraSecondChancePoints = 0;
   i32 TimeSinceScore = 0;
@@ -168,7 +170,9 @@ struct Play {
   int TrapPass = 0;  ///< 1 = a lob was stolen on a lazy pass
   int AirBall = 0, BlockKept = 0, GoaltendMark = 0, CloseMiss = 0;
   int BasketInterference = 0, ShotStuck = 0;
-  int FlagrantLevel = 0;
+  int FlagrantLevel = 0;     ///< 0, 1, 2
+  bool InjuryFound = false;  ///< what PickInjury found: whom, and for how many games
+  int InjuredSide = 0, InjuredPlayer = 0, InjuryLength = 0;
   int NoShotEnd = 0;           ///< 1 = the period ran out without a shot
   int TipIn = 0;               ///< 0 none, 1 a tip-in missed, 2 a tip-in scored
   tipline::PlayResult Posted;  ///< the result as it was posted, before the ball went on
@@ -225,6 +229,34 @@ struct FastBreak {
   int BreakStealer = 0;  ///< slot of the man whose steal began it, 0 none
 };
 
+/// What interrupted the last play, for those who show the game.
+enum class IncidentKind : u8 {
+  kNone,
+  kShakenUp,
+  kTemporaryInjury,
+  kInjury,
+  kIllegalDefense,
+  kFight,
+  kTechnical,
+  kDelay,
+  kFlagrant
+};
+struct Incident {
+  IncidentKind Kind = IncidentKind::kNone;
+  int Side = 0, Slot = 0;   ///< who was hurt or is at fault; an illegal defense is nobody's alone
+  int OtherSlot = 0;        ///< the man of the other side: his opponent in a fight, the man who was fouled
+  int InjuryWord = 0;       ///< 1 to 60
+  int Length = 0;           ///< injury: games
+  int FlagrantLevel = 0;    ///< 0 when the review made it a common foul
+  bool Warning = false;     ///< illegal defense: no shot
+  bool Reviewed = false;    ///< the officials looked at it again
+  bool Ejected = false;     ///< both men, after a fight
+  int Suspension = 0;       ///< games
+  int OtherSuspension = 0;  ///< of the other man
+  int Shots = 0;            ///< free throws, 0 none
+  int ShooterSide = 0, Shooter = 0;
+};
+
 struct ScoreLogRow {
   u8 Slot = 0, Side = 0;
   i16 VisitorScore = 0, HomeScore = 0;  ///< after the play
@@ -244,7 +276,18 @@ struct PlayLogRow {
   u8 Note = 0;                      ///< PlayNote
   i16 VisitorScore = 0, HomeScore = 0;
 };
-enum PlayNote : u8 { kNoNote, kAssistedBy, kBlockedBy, kStolenBy, kFouledBy, kTimeoutNote, kMediaTimeout };
+enum PlayNote : u8 {
+  kNoNote,
+  kAssistedBy,
+  kBlockedBy,
+  kStolenBy,
+  kFouledBy,
+  kTimeoutNote,
+  kMediaTimeout,
+  kInjuryNote,
+  kFightNote,
+  kTechnicalNote
+};
 
 /// The coverage, double teams and help as they stood before a call for one play changed them.
 struct CoverageCopy {
@@ -286,13 +329,16 @@ struct GameRun {
   int MomentumTime = 0;  ///< 600 after a timeout; TimeoutFocus acts while it is above 0
   int MomentumMark = 0;
   int LastSubClock = 99999;
-  int Tension = 0;
+  int Tension = 0;          ///< hard fouls since the game or the last fight began
+  int InjuryListChars = 0;  ///< length of the list of men hurt in this game
+  int LineupAnnounced = 0;  ///< 1 = the last stop brought a line-up change
   tipline::PlayKind LastShotKind;
   int SecondChance = 0;  ///< 1 = this possession had an offensive rebound
 
   Table<Side, 1, 2> side;
   Table2<Man, 1, 2, 0, kRosterSlots> man;
   Play play;
+  Incident incident;  ///< of the last play
   Call call;
   Possession possession;
   FastBreak fastBreak;

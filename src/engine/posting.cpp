@@ -212,6 +212,12 @@ void SwapSides() {
   game.BallPlayer = game.BallSlot = 0;
 }
 
+void FaceAbout() {
+  std::swap(game.OffenseSide, game.DefenseSide);
+  game.possession = {};
+  game.BallPlayer = game.BallSlot = 0;
+}
+
 void AddPlayLog(int clock, int side, int slot, PlayKind action, PlayResult outcome, PlayNote note,
                 int otherSide, int otherSlot) {
   if (game.PlayLogCount == kPlayLogRows) return;

@@ -4,6 +4,7 @@
 #include "coach/game_plan.h"
 #include "coach/plan_load.h"
 #include "coach/substitutions.h"
+#include "engine/availability.h"
 #include "engine/chances.h"
 #include "engine/engine.h"
 #include "engine/fatigue.h"
@@ -45,16 +46,6 @@ void ClearGameLine(PlayerRecord& p) {
   p.Flagrants[3] = 0;
 }
 
-bool InLeagueGame() { return program.ReplayLocked && program.GameKind == "L"; }
-
-void Available(int side, int slot) {
-  const PlayerRecord& p = PlayerAt(side, slot);
-  LoadedMan& man = LoadedAt(side, slot);
-  const bool suspended = InLeagueGame() && p.SuspensionGames > 0;
-  if (InLeagueGame() && AwayOn(p, DateOf(game.GameMonth, game.GameDay))) man.PlayerUnavailable = 1;
-  man.PlayerOut = !OnTeam(side, slot) || p.Status == 99 || suspended || man.PlayerUnavailable ? 1 : 0;
-}
-
 /// The coach's list of days off, where his team goes by it.
 void GoByDailyList(const Roster& roster, int side) {
   if (!InLeagueGame() || roster.coach.UseDailyInactive != 1) return;
@@ -86,9 +77,9 @@ bool LoadTeam(int teamNo, int side) {
 void ReadySide(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) game.player[side][slot] = {};
-    Available(side, slot);
     LoadedAt(side, slot).HotHand = DrawHotHand();
   }
+  SetAvailability(side);
   ShotMix(side);
   SetStints(side);
 }

@@ -9,6 +9,7 @@
 #include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/fatigue.h"
+#include "engine/incidents.h"
 #include "engine/outcome.h"
 #include "engine/resolution_steps.h"
 #include "engine/shot_selection.h"
@@ -21,6 +22,7 @@ bool ShotClockRule() { return league.rules.ShotClockList > 0; }
 
 void ClearPlay() {
   game.play = {};
+  if (game.incident.Kind != IncidentKind::kNone) game.incident = {};
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
   game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
@@ -189,8 +191,15 @@ void FindResult() {
   game.PeriodStart = game.GameClock == FullPeriod() ? 1 : 0;
   PrepareWeights();
   if (game.GameOver) return;
+  if (PlayIsInterrupted()) {
+    RestoreCoverage();
+    ClearOrders();
+    game.AfterTimeout = IsTimeout(game.GameState) ? 1 : 0;
+    return;
+  }
   ExtraPass();
   const int hadBall = game.OffenseSide;
+  const bool technical = IsFreeThrow(game.PlayKind) && game.TechnicalFreeThrow;
   if (IsFreeThrow(game.PlayKind)) {
     ShootFreeThrow();
   } else {
@@ -201,7 +210,8 @@ void FindResult() {
     ChargeTime();
   }
   PostPlay();
-  if (!game.GameOver && hadBall != game.OffenseSide) game.side[hadBall].LastPossessionClock = game.GameClock;
+  const bool lost = hadBall != game.OffenseSide && !technical;
+  if (!game.GameOver && lost) game.side[hadBall].LastPossessionClock = game.GameClock;
   RestoreCoverage();
   ClearOrders();
 }

@@ -2,8 +2,10 @@
 #include <algorithm>
 
 #include "engine/clock.h"
+#include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/fatigue.h"
+#include "engine/incidents.h"
 #include "engine/outcome.h"
 #include "engine/who.h"
 
@@ -60,17 +62,18 @@ void AfterBasket() {
 void LetSubIn(int side) {
   int& waiting = game.side[side].WaitingSub;
   const int position = PositionOf(side, game.BallPlayer);
-  if (waiting > 0 && position > 0 && PositionOf(side, waiting) == 0)
+  if (position > 0 && PositionOf(side, waiting) == 0 && MayAppear(side, waiting)) {
     game.side[side].Lineup[position] = waiting;
+  }
   waiting = 0;
 }
 
 void EndTrip() {
-  LetSubIn(game.OffenseSide);
+  if (game.PlayResult == "FTG") LetSubIn(game.OffenseSide);
   FullClock();
   game.PlayKind = "";
   if (game.TechnicalFreeThrow) {
-    if (game.TechnicalSide != 0 && game.TechnicalSide != game.OffenseSide) SwapSides();
+    if (game.TechnicalSide != 0 && game.TechnicalSide != game.OffenseSide) FaceAbout();
     game.GameState = "OFFENSE";
     game.TechnicalFreeThrow = 0;
     return;
@@ -142,7 +145,11 @@ void Goaltending() {
 }
 
 void Flagrant() {
+  EjectFlagrantFouler();
   game.PlayResult = "FLAGRANT";
+  game.incident.Shots = 2;
+  game.incident.ShooterSide = game.OffenseSide;
+  game.incident.Shooter = game.BallPlayer;
   game.TechnicalFreeThrow = 1;
   game.TechnicalSide = game.OffenseSide;
   GoToLine("SHOOT2");
@@ -178,7 +185,10 @@ void LeaveBall() {
   if (r == "OF") return AfterOffensiveFoul();
   if (r == "LOOSE-OFF" || r == "LOOSE-DEF") return AfterLooseBall();
   if (r == "2XPF") return DoubleFoulStop();
-  if (r == "DELAY") game.DeadBallKind = 1;
+  if (r == "DELAY") {
+    game.DeadBallKind = 1;
+    game.incident.Kind = IncidentKind::kDelay;
+  }
   if (r == "HOLD BALL" || r == "BURN" || r == "IN-EZ" || r == "MOVE-UP") return PlayOn();
   if (r == "FORCED-TIMEOUT") {
     game.PlayKind = "";

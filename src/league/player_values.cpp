@@ -106,4 +106,9 @@ void DefaultSALARY(PlayerRecord& player, bool collegeTeam) {
   player.Salary = std::max(300, Int(salary));
 }
 
+int Durability(const PlayerRecord& player) {
+  const int forAll = league.rules.UniversalDurabilityList;
+  return forAll > 0 ? forAll : player.RateDurability;
+}
+
 }  // namespace tipline

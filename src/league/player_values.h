@@ -17,6 +17,9 @@ double PositionDefense(const PlayerRecord& player, int position);
 /// passing and rebounding. Reads his real line, his ratings and the era tables.
 double PlayerOverall(const PlayerRecord& player);
 
+/// His durability, or the one that the rules give to all men.
+int Durability(const PlayerRecord& player);
+
 /// Sets `Salary`, in thousands and at least 300, from the same value and his minutes.
 void DefaultSALARY(PlayerRecord& player, bool collegeTeam);
 

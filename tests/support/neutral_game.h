@@ -25,6 +25,7 @@ inline PlayerRecord MeanMan(int team, int position) {
   man.RateOffense = 50, man.RealInsidePct = 50, man.RateClutch = 5;
   man.RateOffInside = man.RateOffOutside = man.RateOffDrive = man.RateOffFastbreak = 6;
   man.RateOffThree = 5, man.RatePassing = man.RateRebDef = man.RateRebOff = 4;
+  man.RateSportsmanship = 10, man.RateDurability = 10;  // nothing interrupts the play
   man.RateDefOutside = 5, man.RateDefInside = 4, man.RateDefForce = 5;
   man.AltForm1 = man.AltForm2 = man.AltForm3 = man.AltForm4 = man.AltForm5 = 10;
   return man;

@@ -1,0 +1,33 @@
+#pragma once
+// The tests of a play's incidents, and what they share.
+#include "engine/game_state.h"
+
+namespace tipline {
+
+/// Each test is true when it stopped the play.
+bool ShakenUpTest();
+bool TemporaryInjuryTest();
+bool InjuryTest();
+bool IllegalDefenseTest();
+bool FightTest();
+bool TechnicalTest();
+
+/// Either side is told to foul or to reach for the ball.
+bool FoulCalled();
+/// The ball is live in a set: the only moment at which play is interrupted.
+inline bool InSet() { return game.GameState == "DEFENSE" || game.GameState == "OFFENSE"; }
+/// Both sides have more men than this.
+inline bool BothHaveMoreThan(int men) {
+  return game.side[1].EligibleCount > men && game.side[2].EligibleCount > men;
+}
+/// The man leaves the floor, and the ball with him.
+void LeaveFloor(int side, int slot);
+/// The clock stands for it, and no timeout is charged.
+void StopForIncident();
+/// Out for this game, and by the rule of suspensions for `games` more. Returns the games.
+int Eject(int side, int slot, int games);
+/// `side` shoots so many technicals, taken by the man named for it or its best shooter; the side that has
+/// the ball keeps it.
+void GiveTechnicalShots(int side, int shots);
+
+}  // namespace tipline
