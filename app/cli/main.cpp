@@ -7,9 +7,12 @@
 
 #include "base/random.h"
 #include "cli/schedule_commands.h"
+#include "cli/stop_signals.h"
 #include "cli/terminal.h"
 #include "league/dump.h"
 #include "league/program.h"
+#include "league/setup.h"
+#include "league/startup.h"
 #include "platform/folders.h"
 
 namespace {
@@ -24,7 +27,7 @@ struct Arguments {
   Common common;
   std::string home;
   std::uint64_t seed = 0;
-  bool yes = false;
+  bool yes = false, force = false;
   LeagueRequest request;
   PlayRequest play;
   std::string team, view = "ratings", file;
@@ -41,6 +44,7 @@ void AddCommon(CLI::App& app, Arguments& a) {
   app.add_option("--seed", a.seed, "seed of the random numbers: the run then repeats exactly")
       ->check(CLI::NonNegativeNumber);
   app.add_flag("--quiet", a.common.Quiet, "print results only");
+  app.add_flag("--force", a.force, "go on although another copy of the program seems to have the data open");
   app.fallthrough();
   app.require_subcommand(0, 1);
 }
@@ -136,6 +140,21 @@ int RunCommand(CLI::App& app, Arguments& a) {
   return 0;
 }
 
+/// The data tree is free, or the user goes on all the same.
+bool MayStart(cli::Terminal& terminal, bool force) {
+  terminal.AssumeYes = force;
+  terminal.YesOption = "--force";
+  const bool may = CheckGameOpenStatus();
+  terminal.YesOption = "--yes";
+  return may;
+}
+
+/// The data tree is marked as open while this lives, however the program ends.
+struct Opened {
+  Opened() { cli::CloseOnSignals(StatusFilePath()); }
+  ~Opened() { MarkClosed(); }
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -163,10 +182,13 @@ int main(int argc, char** argv) {
                                     : static_cast<std::uint64_t>(
                                           std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
-  terminal.AssumeYes = a.yes || a.schedule.Yes;
   program.Home = platform::DataHome(a.home);
   program.ProgramFolder = program.Home / "program";
   try {
+    LoadSetup();
+    if (!MayStart(terminal, a.force)) return 1;
+    const Opened opened;
+    terminal.AssumeYes = a.yes || a.schedule.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

@@ -1,7 +1,6 @@
 // One exhibition game: between computers in one go, or coached at the terminal.
 #include <unistd.h>
 
-#include <csignal>
 #include <iostream>
 
 #include "cli/box_score.h"
@@ -18,24 +17,11 @@
 namespace tipline::cli {
 namespace {
 
-constexpr int kInterrupted = 130;
-
-/// Ctrl-C leaves at once. Lines are read as they are typed, so the terminal needs no repair but its plain
-/// letters.
-void Interrupted(int) {
-  constexpr char kPlain[] = "\033[0m\n";
-  const bool terminal = isatty(STDOUT_FILENO);
-  const char* text = terminal ? kPlain : kPlain + sizeof kPlain - 2;
-  if (write(STDOUT_FILENO, text, terminal ? sizeof kPlain - 1 : 1) < 0) _exit(1);
-  _exit(kInterrupted);
-}
-
 bool Coaches(const PlayRequest& request, int side) {
   return request.Coach == "both" || request.Coach == (side == 1 ? "visitor" : "home");
 }
 
-/// Who sits where, and how often he is asked. A human's tired men, and those in foul trouble, come off by
-/// themselves until he says otherwise.
+/// Who sits where, and how often he is asked.
 void SeatCoaches(const PlayRequest& request) {
   for (int s = 1; s <= 2; ++s) game.side[s].CoachMode = "C";
   for (int s = 1; s <= 2; ++s) {
@@ -46,17 +32,20 @@ void SeatCoaches(const PlayRequest& request) {
   if (request.Calls == "all") CallAllPlays();
 }
 
+/// A human starts with what his preferences leave to the computer.
 bool PlayCoached() {
   for (int s = 1; s <= 2; ++s) {
     Side& side = game.side[s];
-    if (side.CoachMode == "H") side.AutoSubWhenTired = side.AutoSubWhenFoulTrouble = 1;
+    if (side.CoachMode != "H") continue;
+    side.AutoSubWhenTired = setup.SubWhenTiredCheck;
+    side.AutoSubWhenFoulTrouble = setup.SubWhenInFoulTroubleCheck;
+    side.UseRotationGrid = setup.UseRotationGridCheck;
+    side.BothOffenses = setup.BothOffensesCheck;
+    side.BothDefenses = setup.BothDefensesCheck;
   }
-  const auto before = std::signal(SIGINT, Interrupted);
   CoachSession session(std::cin, std::cout, std::cerr,
                        {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0});
-  const bool finished = session.Run();
-  std::signal(SIGINT, before);
-  return finished;
+  return session.Run();
 }
 
 /// Loads both teams. 0, or the exit code of the refusal, told.

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <iostream>
 
 namespace tipline::cli {
@@ -15,7 +16,9 @@ void Terminal::Tell(std::string_view message, std::string_view title) {
 bool Terminal::Ask(std::string_view question, std::string_view) {
   if (AssumeYes) return true;
   if (!Interactive()) {
-    Refuse("--yes answers the question: " + std::string(question));
+    std::string line(question);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    Refuse(std::string(YesOption) + " answers the question: " + line);
     return false;
   }
   const auto answer = AskLine(std::string(question) + " [y/n] ");
