@@ -30,7 +30,6 @@ int Realism(std::ostream& out, const BenchOptions& options);
 
 /// Seconds to make schedules, and how complete and even they come out over 20 seeds.
 int Schedules(std::ostream& out, const BenchOptions& options);
-
 /// What interrupts games, in a hundred of them, and the share of games that men miss over a season.
 int Incidents(std::ostream& out, const BenchOptions& options);
 

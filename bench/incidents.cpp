@@ -10,13 +10,10 @@
 #include "engine/game_state.h"
 #include "harness/memory_league.h"
 #include "league/program.h"
-#include "league/season_date.h"
+#include "season_sums.h"
 
 namespace tipline {
 namespace {
-
-constexpr SeasonDate kOpeningNight{2, 20};
-constexpr int kSeasonDays = 165;
 
 struct Counts {
   int games = 0, shakenUp = 0, temporary = 0, injuries = 0, illegal = 0, warnings = 0, fights = 0,
@@ -125,12 +122,6 @@ class Missed {
   int lengths_ = 0;
 };
 
-void SetDate(SeasonDate date) {
-  game.GameMonth = date.month;
-  game.GameDay = date.day;
-  game.GameCalendarMonth = (date.month + 7) % 12 + 1;
-}
-
 }  // namespace
 
 int Incidents(std::ostream& out, const BenchOptions& options) {
@@ -145,7 +136,7 @@ int Incidents(std::ostream& out, const BenchOptions& options) {
   Counts counts;
   Missed missed(league.player.size());
   for (int round = 0; round < rounds; ++round) {
-    SetDate(DaysLater(kOpeningNight, round * kSeasonDays / rounds));
+    SetDateOfRound(round, rounds);
     for (const Pairing& pair : RoundOf(teams, round)) {
       PlayMatch(pair.visitor, pair.home);
       counts.AddGame();

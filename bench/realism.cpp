@@ -145,6 +145,7 @@ void OneYear(std::ostream& out, const LeagueYear& which, const BenchOptions& opt
              std::vector<std::string>& misses) {
   OpenMemoryLeague(which.preset, which.year, options.seed);
   program.GameKind = "L";
+  program.ReplayLocked = options.season;
   random.Seed(options.seed + static_cast<std::uint64_t>(which.year));
   const EraRecord& era =
       (std::string(which.preset) == "college" ? league.EraCollege : league.EraPro)[which.year];

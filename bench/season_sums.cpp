@@ -5,6 +5,8 @@
 
 #include "engine/game_state.h"
 #include "harness/memory_league.h"
+#include "league/program.h"
+#include "league/season_date.h"
 
 namespace tipline {
 namespace {
@@ -88,11 +90,22 @@ void SeasonSums::Close() {
   real.Divide(teamGames);
 }
 
+void SetDateOfRound(int round, int rounds) {
+  constexpr SeasonDate kOpeningNight{2, 20};
+  constexpr int kSeasonDays = 165;
+  const SeasonDate date = DaysLater(kOpeningNight, round * kSeasonDays / std::max(1, rounds));
+  game.GameMonth = date.month;
+  game.GameDay = date.day;
+  game.GameCalendarMonth = (date.month + 7) % 12 + 1;
+}
+
 SeasonSums PlaySeason(int games) {
   SeasonSums sums;
   sums.man.resize(league.player.size());
   const auto teams = MemoryTeams();
+  const int rounds = games * 2 / static_cast<int>(std::max<std::size_t>(teams.size(), 1));
   for (int round = 0; sums.games < games; ++round) {
+    if (program.ReplayLocked) SetDateOfRound(round, rounds);
     for (const Pairing& pair : RoundOf(teams, round)) {
       PlayMatch(pair.visitor, pair.home);
       sums.Add();

@@ -41,7 +41,11 @@ struct SeasonSums {
   void Close();
 };
 
-/// Plays rounds of a season in the open league until at least `games` are played.
+/// Dates the next game: the rounds of a season run from October to April.
+void SetDateOfRound(int round, int rounds);
+
+/// Plays rounds of a season in the open league until at least `games` are played; with dates where the
+/// league's data is held for it (`program.ReplayLocked`), so that injuries last.
 SeasonSums PlaySeason(int games);
 
 }  // namespace tipline

@@ -13,8 +13,8 @@
 #include "frontoffice/league_maker.h"
 #include "harness/memory_league.h"
 #include "harness/temporary_home.h"
-#include "league/files.h"
 #include "league/data_tree.h"
+#include "league/files.h"
 #include "league/rules.h"
 
 namespace tipline {

@@ -10,8 +10,6 @@
 namespace tipline {
 namespace {
 
-bool BallIsDue() { return (game.NeedsInbound || game.NeedsMoveUp) && EndsInOffense(game.GameState); }
-
 /// The attack is asked for a play.
 bool Attack() {
   const GameState s = game.GameState;

@@ -1,5 +1,6 @@
 #include "harness/damaged_league.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <vector>
 
@@ -85,15 +86,33 @@ std::vector<int> ActiveTeams() {
   return teams;
 }
 
+/// The first field in which two records differ.
+template <Described R>
+std::string Difference(R before, const R& after) {
+  std::string field;
+  const auto bytes = RecordBytes(after);
+  Describe(before, [&](int offset, const char* name, auto& member, const char*) {
+    std::vector<u8> own(static_cast<std::size_t>(DiskSize<std::remove_cvref_t<decltype(member)>>()));
+    PutValue(own.data(), member);
+    if (field.empty() && !std::equal(own.begin(), own.end(), bytes.begin() + offset)) field = name;
+  });
+  return field;
+}
+
 /// A repair that is made again at the next load never ends.
 std::string LoadTwice(int team) {
-  Roster roster;
-  if (!ReadRoster(team, roster)) return "team " + std::to_string(team) + " can't be loaded";
-  if (!LookAtRoster(team, roster)) return "team " + std::to_string(team) + " is gone after its load";
-  const RosterChanges again = RepairRoster(roster);
-  if (!again.Any()) return "";
-  return "team " + std::to_string(team) + " needs a second repair" + (again.team ? ", team" : "") +
-         (again.coach ? ", coach" : "") + (again.team || again.coach ? "" : ", men");
+  Roster loaded, again;
+  if (!ReadRoster(team, loaded)) return "team " + std::to_string(team) + " can't be loaded";
+  if (!LookAtRoster(team, again)) return "team " + std::to_string(team) + " is gone after its load";
+  loaded = again;
+  const RosterChanges changes = RepairRoster(again);
+  const std::string what = "team " + std::to_string(team) + " is repaired again: ";
+  if (changes.team) return what + Difference(loaded.team, again.team);
+  if (changes.coach) return what + "plan, " + Difference(loaded.coach, again.coach);
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (changes.man[slot]) return what + "man, " + Difference(loaded.player[slot], again.player[slot]);
+  }
+  return "";
 }
 
 void PlayLeagueGame(int visitor, int home) {

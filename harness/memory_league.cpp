@@ -18,6 +18,7 @@ void Fresh() {
   league = {};
   program = {};
   setup = {};
+  CallAllPlays();  // a human is asked at every play
   game = {};
   if (!UseShippedEras()) throw std::runtime_error("the era tables can't be read");
 }

@@ -24,10 +24,7 @@ void Columns::PrintLine(std::ostream& out, const std::vector<std::string>& cells
     if (i + 1 < cells.size()) line += "  ";
   }
   line.erase(line.find_last_not_of(' ') + 1);
-  for (char& c : line) {  // what a damaged text holds must not steer the terminal
-    if (static_cast<unsigned char>(c) < 32 || c == 127) c = '?';
-  }
-  out << line << '\n';
+  out << Plain(std::move(line)) << '\n';
 }
 
 void Columns::Print(std::ostream& out, bool csv) const {
@@ -69,6 +66,13 @@ std::string Fixed(double value, int places) {
 std::string Share(int made, int tried) {
   const std::string text = Fixed(tried > 0 ? static_cast<double>(made) / tried : 0, 3);
   return text[0] == '0' ? text.substr(1) : text;
+}
+
+std::string Plain(std::string text) {
+  for (char& c : text) {
+    if (static_cast<unsigned char>(c) < 32 || c == 127) c = '?';
+  }
+  return text;
 }
 
 }  // namespace tipline::cli

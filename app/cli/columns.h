@@ -26,6 +26,8 @@ class Columns {
   std::vector<std::vector<std::string>> rows_;
 };
 
+/// The text with '?' for what would steer the terminal: a damaged file may hold it.
+std::string Plain(std::string text);
 /// `value` with that many places behind the point.
 std::string Fixed(double value, int places);
 /// A percentage as it is written on a box: ".487", "1.000"; ".000" without attempts.

@@ -17,6 +17,12 @@ struct Common {
   bool Csv = false;
 };
 
+struct PlayRequest {
+  std::string Visitor, Home;   ///< number, abbreviation, city or nickname
+  std::string Coach = "none";  ///< who is coached by the user: "none", "visitor", "home", "both"
+  std::string Calls = "";      ///< how often he is asked: "none", "default", "all", "" by his preferences
+};
+
 int NewLeague(LeagueRequest request, const Common& common);
 int ShowTeams(const Common& common);
 /// `view`: "stats" (this season), "real" or "ratings".
@@ -34,7 +40,7 @@ int ShowDepth(const CoachRequest& request, const Common& common);
 int ShowRotation(const CoachRequest& request, const Common& common);
 /// Sliders, and against an opponent the coverage of his men.
 int ShowPlan(const CoachRequest& request, const Common& common);
-int PlayExhibition(const std::string& visitor, const std::string& home, const Common& common);
+int PlayExhibition(const PlayRequest& request, const Common& common);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
 /// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.
@@ -52,8 +58,5 @@ bool OpenTheLeague(const Common& common);
 /// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no
 /// team or more than one.
 int FindTeam(const std::string& text);
-
-/// The game just played, as a fan reads it: periods, every man's line, what else there is to tell.
-void PrintBox(std::ostream& out);
 
 }  // namespace tipline::cli

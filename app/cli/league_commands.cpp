@@ -212,8 +212,7 @@ int Dump(const std::string& file, int record, const Common& common) {
   if (!era && !OpenTheLeague(common)) return 1;
   if (era && !LoadEra() && !MakeEraFile()) return 1;
   if (!DumpRecord(file, record, std::cout)) {
-    return Refuse("no record " + Str(record) + " of a file \"" + file +
-                  "\"; the files are HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily and Basketball-Era.dat");
+    return Refuse("no record " + Str(record) + " of a file \"" + file + "\"; the files are " + FormatNames());
   }
   return 0;
 }
@@ -221,12 +220,12 @@ int Dump(const std::string& file, int record, const Common& common) {
 int RateTeams(const std::string& text, bool all, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
   const hcratings screen;
-  if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : Refuse("nothing was changed; --yes answers the question");
+  if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : 1;
   const int teamNo = FindTeam(text);
   if (teamNo == 0) return 1;
   Roster roster;
   if (!ReadRoster(teamNo, roster)) return Refuse("the team can't be read: " + TeamsFile().string());
-  if (!screen.DEFAULTRATINGS(roster)) return Refuse("nothing was changed; --yes answers the question");
+  if (!screen.DEFAULTRATINGS(roster)) return 1;
   return WriteRoster(roster) ? 0 : 1;
 }
 

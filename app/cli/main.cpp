@@ -6,15 +6,20 @@
 #include <iostream>
 
 #include "base/random.h"
-#include "cli/commands.h"
+#include "cli/schedule_commands.h"
+#include "cli/stop_signals.h"
 #include "cli/terminal.h"
+#include "league/dump.h"
 #include "league/program.h"
+#include "league/setup.h"
+#include "league/startup.h"
 #include "platform/folders.h"
 
 namespace {
 
 using namespace tipline;
 using cli::Common;
+using cli::PlayRequest;
 
 constexpr int kWrongUsage = 2;
 
@@ -22,12 +27,14 @@ struct Arguments {
   Common common;
   std::string home;
   std::uint64_t seed = 0;
-  bool yes = false;
+  bool yes = false, force = false;
   LeagueRequest request;
-  std::string visitor, homeTeam, team, view = "ratings", file;
+  PlayRequest play;
+  std::string team, view = "ratings", file;
   int record = 1;
   bool all = false, realLifeToo = false;
   cli::CoachRequest coach;
+  cli::ScheduleArguments schedule;
 };
 
 /// Options that every command takes, in front of it or behind it.
@@ -37,6 +44,7 @@ void AddCommon(CLI::App& app, Arguments& a) {
   app.add_option("--seed", a.seed, "seed of the random numbers: the run then repeats exactly")
       ->check(CLI::NonNegativeNumber);
   app.add_flag("--quiet", a.common.Quiet, "print results only");
+  app.add_flag("--force", a.force, "go on although another copy of the program seems to have the data open");
   app.fallthrough();
   app.require_subcommand(0, 1);
 }
@@ -55,7 +63,7 @@ void AddLeagueNew(CLI::App& app, Arguments& a) {
   number("--year", a.request.Year, "season year, 1946 to 2050");
   number("--divisions", a.request.Divisions, "number of divisions");
   number("--teams", a.request.Teams, "number of teams");
-  number("--games", a.request.Games, "games of a season");
+  number("--games", a.request.Games, "games of a season, an even number from 10 to 98");
   auto* reset = group->add_subcommand("reset", "the league before its first game: results and scores go");
   reset->add_flag("--real", a.realLifeToo, "the players' real season lines go as well");
   reset->add_flag("--yes", a.yes, "without asking");
@@ -74,15 +82,22 @@ void AddLists(CLI::App& app, Arguments& a) {
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
   app.add_subcommand("doctor", "what is wrong with the league's files; changes nothing");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
-  dump->add_option("file", a.file, "HCTEAMS, HCPLAYER, HCgameplan, HCRULES, HcDaily or Basketball-Era.dat")
-      ->required();
+  dump->add_option("file", a.file, FormatNames())->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
 }
 
 void AddPlay(CLI::App& app, Arguments& a) {
   auto* play = app.add_subcommand("play", "an exhibition game between two teams");
-  play->add_option("visitor", a.visitor, "number, abbreviation, city or nickname")->required();
-  play->add_option("hometeam", a.homeTeam, "the team at home")->required();
+  play->add_option("visitor", a.play.Visitor, "number, abbreviation, city or nickname")->required();
+  play->add_option("hometeam", a.play.Home, "the team at home")->required();
+  play->add_option("--coach", a.play.Coach, "side that you coach: none, visitor, home or both")
+      ->check(CLI::IsMember({"none", "visitor", "home", "both"}))
+      ->capture_default_str();
+  play->add_option(
+          "--calls", a.play.Calls,
+          "plays that you are asked for: none, default (more when it counts) or all; without it your "
+          "preferences, at first all")
+      ->check(CLI::IsMember({"none", "default", "all"}));
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");
@@ -127,15 +142,31 @@ int RunCommand(CLI::App& app, Arguments& a) {
     }
     return cli::RateTeams(a.team, a.all, a.common);
   }
-  if (app.got_subcommand("play")) return cli::PlayExhibition(a.visitor, a.homeTeam, a.common);
   if (app.got_subcommand("depth")) return cli::ShowDepth(a.coach, a.common);
   if (app.got_subcommand("rotation")) return cli::ShowRotation(a.coach, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
+  if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
+  if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
 }
+
+/// The data tree is free, or the user goes on all the same.
+bool MayStart(cli::Terminal& terminal, bool force) {
+  terminal.AssumeYes = force;
+  terminal.YesOption = "--force";
+  const bool may = CheckGameOpenStatus();
+  terminal.YesOption = "--yes";
+  return may;
+}
+
+/// The data tree is marked as open while this lives, however the program ends.
+struct Opened {
+  Opened() { cli::CloseOnSignals(StatusFilePath()); }
+  ~Opened() { MarkClosed(); }
+};
 
 }  // namespace
 
@@ -147,6 +178,7 @@ int main(int argc, char** argv) {
   AddLists(app, a);
   AddPlay(app, a);
   AddCoach(app, a);
+  cli::AddSchedule(app, a.schedule, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -163,10 +195,13 @@ int main(int argc, char** argv) {
                                     : static_cast<std::uint64_t>(
                                           std::chrono::system_clock::now().time_since_epoch().count()));
   cli::Terminal terminal;
-  terminal.AssumeYes = a.yes;
   program.Home = platform::DataHome(a.home);
   program.ProgramFolder = program.Home / "program";
   try {
+    LoadSetup();
+    if (!MayStart(terminal, a.force)) return 1;
+    const Opened opened;
+    terminal.AssumeYes = a.yes || a.schedule.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

@@ -16,7 +16,11 @@ constexpr const char* kFirstLeague = "Tipline League";
 void PlayFromMenu(const Common& common) {
   const auto visitor = AskLine("Visitor: ");
   const auto home = visitor ? AskLine("Home: ") : std::nullopt;
-  if (home) PlayExhibition(*visitor, *home, common);
+  const auto coach = home ? AskLine("You coach (none, visitor, home, both) [none]: ") : std::nullopt;
+  if (!coach) return;
+  PlayRequest request{*visitor, *home};
+  if (*coach == "visitor" || *coach == "home" || *coach == "both") request.Coach = *coach;
+  PlayExhibition(request, common);
 }
 
 void RosterFromMenu(const Common& common) {
@@ -90,7 +94,7 @@ int Start(const Common& common) {
   if (!OpenTheLeague(common)) return 1;
   const auto teams = FirstTwoTeams();
   if (teams.size() < 2) return Refuse("this league has fewer than two teams");
-  return PlayExhibition(teams[0], teams[1], common);
+  return PlayExhibition({teams[0], teams[1]}, common);
 }
 
 }  // namespace tipline::cli

@@ -1,8 +1,10 @@
-#include <algorithm>
-#include <iostream>
-#include <vector>
+// One exhibition game: between computers in one go, or coached at the terminal.
+#include <unistd.h>
 
-#include "cli/columns.h"
+#include <iostream>
+
+#include "cli/box_score.h"
+#include "cli/coach_session.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
 #include "engine/eligible.h"
@@ -10,138 +12,81 @@
 #include "engine/game_state.h"
 #include "league/files.h"
 #include "league/program.h"
+#include "league/setup.h"
 
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-std::string Of(int made, int tried) { return Str(made) + "-" + Str(tried); }
-int PointsOf(const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }
-std::string Signed(int value) { return value > 0 ? "+" + Str(value) : Str(value); }
+bool Coaches(const PlayRequest& request, int side) {
+  return request.Coach == "both" || request.Coach == (side == 1 ? "visitor" : "home");
+}
 
-void PrintPeriods(std::ostream& out) {
-  std::vector<std::string> headings{"<"};
-  const int periods = std::min(game.Period, 10);
-  for (int p = 1; p <= periods; ++p) {
-    const int extra = p - league.rules.PeriodList;
-    headings.push_back(extra <= 0 ? Str(p) : extra == 1 ? "OT" : Str(extra) + "OT");
-  }
-  headings.emplace_back("Final");
-  Columns table(headings);
+/// Who sits where, and how often he is asked.
+void SeatCoaches(const PlayRequest& request) {
+  for (int s = 1; s <= 2; ++s) game.side[s].CoachMode = "C";
   for (int s = 1; s <= 2; ++s) {
-    std::vector<std::string> cells{TeamName(game.team[s])};
-    for (int p = 1; p <= periods; ++p) cells.push_back(Str(game.side[s].PeriodScore[p]));
-    cells.push_back(Str(game.side[s].Score));
-    table.Row(std::move(cells));
+    if (Coaches(request, s)) game.side[s].CoachMode = "H";
   }
-  table.Print(out, false);
+  if (request.Calls == "none") CallNoPlays();
+  if (request.Calls == "default") UseDefaultCalls();
+  if (request.Calls == "all") CallAllPlays();
 }
 
-std::vector<std::string> LineCells(const std::string& name, const std::string& position, int tenths,
-                                   const StatLine& s, const std::string& plusMinus) {
-  return {name,
-          position,
-          Str((tenths + kMinute / 2) / kMinute),
-          Of(s.FGM, s.FGA),
-          Of(s.F3M, s.F3A),
-          Of(s.FTM, s.FTA),
-          Str(s.Off),
-          Str(s.Reb),
-          Str(s.Ast),
-          Str(s.Pf),
-          Str(s.St),
-          Str(s.Bk),
-          Str(s.To),
-          plusMinus,
-          Str(PointsOf(s))};
+/// A human starts with what his preferences leave to the computer.
+bool PlayCoached() {
+  for (int s = 1; s <= 2; ++s) {
+    Side& side = game.side[s];
+    if (side.CoachMode != "H") continue;
+    side.AutoSubWhenTired = setup.SubWhenTiredCheck;
+    side.AutoSubWhenFoulTrouble = setup.SubWhenInFoulTroubleCheck;
+    side.UseRotationGrid = setup.UseRotationGridCheck;
+    side.BothOffenses = setup.BothOffensesCheck;
+    side.BothDefenses = setup.BothDefensesCheck;
+  }
+  CoachSession session(std::cin, std::cout, std::cerr,
+                       {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0});
+  return session.Run();
 }
 
-void AddTo(StatLine& sum, const StatLine& s) {
-  for (auto counter : {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA,
-                       &StatLine::FTM, &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St,
-                       &StatLine::Bk, &StatLine::To, &StatLine::Pf}) {
-    sum.*counter = static_cast<i16>(sum.*counter + s.*counter);
+/// Loads both teams. 0, or the exit code of the refusal, told.
+int LoadTeams(const PlayRequest& request) {
+  const int visitor = FindTeam(request.Visitor);
+  if (visitor == 0) return 1;
+  const int home = FindTeam(request.Home);
+  if (home == 0) return 1;
+  if (visitor == home) return Refuse("a team can't play itself");
+  LoadLeaguePlayers();
+  program.GameKind = "E";
+  for (int s = 1; s <= 2; ++s) {
+    const int team = s == 1 ? visitor : home;
+    if (!LoadTeam(team, s)) return Refuse("team " + std::to_string(team) + " can't be loaded");
+    const int men = CountEligible(s);
+    if (men < kPositions) {
+      return Refuse(TeamName(game.team[s]) + " has only " + std::to_string(men) + " men who can play");
+    }
   }
-}
-
-/// Starters in their places, then the bench by minutes; men who did not play are left out.
-std::vector<int> BoxOrder(int side) {
-  std::vector<int> order;
-  for (int p = 1; p <= kPositions; ++p) {
-    if (const int slot = game.side[side].Starters[p]; slot > 0) order.push_back(slot);
-  }
-  const auto starters = static_cast<std::ptrdiff_t>(order.size());
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    const bool listed = std::find(order.begin(), order.begin() + starters, slot) != order.begin() + starters;
-    if (OnTeam(side, slot) && !listed && ManAt(side, slot).PlayerGameTime > 0) order.push_back(slot);
-  }
-  std::stable_sort(order.begin() + starters, order.end(), [side](int a, int b) {
-    return ManAt(side, a).PlayerGameTime > ManAt(side, b).PlayerGameTime;
-  });
-  return order;
-}
-
-void PrintSide(std::ostream& out, int side) {
-  const Side& s = game.side[side];
-  Columns table({"<" + TeamName(game.team[side]), "<Pos", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF",
-                 "St", "Bk", "TO", "+/-", "Pts"});
-  StatLine sum;
-  int time = 0;
-  for (const int slot : BoxOrder(side)) {
-    const PlayerRecord& p = PlayerAt(side, slot);
-    const Man& man = ManAt(side, slot);
-    const auto place = std::find(s.Starters.begin(), s.Starters.end(), slot);
-    const std::string label = place == s.Starters.end()
-                                  ? ""
-                                  : league.PositionLabel[static_cast<int>(place - s.Starters.begin()) + 1];
-    const std::string name = p.FirstName.Str().substr(0, 1) + "." + p.LastName.Str();
-    table.Row(LineCells(name, label, man.PlayerGameTime, p.Stats[3], Signed(man.PlusMinus)));
-    AddTo(sum, p.Stats[3]);
-    time += man.PlayerGameTime;
-  }
-  sum.Reb = static_cast<i16>(sum.Reb + s.GameTeamRebounds);
-  sum.To = static_cast<i16>(sum.To + s.GameTeamTurnovers);
-  table.Rule();
-  table.Row(LineCells("Team", "", time, sum, ""));
-  table.Print(out, false);
-  out << "FG " << Share(sum.FGM, sum.FGA) << ", 3P " << Share(sum.F3M, sum.F3A) << ", FT "
-      << Share(sum.FTM, sum.FTA) << "; team rebounds " << s.GameTeamRebounds << ", team turnovers "
-      << s.GameTeamTurnovers << "; fast break " << s.FastbreakPoints << ", bench " << s.BenchPoints
-      << ", biggest lead " << s.BiggestLead << "\n\n";
+  return 0;
 }
 
 }  // namespace
 
-void PrintBox(std::ostream& out) {
-  PrintPeriods(out);
-  out << '\n';
-  PrintSide(out, 1);
-  PrintSide(out, 2);
-  out << "Lead changes " << game.LeadChanges << ", ties " << game.Ties << "\n";
-}
-
-int PlayExhibition(const std::string& visitor, const std::string& home, const Common& common) {
+int PlayExhibition(const PlayRequest& request, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
-  int teams[3] = {0, FindTeam(visitor), 0};
-  if (teams[1] == 0) return 1;
-  teams[2] = FindTeam(home);
-  if (teams[2] == 0) return 1;
-  if (teams[1] == teams[2]) return Refuse("a team can't play itself");
-  LoadLeaguePlayers();
-  program.GameKind = "E";
-  program.Autoplaying = true;
-  for (int s = 1; s <= 2; ++s) {
-    if (!LoadTeam(teams[s], s)) return Refuse("team " + Str(teams[s]) + " can't be loaded");
-    const int men = CountEligible(s);
-    if (men < kPositions)
-      return Refuse(TeamName(game.team[s]) + " has only " + Str(men) + " men who can play");
-    game.side[s].CoachMode = "C";
-  }
+  if (const int refused = LoadTeams(request)) return refused;
+  SeatCoaches(request);
+  program.Autoplaying = request.Coach == "none";
+  game.WatchUntil = "NONE";
   PrepareGame();
-  NewGame();
-  program.Autoplaying = false;
   std::cout << TeamName(game.team[1]) << " at " << TeamName(game.team[2]) << ", "
-            << game.team[2].ArenaName.Str() << "\n\n";
+            << game.team[2].ArenaName.Str() << "\n";
+  if (program.Autoplaying) {
+    NewGame();
+    program.Autoplaying = false;
+  } else if (!PlayCoached()) {
+    std::cout << "The game was not finished.\n";
+    return 0;
+  }
+  std::cout << '\n';
   PrintBox(std::cout);
   std::cout << "\nFinal: " << TeamName(game.team[1]) << " " << game.side[1].Score << ", "
             << TeamName(game.team[2]) << " " << game.side[2].Score << '\n';

@@ -2,17 +2,25 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <iostream>
 
 namespace tipline::cli {
 
-void Terminal::Tell(std::string_view message, std::string_view) {
-  std::cerr << "tipline: " << message << '\n';
+void Terminal::Tell(std::string_view message, std::string_view title) {
+  std::cerr << "tipline: " << message;
+  if (!title.empty()) std::cerr << " (" << title << ")";
+  std::cerr << '\n';
 }
 
 bool Terminal::Ask(std::string_view question, std::string_view) {
   if (AssumeYes) return true;
-  if (!Interactive()) return false;
+  if (!Interactive()) {
+    std::string line(question);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    Refuse(std::string(YesOption) + " answers the question: " + line);
+    return false;
+  }
   const auto answer = AskLine(std::string(question) + " [y/n] ");
   return answer && !answer->empty() && ((*answer)[0] == 'y' || (*answer)[0] == 'Y');
 }

@@ -15,7 +15,8 @@ class Terminal : public platform::Dialogs {
   void Tell(std::string_view message, std::string_view title) override;
   bool Ask(std::string_view question, std::string_view title) override;
 
-  bool AssumeYes = false;  ///< --yes: every question is answered so
+  bool AssumeYes = false;                ///< every question is answered so
+  std::string_view YesOption = "--yes";  ///< the option that answers what nobody is there to answer
 };
 
 /// Somebody sits at both ends.

@@ -51,25 +51,31 @@ int NamedFor(int side, int index, int position, const Table<int, 1, kPositions>&
   return named;
 }
 
-}  // namespace
-
-bool HCQUICKSUB::PutIn(int position, int slot) {
-  if (slot < 1 || slot > kRosterSlots || !IsEligible(side, slot)) return Refuse("You must select a player!");
-  if (const int place = PlaceOf(lineup, slot)) {
-    std::swap(lineup[place], lineup[position]);
-    return true;
-  }
+/// The side's own settings keep a tired man off, and one in foul trouble; the coach is told.
+bool KeptOff(int side, int slot) {
   const Side& s = game.side[side];
   if (s.AutoSubWhenTired == 1 && ManAt(side, slot).Energy < 80) {
-    return Refuse(NameOf(side, slot) +
-                  " is tired!. Uncheck 'Auto Sub When Tired' to allow for tired players to be entered.");
+    return !Refuse(NameOf(side, slot) +
+                   " is tired!. Uncheck 'Auto Sub When Tired' to allow for tired players to be entered.");
   }
   if (s.AutoSubWhenFoulTrouble == 1 && PlayerAt(side, slot).Stats[3].Pf >= FoulTroubleLimit()) {
-    return Refuse(
+    return !Refuse(
         NameOf(side, slot) +
         " is in foul trouble!. Uncheck 'Auto Sub When In Foul Trouble' to allow for players in foul "
         "trouble to be entered.");
   }
+  return false;
+}
+
+}  // namespace
+
+bool HCQUICKSUB::PutIn(int position, int slot) {
+  if (slot < 1 || slot > kRosterSlots || !MayAppear(side, slot)) return Refuse("You must select a player!");
+  if (const int place = PlaceOf(lineup, slot)) {
+    std::swap(lineup[place], lineup[position]);
+    return true;
+  }
+  if (KeptOff(side, slot)) return false;
   lineup[position] = slot;
   return true;
 }
@@ -78,7 +84,9 @@ bool HCQUICKSUB::QuickLineup(int index) {
   if (index < 0 || index >= static_cast<int>(kQuickLineups.size())) return false;
   Table<int, 1, kPositions> five{};
   for (int position = 1; position <= kPositions; ++position) {
-    five[position] = NamedFor(side, index, position, five);
+    const int slot = NamedFor(side, index, position, five);
+    const bool stays = PlaceOf(lineup, slot) != 0;
+    if (slot != 0 && (stays || !KeptOff(side, slot))) five[position] = slot;
   }
   if (std::all_of(five.begin(), five.end(), [](int slot) { return slot == 0; })) return false;
   for (int position = 1; position <= kPositions; ++position) {
@@ -96,7 +104,7 @@ bool HCQUICKSUB::Ok() {
 }
 
 bool HCquickOnePlayerSub::Choose(int slot) {
-  if (slot >= 1 && slot <= kRosterSlots && IsEligible(side, slot)) {
+  if (slot >= 1 && slot <= kRosterSlots && MayAppear(side, slot)) {
     const PlayerRecord& p = PlayerAt(side, slot);
     const bool fits =
         p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;

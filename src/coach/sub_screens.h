@@ -20,13 +20,13 @@ struct HCQUICKSUB {
   explicit HCQUICKSUB(int forSide) : side(forSide), lineup(game.side[forSide].Lineup) {}
 
   /// Puts the man at roster place `slot` in at a position; a man already chosen changes places with the one
-  /// there. False, with its message, when nobody fit to play is chosen, or when the side's substitution
+  /// there. False, with its message, when nobody is chosen who may play, or when the side's substitution
   /// settings keep a tired man or one in foul trouble off.
   bool PutIn(int position, int slot);
   /// Puts one of the special lineups in: 0 the starters by the depth chart, 1 to 7 as `kQuickLineups` names
   /// them. Who may not appear is left out, for a starter the next of his position comes in; a position that
-  /// nobody is left for keeps its man. False, and nothing changes, for another index or when the lineup names
-  /// nobody who may appear.
+  /// nobody is left for, or whose man the settings keep off (he is told of), keeps its man. False, and
+  /// nothing changes, for another index or when the lineup names nobody who may appear.
   bool QuickLineup(int index);
   /// Takes the five into the game. False, with its message, when a spot is empty or the free-throw shooter is
   /// missing.

@@ -1,6 +1,7 @@
 #include "engine/availability.h"
 
 #include "engine/game_state.h"
+#include "league/daily.h"
 #include "league/player_values.h"
 #include "league/program.h"
 #include "league/season_date.h"
@@ -13,7 +14,6 @@ constexpr int kNextSeason = 12;  // a return in August is none
 
 SeasonDate Today() { return {game.GameMonth, game.GameDay}; }
 SeasonDate ReturnOf(const PlayerRecord& p) { return {p.InjuryReturnMonth, p.InjuryReturnDay}; }
-bool LeagueGame() { return program.ReplayLocked && program.GameKind == "L"; }
 
 void Heal(PlayerRecord& p) {
   p.InjuryReturnMonth = p.InjuryReturnDay = 0;
@@ -27,21 +27,6 @@ void HealInTime(PlayerRecord& p) {
   if (over || p.InjuryReturnMonth == kNextSeason) Heal(p);
 }
 
-/// The dates between which he belongs to the team; a date of zeros sets no bound.
-bool OutsideHisDates(const PlayerRecord& p) {
-  const SeasonDate from{p.StartMonth, p.StartDay}, to{p.EndMonth, p.EndDay};
-  return Today() < from || (to.month > 0 && Today() > to);
-}
-
-bool InInactiveSpan(const PlayerRecord& p) {
-  for (int k = 1; k <= 5; ++k) {
-    const SeasonDate from{p.InactiveStartMonth[k], p.InactiveStartDay[k]};
-    const SeasonDate to{p.InactiveStopMonth[k], p.InactiveStopDay[k]};
-    if (from.month > 0 && from <= Today() && Today() <= to) return true;
-  }
-  return false;
-}
-
 void SetMan(int side, int slot) {
   PlayerRecord& p = PlayerAt(side, slot);
   LoadedMan& man = LoadedAt(side, slot);
@@ -52,11 +37,9 @@ void SetMan(int side, int slot) {
   HealInTime(p);
   if (p.RestGames > 99) p.RestGames = 0;
   man.PlayerOut = p.Status == kInactive ? 1 : 0;
-  if (!LeagueGame()) return;
+  if (!InLeagueGame()) return;
   const bool dated = game.GameMonth > 0;  // a game without a date asks for none
-  const bool outside = dated && league.rules.TransactionDatesCheck && OutsideHisDates(p);
-  const bool dayOff = man.DayOff && game.coach[side].UseDailyInactive == 1;
-  man.PlayerUnavailable = outside || dayOff || (dated && InInactiveSpan(p)) ? 1 : 0;
+  if (dated && AwayOn(p, DateOf(game.GameMonth, game.GameDay))) man.PlayerUnavailable = 1;
   man.Suspended = p.SuspensionGames > 0;
   const bool hurt = league.rules.InjuryOption == 1 && p.InjuryReturnMonth > 0;
   if (man.PlayerUnavailable || man.Suspended || hurt) man.PlayerOut = 1;
@@ -74,7 +57,7 @@ void DrawInjuriesOfTheDay(int side) {
 }  // namespace
 
 void DrawLightInjury(PlayerRecord& p) {
-  if (!LeagueGame() || p.InjurySeverity != 1 || p.InjuryReturnMonth == 0) return;
+  if (!InLeagueGame() || p.InjurySeverity != 1 || p.InjuryReturnMonth == 0) return;
   if (p.InjuryReturnMonth != game.GameMonth) return;
   if (Rnd(2) == 1 && p.InjuryReturnDay <= game.GameDay + Rnd(7)) return Heal(p);
   if (Rnd(4) != 1 || p.InjuryReturnDay > game.GameDay || Durability(p) > 6 + Rnd(3)) return;
@@ -88,7 +71,7 @@ void DrawLightInjury(PlayerRecord& p) {
 
 void SetAvailability(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) SetMan(side, slot);
-  if (LeagueGame() && league.rules.InjuryOption == 2) DrawInjuriesOfTheDay(side);
+  if (InLeagueGame() && league.rules.InjuryOption == 2) DrawInjuriesOfTheDay(side);
 }
 
 }  // namespace tipline

@@ -30,6 +30,15 @@ enum class Refusal {
   kShooterGone,  ///< the free-throw shooter must be in the game
   kJumperGone,   ///< the jumper must be in the game
 };
+/// The ball is due to come in, or up, at this stop: going on resolves that first.
+bool BallIsDue();
+/// The stop is left by going on; at the others a coach has to choose.
+bool CanContinue();
+/// The acting side may call time: one is left, none was just taken, and the ball is not going up.
+bool TimeoutOpen();
+/// "Q-Pass", and a mark for each step in which the defense has learnt to wait for the offense's quick passes.
+std::string QuickPassLabel();
+
 /// Goes on from a stop. When refused it tells the coach why through the dialogs, changes nothing and returns
 /// the reason.
 Refusal ContinueChosen();
@@ -61,9 +70,9 @@ std::string Prompt();
 bool LoadTeam(int teamNo, int side);
 /// What a load works out for a side that holds its records already.
 void ReadySide(int side);
-/// Writes a side's coach, men, team and days off to the league folder as team `teamNo`. A college playoff game
-/// writes nothing. False when the side holds another team or, after telling the user, when a file could not be
-/// written.
+/// Writes a side's coach, men, team and days off to the league folder as team `teamNo`. A college playoff
+/// game writes nothing. False when the side holds another team or, after telling the user, when a file could
+/// not be written.
 bool SaveTeam(int teamNo, int side);
 
 }  // namespace tipline

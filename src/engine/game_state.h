@@ -26,7 +26,6 @@ struct LoadedMan {
          ShareDrive = 0;   ///< see ShotMix
   double HotHand = 0;      ///< today's shooting form, a fraction added to his percentages
   bool Suspended = false;  ///< he sits out a game of his suspension
-  bool DayOff = false;     ///< the game's date stands on his daily list
   int PlayLength = 3000;   ///< stint before he needs a rest, 3000 to 14000
   int RestLength = 300;    ///< rest that restores him fully, 300 to 2400
 };
@@ -370,9 +369,9 @@ struct Game : GameRun {
   Table2<LoadedMan, 1, 2, 0, kRosterSlots> loaded;
   bool NeutralGame = false;
   int GameMonth = 0, GameCalendarMonth = 0, GameDay = 0,
-      GameYear = 0;           ///< season month (1 September), calendar month
-  int ScheduleRow = 0;        ///< row of the running game in the schedule, 0 unscheduled
-  bool AnalysisMode = false;  ///< the chances are run as a what-if
+      GameYear = 0;                ///< season month (1 September), calendar month
+  int ScheduleRow = 0;             ///< row of the running game in the schedule, 0 unscheduled
+  bool AnalysisMode = false;       ///< the chances are run as a what-if
   tipline::WatchUntil WatchUntil;  ///< both sides run unattended up to this mark
 };
 

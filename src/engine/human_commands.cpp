@@ -20,17 +20,6 @@ namespace {
 
 void ForgetCall() { game.call.CallKind = game.call.CallPlayer = 0; }
 
-/// The ball is due to come in, or up, at this stop.
-bool BallIsDue() { return (game.NeedsInbound || game.NeedsMoveUp) && EndsInOffense(game.GameState); }
-
-/// A stop that is left by going on; at the others a coach has to choose.
-bool CanContinue() {
-  if (game.GameOver || game.GameDone) return false;
-  const GameState s = game.GameState;
-  return BallIsDue() || s == "JUMPBALL-1" || s == "JUMPBALL-2" || s == "DEFENSE" || s == "FREETHROW-WAIT" ||
-         IsDeadBall(s) || IsTimeout(s) || IsQuarter(s);
-}
-
 /// Before the tip the coach answers for a roster over the limit.
 bool RosterAllowed(int side) {
   const int limit = league.rules.RosterLimitList;
@@ -124,15 +113,23 @@ void GoOn() {
   }
 }
 
-/// Nobody may stop a game before its tip, or during a jump.
-bool TimeoutOpen(int side) {
-  return !game.GameOver && !IsJump(game.GameState) && !game.GameState.Empty() && !game.TimeoutTaken &&
-         game.side[side].TimeoutsLeft > 0;
-}
-
 bool StopGoesOn(GameState s) { return IsFreeThrow(s) || IsDeadBall(s) || IsQuarter(s); }
 
 }  // namespace
+
+bool BallIsDue() { return (game.NeedsInbound || game.NeedsMoveUp) && EndsInOffense(game.GameState); }
+
+bool CanContinue() {
+  if (game.GameOver || game.GameDone) return false;
+  const GameState s = game.GameState;
+  return BallIsDue() || s == "JUMPBALL-1" || s == "JUMPBALL-2" || s == "DEFENSE" || s == "FREETHROW-WAIT" ||
+         IsDeadBall(s) || IsTimeout(s) || IsQuarter(s);
+}
+
+bool TimeoutOpen() {
+  return !game.GameOver && !IsJump(game.GameState) && !game.GameState.Empty() && !game.TimeoutTaken &&
+         game.side[game.ActingSide].TimeoutsLeft > 0;
+}
 
 void Shoot() {
   ForgetCall();
@@ -200,7 +197,7 @@ void BurnChosen() {
 
 void TimeoutChosen() {
   const int side = game.ActingSide;
-  if (!TimeoutOpen(side)) return;
+  if (!TimeoutOpen()) return;
   game.MomentumTime = kMinute;
   game.MomentumMark = 1;
   AdvanceBallOnTimeout();

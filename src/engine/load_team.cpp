@@ -37,10 +37,12 @@ void DrawAlternateReality(PlayerRecord& p) {
   for (u8* form : forms) *form = DrawForm(*form);
 }
 
-void TakeDaysOff(const Roster& roster, int side) {
+/// The coach's list of days off, where his team goes by it.
+void GoByDailyList(const Roster& roster, int side) {
+  if (!InLeagueGame() || roster.coach.UseDailyInactive != 1) return;
   const int today = DateOf(game.GameMonth, game.GameDay);
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    LoadedAt(side, slot).DayOff = SitsOut(roster.daily[slot], today);
+    LoadedAt(side, slot).PlayerUnavailable = SitsOut(roster.daily[slot], today) ? 1 : 0;
   }
 }
 
@@ -65,7 +67,7 @@ bool LoadTeam(int teamNo, int side) {
     game.loaded[side][slot] = {};
   }
   if (!found) return false;
-  TakeDaysOff(roster, side);
+  GoByDailyList(roster, side);
   ReadySide(side);
   return true;
 }

@@ -246,6 +246,15 @@ void MaybeDrives(int call) {
 
 }  // namespace
 
+std::string QuickPassLabel() {
+  std::string label = "Q-Pass";
+  if (Offense().QuickPassesGame < 5) return label;
+  for (const double step : {0.2, 0.35, 0.5}) {
+    if (QuickPassShare() >= step) label += '!';
+  }
+  return label;
+}
+
 void GiveBall(int position) {
   if (position < 1 || Offense().Lineup[position] == 0) position = DrawPosition(game.OffenseSide);
   game.BallSlot = position;

@@ -22,8 +22,12 @@ std::vector<int> DivisionalChoices(const std::vector<int>& teams, int games) {
   for (int meetings = 0; meetings <= 20; meetings += 2) {
     if (meetings == 0 || meetings * rivals <= games) choices.push_back(meetings);
   }
+  // Rivals who never meet are the last resort.
+  const auto distance = [natural](int meetings) {
+    return meetings == 0 ? 100 : std::abs(meetings - natural);
+  };
   std::stable_sort(choices.begin(), choices.end(),
-                   [natural](int a, int b) { return std::abs(a - natural) < std::abs(b - natural); });
+                   [distance](int a, int b) { return distance(a) < distance(b); });
   return choices;
 }
 

@@ -83,7 +83,7 @@ bool Replace(std::vector<ScheduleRecord> rows) {
   std::swap(rows, league.ScheduleGame);
   const int year = league.ScheduleYear;
   league.ScheduleYear = league.team[1].Year;
-  if (SaveSchedule()) return true;
+  if (SaveSchedule()) return LoadSchedule();
   std::swap(rows, league.ScheduleGame);
   league.ScheduleYear = year;
   return false;

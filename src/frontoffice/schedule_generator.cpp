@@ -14,7 +14,6 @@ namespace tipline {
 namespace {
 
 constexpr int kDateSlots = 200;
-constexpr int kMostRestarts = 500;
 constexpr int kFillInAttempt = 10;  // above it, divisions are no bar any more
 constexpr int kLastAttempt = 25;
 constexpr int kMostExtra = 8;  // date slots opened one by one for the last games
@@ -45,14 +44,14 @@ class Placer {
 
  private:
   void Clear();
-  bool PlaceDivisional();
+  void PlaceDivisional();
   void FirstPass();
   void SecondPass();
   void FillIn();
+  void Rounds(const Search& search, int last);
   void SearchAndPlace(int a, const Search& search, int last);
-  int FindVisitor(int a, const Search& search);
   int PickSlot(int a, int b, int last) const;
-  bool Place(int a, int b, int last);
+  void Place(int a, int b, int last);
   u8& Meetings(int a, int b) { return meetings_[static_cast<std::size_t>(a * count_ + b)]; }
   bool NeedsHomeGame(int a) const { return home_[At(a)] < half_; }
   static std::size_t At(int i) { return static_cast<std::size_t>(i); }
@@ -60,7 +59,7 @@ class Placer {
   const std::vector<int>& teams_;
   int count_, games_, half_, divisional_, most_;
   std::vector<int> division_;
-  int divisions_ = 0, slack_ = 0, extra_ = 0, restarts_ = 0;
+  int divisions_ = 0, slack_ = 0, extra_ = 0;
   bool filledIn_ = false;
 
   std::vector<int> home_, visitor_;  // games of each team
@@ -105,8 +104,8 @@ void Placer::Clear() {
 }
 
 void Placer::Attempt(int attempt) {
-  do Clear();
-  while (!PlaceDivisional());
+  Clear();
+  PlaceDivisional();
   extra_ = 0;
   if (divisions_ >= 2) {
     FirstPass();
@@ -117,34 +116,32 @@ void Placer::Attempt(int attempt) {
   if (wanting && (attempt > kFillInAttempt || divisions_ <= 1)) FillIn();
 }
 
-/// Every team at home against every other of its division, round by round. False to begin anew; when that
-/// has been done too often, a pair without a common free slot is passed over.
-bool Placer::PlaceDivisional() {
+/// Every team at home against every other of its division, round by round. A pair without a common free slot
+/// is passed over: beginning anew, as often as may be, would come to the same, as nothing is drawn here.
+void Placer::PlaceDivisional() {
   for (int round = 1; round <= divisional_ / 2; ++round) {
     for (int a = 0; a < count_; ++a) {
       for (int b = 0; b < count_; ++b) {
-        if (a == b || division_[At(a)] != division_[At(b)]) continue;
-        if (Place(a, b, games_ + 1 + slack_) || restarts_ >= kMostRestarts) continue;
-        ++restarts_;
-        return false;
+        if (a != b && division_[At(a)] == division_[At(b)]) Place(a, b, games_ + 1 + slack_);
       }
     }
   }
-  return true;
 }
 
 /// Teams of different divisions meet at most so often, while there are two dates to choose from. A most of
 /// two and more would rule nothing out here: those games are left to the second pass.
 void Placer::FirstPass() {
   if (most_ >= 2) return;
+  const int last = games_ + extra_ + slack_;
+  Search search{games_ + extra_ + 3 * slack_, 2};
+  search.preferFew = true;
   for (int round = 1; round <= games_; ++round) {
     const bool ascending = Rnd(2) == 1;
     for (int k = 0; k < count_; ++k) {
       const int a = ascending ? k : count_ - 1 - k;
       if (!NeedsHomeGame(a) || visitor_[At(a)] >= half_) continue;
-      const bool visitorsAscending = Rnd(2) == 1;
-      SearchAndPlace(a, {games_ + extra_ + 3 * slack_, 2, visitorsAscending, false, true},
-                     games_ + extra_ + slack_);
+      search.ascending = Rnd(2) == 1;
+      SearchAndPlace(a, search, last);
     }
   }
 }
@@ -152,34 +149,31 @@ void Placer::FirstPass() {
 /// What is still open between divisions, with ever later dates.
 void Placer::SecondPass() {
   for (extra_ = 1; extra_ <= kMostExtra; ++extra_) {
-    for (int round = 1; round <= games_; ++round) {
-      for (int a = 0; a < count_; ++a) {
-        if (!NeedsHomeGame(a)) continue;
-        SearchAndPlace(a, {games_ + extra_ + 2 + 2 * slack_, 1}, games_ + extra_ + slack_);
-      }
-    }
+    Rounds({games_ + extra_ + 2 + 2 * slack_, 1}, games_ + extra_ + slack_);
   }
-  extra_ = kMostExtra;
+  extra_ = kMostExtra;  // all of them stay open
 }
 
 /// What is open then is played against anybody.
 void Placer::FillIn() {
   filledIn_ = true;
+  Search search{games_ + extra_ + 2 + slack_, 1};
+  search.anyDivision = true;
+  Rounds(search, games_ + extra_ + slack_);
+}
+
+/// A home game for every team that needs one, round after round.
+void Placer::Rounds(const Search& search, int last) {
   for (int round = 1; round <= games_; ++round) {
     for (int a = 0; a < count_; ++a) {
-      if (!NeedsHomeGame(a)) continue;
-      SearchAndPlace(a, {games_ + extra_ + 2 + slack_, 1, true, true}, games_ + extra_ + slack_);
+      if (NeedsHomeGame(a)) SearchAndPlace(a, search, last);
     }
   }
 }
 
+/// Brings the best visitor, the last of equals, to team a on a date out of the first `last`, if they have
+/// one.
 void Placer::SearchAndPlace(int a, const Search& search, int last) {
-  const int b = FindVisitor(a, search);
-  if (b >= 0) Place(a, b, last);
-}
-
-/// The best visitor for team a, the last of equals; -1 for none.
-int Placer::FindVisitor(int a, const Search& search) {
   const Slots open = FirstSlots(search.last) & ~busy_[At(a)];
   int best = -1, bestScore = 0;
   for (int k = 0; k < count_; ++k) {
@@ -198,7 +192,7 @@ int Placer::FindVisitor(int a, const Search& search) {
     best = b;
     bestScore = score;
   }
-  return best;
+  if (best >= 0) Place(a, best, last);
 }
 
 /// The slot from 1 to `last` with the fewest games in which neither plays, the lowest of equals; 0 for none.
@@ -212,10 +206,10 @@ int Placer::PickSlot(int a, int b, int last) const {
   return best;
 }
 
-/// Team a at home against b, on a date out of the first `last`; false when there is none.
-bool Placer::Place(int a, int b, int last) {
+/// Team a at home against b, on a date out of the first `last`, where there is one.
+void Placer::Place(int a, int b, int last) {
   const int slot = PickSlot(a, b, last);
-  if (slot == 0 || placed_.size() >= kMostScheduleRows) return false;
+  if (slot == 0 || placed_.size() >= kMostScheduleRows) return;
   ++slotGames_[slot];
   busy_[At(a)].set(At(slot - 1));
   busy_[At(b)].set(At(slot - 1));
@@ -224,7 +218,6 @@ bool Placer::Place(int a, int b, int last) {
   ++Meetings(a, b);
   ++Meetings(b, a);
   placed_.push_back({slot, teams_[At(a)], teams_[At(b)]});
-  return true;
 }
 
 ScheduleDraft Placer::Draft() {

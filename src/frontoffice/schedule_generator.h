@@ -49,10 +49,10 @@ std::vector<ScheduleRecord> ScheduleRows(const ScheduleDraft& draft, int year);
 /// The screen of the generator; works on the open league.
 struct HCCOMPUTERSCHEDULE {
   std::string GAMETEXT, DIVISIONTEXT, MaxVersusNonDivisionalText;
-  int MonthList = 1;                                ///< season month of the first date, less 1
-  int DayList = 30;                                 ///< its day
-  std::string Caption;                              ///< "Please Wait.." while it works
-  std::function<void(const std::string&)> Working;  ///< called when the caption changes; may be empty
+  int MonthList = 1;                                  ///< season month of the first date, less 1
+  int DayList = 30;                                   ///< its day
+  std::string Caption{};                              ///< "Please Wait.." while it works
+  std::function<void(const std::string&)> Working{};  ///< called when the caption changes; may be empty
 
   /// Asks, then replaces the schedule in memory and in its file, and tells how it came out. False, with
   /// nothing changed, when the answer was no or the figures can't be met; also when the file can't be

@@ -258,6 +258,15 @@ const FileFormat* FormatOf(std::string_view name) {
 
 }  // namespace
 
+std::string FormatNames() {
+  std::string names;
+  for (const auto& format : kFormats) {
+    if (!names.empty()) names += &format == std::end(kFormats) - 1 ? " and " : ", ";
+    names += format.name;
+  }
+  return names;
+}
+
 bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
   const std::filesystem::path given(fileName);
   const FileFormat* format = FormatOf(given.filename().string());

@@ -37,7 +37,7 @@ class LeagueMaker : public testing::Test {
   }
   static std::string AllBytes(const std::string& name) {
     std::string bytes;
-    for (const char* file : {"HCTEAMS", "HCgameplan", "HCPLAYER", "HCRULES"}) {
+    for (const char* file : {"HCTEAMS", "HCgameplan", "HCPLAYER", "HCRULES", "Sked.skd"}) {
       bytes += ReadWholeFile(LeaguesFolder() / name / file);
     }
     return bytes;
@@ -112,6 +112,7 @@ TEST_F(LeagueMaker, RefusalsSayWhyAndLeaveNothing) {
                {"a crowded division", 0, 1, 21, 0},
                {"one team", 0, 1, 1, 0},
                {"one game", 0, 0, 0, 1},
+               {"an odd number of games", 0, 0, 0, 81},
                {"99 games", 0, 0, 0, 99}};
   for (const auto& c : cases) {
     request = Request("pro");

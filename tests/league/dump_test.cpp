@@ -63,6 +63,7 @@ TEST(Dump, RefusesWhatItDoesNotKnow) {
   TemporaryLeague folder;
   ASSERT_TRUE(WriteWholeFile(RulesFile(), std::string(10001, '\0')));
   ASSERT_TRUE(WriteWholeFile(PlayersFile(), std::string(1600, '\0')));
+  ASSERT_TRUE(WriteWholeFile(LeagueFile("My.skd"), std::string(400, '\0')));
   const struct {
     const char *why, *file;
     int n;
@@ -76,6 +77,8 @@ TEST(Dump, RefusesWhatItDoesNotKnow) {
       {"no record 0", "HCPLAYER", 0, false},
       {"no such file", "HCTEAMS", 1, false},
       {"no such format", "SCORES", 1, false},
+      {"a schedule, whatever its name", "My.skd", 2, true},
+      {"not the default one", "Sked.skd", 1, false},
       {"nothing", "", 1, false},
   };
   for (const auto& c : cases) {

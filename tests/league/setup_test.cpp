@@ -65,7 +65,9 @@ TEST(RepairSetup, AMarkerOffFillsItsFieldsAndOnLeavesThem) {
       if (c.field) setup.*c.field = 7;
       setup.PlayCallFrequency[1][1] = 9;
       RepairSetup();
-      if (c.field) EXPECT_EQ(setup.*c.field, missing ? c.filled : 7) << c.why;
+      if (c.field) {
+        EXPECT_EQ(setup.*c.field, missing ? c.filled : 7) << c.why;
+      }
       EXPECT_EQ(setup.PlayCallFrequency[1][1], c.field || !missing ? 9 : 2) << c.why;
     }
   }
@@ -96,7 +98,9 @@ TEST(DataTree, TheDriveFileIsUsedOrMended) {
     std::filesystem::create_directories(program.Home / "drive-d");
     std::filesystem::create_directories(program.ProgramFolder);
     const auto file = program.ProgramFolder / "Orvex-Basketball-Drive";
-    if (c.text) ASSERT_TRUE(WriteWholeFile(file, c.text));
+    if (c.text) {
+      ASSERT_TRUE(WriteWholeFile(file, c.text));
+    }
     ReadDrive();
     EXPECT_EQ(program.DataDrive, c.drive) << c.why;
     EXPECT_EQ(ReadWholeFile(file), std::string(c.drive) + "\n") << c.why;

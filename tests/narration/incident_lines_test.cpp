@@ -64,7 +64,7 @@ TEST(IncidentLines, LeaveTheGamesChanceAlone) {
   random.Seed(3);
   const int first = Rnd(1000000);
   random.Seed(3);
-  game.incident.Kind = Kind::kInjury;
+  game.incident = {Kind::kInjury, 1, 2, 0, 20, 6};
   Told("");
   EXPECT_EQ(Rnd(1000000), first);
 }

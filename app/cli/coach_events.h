@@ -1,0 +1,15 @@
+#pragma once
+// What happened, in a plain sentence.
+#include <string>
+
+#include "engine/game_state.h"
+
+namespace tipline::cli {
+
+/// A row of the play log: clock, score, team, and who did what with whose help.
+std::string EventLine(const PlayLogRow& row);
+
+/// "8:42", in the last minute "0:08.4".
+std::string ClockText(int tenths);
+
+}  // namespace tipline::cli

@@ -1,0 +1,289 @@
+// A game coached line by line: scripts, right and wrong, play it to its end.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+#include <streambuf>
+
+#include "base/random.h"
+#include "cli/coach_session.h"
+#include "cli/coach_table.h"
+#include "engine/engine.h"
+#include "engine/game_state.h"
+#include "harness/game_book.h"
+#include "harness/laws.h"
+#include "harness/memory_league.h"
+#include "league/setup.h"
+#include "support/torture.h"
+
+namespace tipline::cli {
+namespace {
+
+void SetUpCoachedGame(const char* preset, std::uint64_t seed, const char* visitor, const char* home) {
+  OpenSmallLeague(preset, seed);
+  tipline::random.Seed(seed);
+  SetUpMatch(MemoryTeams()[0], MemoryTeams()[1]);
+  game.side[1].CoachMode.Set(visitor);
+  game.side[2].CoachMode.Set(home);
+}
+
+struct Played {
+  bool finished;
+  std::string out, err;
+  std::vector<std::int64_t> book;
+};
+
+Played PlayScript(const std::string& script, std::uint64_t seed = 1, const char* visitor = "C") {
+  SetUpCoachedGame("pro", seed, visitor, "H");
+  std::istringstream in(script);
+  std::ostringstream out, err;
+  CoachSession session(in, out, err, {});
+  const bool finished = session.Run();
+  return {finished, out.str(), err.str(), GameBook()};
+}
+
+const Words kWrong{"",         "99",
+                   "-1",       "#31",
+                   "#0",       "nobody",
+                   "on",       "off",
+                   "1",        "5 5",
+                   "1 2 3",    "all all all",
+                   "\x01\xff", "99999999999999999999",
+                   "strong",   std::string(300, 'x')};
+
+/// Coaches anything, line by line as the session reads it, and looks at the game at every line.
+class AnyCoach : public std::streambuf {
+ public:
+  AnyCoach(std::uint64_t seed, const std::ostringstream& err, int lines) : err_(err), left_(lines) {
+    draw_.Seed(seed);
+  }
+
+  static inline std::map<std::string_view, int> done;  ///< by command: times it was carried out
+
+ protected:
+  int_type underflow() override {
+    Judge();
+    if (--left_ < 0) return traits_type::eof();
+    line_ = NextLine() + "\n";
+    before_ = Digest(0, GameBook());
+    told_ = err_.str().size();
+    setg(line_.data(), line_.data(), line_.data() + line_.size());
+    return traits_type::to_int_type(line_[0]);
+  }
+
+ private:
+  void Judge() {
+    const std::string law = BrokenLaw();
+    EXPECT_EQ(law, "") << "after " << line_;
+    if (!law.empty()) left_ = 0;
+    if (err_.str().size() > told_) {
+      EXPECT_EQ(Digest(0, GameBook()), before_) << "refused, but it changed the game: " << line_;
+    } else if (command_) {
+      ++done[command_->name];
+    }
+    command_ = nullptr;
+  }
+
+  /// One that is open and was never carried out, if there is one; else any.
+  const Command& Draw() {
+    const auto commands = Commands();
+    for (const Command& c : commands) {
+      if (draw_.Whole(3) == 1 && c.open() && !done.count(c.name)) return c;
+    }
+    return commands[static_cast<std::size_t>(draw_.Whole(static_cast<int>(commands.size())) - 1)];
+  }
+
+  std::string Example(const Command& c) {
+    Words examples;
+    std::istringstream all{std::string(c.examples)};
+    for (std::string one; std::getline(all, one, ';');) examples.push_back(one);
+    if (examples.empty()) return "";
+    return examples[static_cast<std::size_t>(draw_.Whole(static_cast<int>(examples.size())) - 1)];
+  }
+
+  std::string NextLine() {
+    if (draw_.Whole(2) == 1) return "";
+    const Command& c = Draw();
+    if (c.name == "auto" && done.count("auto") && draw_.Whole(50) > 1)
+      return "";  // or there is little to coach
+    const int kind = draw_.Whole(10);
+    if (kind <= 7) {
+      command_ = &c;
+      return std::string(c.name) + " " + Example(c);
+    }
+    const Command& other =
+        Commands()[static_cast<std::size_t>(draw_.Whole(static_cast<int>(Commands().size())) - 1)];
+    const std::string name(kind == 8 || c.brief.empty() ? c.name : c.brief);
+    if (kind == 9) return name + " " + Example(other);
+    return name + " " + kWrong[static_cast<std::size_t>(draw_.Whole(static_cast<int>(kWrong.size())) - 1)];
+  }
+
+  const std::ostringstream& err_;
+  Random draw_;
+  std::string line_;
+  const Command* command_ = nullptr;
+  std::uint64_t before_ = 0;
+  std::size_t told_ = 0;
+  int left_;
+};
+
+TEST(CoachSession, EveryCommandRightAndWrongReachesTheEndOfTheGame) {
+  AnyCoach::done.clear();
+  for (std::uint64_t seed = 1; seed <= 8; ++seed) {
+    SCOPED_TRACE(seed);
+    SetUpCoachedGame(kPresets[seed % 4], seed, "H", seed % 2 ? "H" : "C");
+    std::ostringstream out, err;
+    AnyCoach coach(seed, err, 4000);
+    std::istream in(&coach);
+    CoachSession session(in, out, err, {});
+    EXPECT_TRUE(session.Run());
+    EXPECT_TRUE(game.GameOver);
+    EXPECT_EQ(BrokenLaw() + BrokenFinalLaw(), "");
+  }
+  for (const Command& c : Commands()) {
+    if (c.name == "quit") continue;
+    EXPECT_GT(AnyCoach::done[c.name], 0) << c.name << " was never carried out";
+  }
+}
+
+TEST(CoachSession, AnyCoachReachesTheEndUnderAnyRulesWithAnyMen) {
+  for (std::uint64_t seed = 1; seed <= 8; ++seed) {
+    OpenTortureLeague(seed);
+    SCOPED_TRACE("seed " + std::to_string(seed) + ": " + TortureLabel());
+    PrepareGame();
+    for (tipline::Side& side : game.side) side.CoachMode = "H";
+    std::ostringstream out, err;
+    AnyCoach coach(seed, err, 400);
+    std::istream in(&coach);
+    EXPECT_TRUE(CoachSession(in, out, err, {}).Run());
+    EXPECT_TRUE(game.GameOver);
+    const auto steers = [](char c) { return c != '\n' && (static_cast<unsigned char>(c) < 32 || c == 127); };
+    EXPECT_TRUE(std::none_of(out.view().begin(), out.view().end(), steers));
+  }
+}
+
+std::string ManyLines() {
+  std::string script;
+  const char* lines[] = {"",  "s",         "d",        "p",       "call inside 5", "q 3",
+                         "x", "t rebound", "zone 2-3", "sub 1 6", "def tight"};
+  for (int i = 0; i < 600; ++i) script += std::string(lines[i * 7 % 11]) + "\n";
+  return script;
+}
+
+TEST(CoachSession, TheSameScriptAndSeedGiveTheSameGame) {
+  const Played first = PlayScript(ManyLines(), 5);
+  PlayScript("", 6);
+  const Played again = PlayScript(ManyLines(), 5);
+  EXPECT_EQ(first.out, again.out);
+  EXPECT_EQ(first.err, again.err);
+  EXPECT_EQ(first.book, again.book);
+  EXPECT_NE(PlayScript("", 5).book, first.book) << "the coach makes a difference";
+}
+
+TEST(CoachSession, TheComputerTakesOverWhenTheInputEnds) {
+  for (const char* script : {"", "\n\n\n", "\n\nsub 3", "\ncall inside 5\nq"}) {
+    const Played played = PlayScript(script);
+    EXPECT_TRUE(played.finished) << script;
+    EXPECT_TRUE(game.GameOver) << script;
+    EXPECT_TRUE(game.side[2].CoachMode == "C") << script;
+  }
+}
+
+TEST(CoachSession, LeavesAGameOnlyWhenTheCoachIsSure) {
+  EXPECT_FALSE(PlayScript("quit\ny\n").finished);
+  EXPECT_FALSE(game.GameOver);
+  EXPECT_TRUE(PlayScript("quit\nn\n").finished);
+  EXPECT_TRUE(PlayScript("quit\n").finished);
+  const Played kept = PlayScript("quit\nzone man\n");
+  EXPECT_NE(kept.out.find("Defense: Man."), std::string::npos) << "no answer: the next command";
+}
+
+TEST(CoachSession, LinesFitTheScreenAndArePlain) {
+  const Played played = PlayScript(ManyLines(), 2, "H");
+  std::istringstream lines(played.out);
+  for (std::string line; std::getline(lines, line);) EXPECT_LT(line.size(), 80u) << line;
+  EXPECT_EQ(played.out.find('\033'), std::string::npos);
+}
+
+TEST(CoachSession, TellsWhatChangedOrWhyNot) {
+  // clang-format off
+  const struct { const char* line; bool refused; const char* told; bool (*holds)(); } cases[] = {
+      {"press full", false, "Press: Fullcourt Pressure.", [] { return game.side[2].Pressure == 4; }},
+      {"press trap", true, "Press: None", [] { return game.side[2].Pressure == 0; }},
+      {"zone 2-3", false, "Defense: 2-3 Zone.", [] { return game.side[2].DefenseType == 2; }},
+      {"help strong inside", false, "Help: Strong Inside.", [] { return game.side[2].DefenseHelp == 3; }},
+      {"crash strong", false, "Offensive boards: Strong.",
+       [] { return game.side[2].CrashBoardsOffense == 1 && game.side[2].CrashBoardsDefense == 1; }},
+      {"match 1 2", false, "Match-ups:",
+       [] { return game.side[2].StoredMatchup[1] == 2 && game.side[2].StoredMatchup[2] == 1; }},
+      {"match 1 2 3 4 4", true, "Each position must be defended..check the Defensive Matchups Grid",
+       [] { return game.side[2].StoredMatchup[5] == 5; }},
+      {"cover 5 inside deny", false, "is covered inside: Deny.",
+       [] { return ManAt(1, game.side[1].Lineup[5]).CoverageInside == 5; }},
+      {"double 5", false, "is doubled anywhere.",
+       [] { return ManAt(1, game.side[1].Lineup[5]).DoubleTeamThree == 1; }},
+      {"order 3 three", false, "is told to shoot: three.",
+       [] { return ManAt(2, game.side[2].Lineup[3]).GlobalOffense == kThree; }},
+      {"safe 4", false, "defends safely.", [] { return ManAt(2, game.side[2].Lineup[4]).SafeStyle == 1; }},
+      {"plan Drive 3", false, "Drive: 3, for this game.", [] { return game.coach[2].Coverage2[0] == 3; }},
+      {"plan Crash 3", true, "More than one slider", [] { return true; }},
+      {"plan Drive 5", true, "from 0, least, to 4, most", [] { return game.coach[2].Coverage2[0] <= 4; }},
+      {"set lastshot on", false, "On: hold for the last shot.", [] { return game.side[2].LastShot == 1; }},
+      {"set quickfoul poor", false, "Poor Shooter", [] { return game.side[2].QuickFoul == 2; }},
+      {"lineup free throw", false, "On the floor:",
+       [] { return OnFloor(2, 1).RotationOrder[4] == 1 && OnFloor(2, 5).RotationOrder[4] == 5; }},
+      {"sub 1 #99", true, "There is no man #99 on the team.", [] { return true; }},
+      {"sub 1", true, "sub POSITION MAN", [] { return true; }},
+      {"delegate defense on", false, "The computer calls your defense.",
+       [] { return game.side[2].BothDefenses == 1; }},
+      {"auto 1st 13:00", true, "no mark ahead", [] { return !Watching(); }},
+      {"shoot", true, "Not at this stop: shoot. Open: continue", [] { return true; }},
+      {"xyzzy", true, "There is no command \"xyzzy\".", [] { return true; }},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    SetUpCoachedGame("pro", 1, "C", "H");
+    league.rules.ZoneLegalCheck = 1;
+    std::istringstream in(std::string(c.line) + "\nquit\ny\n");
+    std::ostringstream out, err;
+    EXPECT_FALSE(CoachSession(in, out, err, {}).Run()) << c.line;
+    EXPECT_NE((c.refused ? err : out).str().find(c.told), std::string::npos) << c.line << ": " << err.str();
+    EXPECT_EQ(err.str().empty(), !c.refused) << c.line << ": " << err.str();
+    EXPECT_TRUE(c.holds()) << c.line;
+  }
+}
+
+TEST(CoachWords, FindTheManWhoIsMeant) {
+  SetUpCoachedGame("pro", 1, "C", "C");
+  for (int slot = 1; slot <= kRosterSlots; ++slot) PlayerAt(1, slot).TeamNo = 0;
+  const char* names[][2] = {
+      {"John", "Smith"}, {"Karl", "Smithson"}, {"Ed", "Moreno"}, {"Al", "Moreno"}, {"Bo", "O'Neil"}};
+  for (int slot = 1; slot <= 5; ++slot) {
+    PlayerRecord& p = PlayerAt(1, slot + 5);
+    p.TeamNo = static_cast<i16>(game.GameTeam[1]);
+    p.FirstName = names[slot - 1][0];
+    p.LastName = names[slot - 1][1];
+    p.ShortName = names[slot - 1][1];
+    game.side[1].Lineup[slot] = slot == 5 ? 0 : slot + 5;
+  }
+  // clang-format off
+  const struct { const char* why; const char* said; int slot; } cases[] = {
+      {"a whole last name before a part of one", "smith", 6}, {"a part", "smiths", 7},
+      {"two of a name", "Moreno", 0}, {"with the first name", "al moreno", 9}, {"first name and part", "john", 6},
+      {"signs are no matter", "oneil", 10}, {"a position", "2", 7}, {"a label", "pg", 6},
+      {"an empty position", "5", 0}, {"a roster number", "#10", 10}, {"marked, or above 5", "10", 10},
+      {"marked: no position", "#2", 0}, {"nobody", "jones", 0}, {"no such number", "31", 0}, {"nothing", "", 0},
+      {"only signs", "'-", 0}, {"a bare mark", "#", 0},
+  };
+  // clang-format on
+  for (const auto& c : cases) {
+    const Found found = FindMan(1, c.said);
+    EXPECT_EQ(found.value, c.slot) << c.why;
+    EXPECT_EQ(found.fault.empty(), c.slot > 0) << c.why;
+  }
+  EXPECT_EQ(FindMan(1, "Moreno").fault, "Which one: Ed Moreno #8, Al Moreno #9?");
+}
+
+}  // namespace
+}  // namespace tipline::cli

@@ -1,0 +1,251 @@
+#include "frontoffice/schedule_generator.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "base/random.h"
+#include "base/record_file.h"
+#include "frontoffice/first_schedule.h"
+#include "support/schedule_league.h"
+
+namespace tipline {
+namespace {
+
+/// So many teams over the divisions in turn; with `uneven` all of the last turn go to the first division.
+std::vector<int> Teams(int count, int divisions) {
+  std::set<int> teams;
+  for (int k = 0; k < count; ++k) teams.insert(TeamsOfDivision(k % divisions + 1)[k / divisions + 1]);
+  return {teams.begin(), teams.end()};
+}
+
+/// What a schedule comes to: games of each team, meetings of each ordered pair.
+struct Tally {
+  std::map<int, int> home, visitor;
+  std::map<std::pair<int, int>, int> at;  ///< visitor, home
+  int twice = 0;                          ///< teams with two games in one slot
+
+  explicit Tally(const ScheduleDraft& draft) {
+    std::set<std::pair<int, int>> busy;
+    for (const auto& game : draft.games) {
+      ++home[game.home];
+      ++visitor[game.visitor];
+      ++at[{game.visitor, game.home}];
+      for (const int team : {game.home, game.visitor}) twice += !busy.insert({game.slot, team}).second;
+    }
+  }
+};
+
+std::vector<std::string> TextLines(const ScheduleDraft& draft) {
+  std::vector<std::string> dates;
+  for (const auto& date : draft.dates) {
+    dates.push_back(std::to_string(date.month) + "/" + std::to_string(date.day));
+  }
+  return dates;
+}
+
+TEST(ScheduleGenerator, RefusesWhatIsNoSeason) {
+  const struct {
+    const char* why;
+    int teams, games, divisional;
+    const char* message;
+  } cases[] = {
+      {"one team", 1, 9, 1, "A minimum of two teams is required to create a schedule!"},
+      {"too short", 2, 8, 1, "Schedules must be an even number of games between 10 and 98."},
+      {"odd", 2, 11, 0, "Schedules must be an even number of games between 10 and 98."},
+      {"too long", 2, 100, 0, "Schedules must be an even number of games between 10 and 98."},
+      {"odd", 2, 10, 1, "Divisional games must be zero or an even number between 2 and 20 games."},
+      {"negative", 2, 10, -2, "Divisional games must be zero or an even number between 2 and 20 games."},
+      {"too many", 2, 98, 22, "Divisional games must be zero or an even number between 2 and 20 games."},
+      {"the longest file", 720, 54, 20, ""},
+      {"too long a file", 720, 56, 0, "A schedule holds at most 20000 games, these would be 20160."},
+      {"the least", 2, 10, 0, ""},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ScheduleRequestProblem(c.teams, c.games, c.divisional), c.message) << c.why;
+  }
+}
+
+TEST(ScheduleGenerator, EverySizeEndsAndNobodyPlaysTwiceADay) {
+  random.Seed(5);
+  for (int games = 10; games <= 98; games += 2) {
+    for (int divisional = 0; divisional <= 20; divisional += 2) {
+      const int count = 1 + Rnd(59), spread = 1 + Rnd(7);
+      const auto teams = Teams(count, std::max(spread, (count + 19) / 20));
+      const auto draft = DrawSchedule({games, divisional, Rnd(3)}, teams);
+      const Tally tally(draft);
+      const std::string what = std::to_string(count) + " teams, " + std::to_string(games) + " games, " +
+                               std::to_string(divisional) + " in the division";
+      ASSERT_EQ(tally.twice, 0) << what;
+      ASSERT_EQ(draft.missing, count * games / 2 - static_cast<int>(draft.games.size())) << what;
+      ASSERT_EQ(draft.dates.size(), static_cast<std::size_t>(games) + 10) << what;
+      for (const auto& game : draft.games) {
+        ASSERT_TRUE(std::binary_search(teams.begin(), teams.end(), game.home)) << what;
+        ASSERT_TRUE(game.slot >= 1 && game.slot <= games + 10 && game.home != game.visitor) << what;
+      }
+      const auto message = ScheduleMessage(draft);
+      ASSERT_EQ(message.find("Schedule Missing " + std::to_string(draft.missing) + " Games!") == 0,
+                draft.missing > 0)
+          << what;
+    }
+  }
+}
+
+TEST(ScheduleGenerator, EqualDivisionsComeOutEven) {
+  const auto teams = Teams(30, 6);
+  int even = 0;
+  for (int seed = 1; seed <= 10; ++seed) {
+    random.Seed(static_cast<std::uint64_t>(seed));
+    const auto draft = DrawSchedule({82, 4, 4}, teams);
+    Tally tally(draft);
+    bool balanced = draft.missing == 0;
+    for (const int team : teams) balanced = balanced && tally.home[team] == 41 && tally.visitor[team] == 41;
+    even += balanced;
+    for (const int a : teams) {
+      for (const int b : teams) {
+        if (a == b || DivisionOf(a) != DivisionOf(b)) continue;
+        EXPECT_EQ((tally.at[{a, b}]), 2) << a << " at " << b;
+      }
+    }
+  }
+  EXPECT_GE(even, 8);
+}
+
+TEST(ScheduleGenerator, TellsHowItCameOut) {
+  random.Seed(2);
+  const struct {
+    const char* why;
+    std::vector<int> teams;
+    ScheduleRequest request;
+    const char* message;
+    int slack;
+  } cases[] = {
+      {"two teams alone", {1, 2}, {10, 0, 1}, "Schedule complete!\nUnbalanced League.", 2},
+      {"two divisions", Teams(8, 2), {20, 2, 1}, "Schedule complete!", 0},
+      {"four teams and three", {1, 2, 3, 4, 13, 14, 15}, {10, 2, 1}, "\nUnbalanced League.", 2},
+      {"an odd number of meetings", Teams(8, 2), {20, 3, 1}, "Schedule complete!\nUnbalanced League.", 1},
+      {"one game against everybody", {1, 13}, {10, 0, 0}, "Schedule complete!", 0},
+      {"more rivals than games", Teams(40, 2), {10, 20, 1}, "Schedule complete!", 0},
+  };
+  for (const auto& c : cases) {
+    const auto draft = DrawSchedule(c.request, c.teams);
+    EXPECT_TRUE(ScheduleMessage(draft).ends_with(c.message)) << c.why << ": " << ScheduleMessage(draft);
+    EXPECT_EQ(draft.slack, c.slack) << c.why;
+  }
+  ScheduleDraft draft;
+  draft.missing = 3, draft.divisions = 2, draft.filledIn = true, draft.slack = 2;
+  EXPECT_EQ(ScheduleMessage(draft),
+            "Schedule Missing 3 Games!\nAdditional divisional games were added to the schedule.\n"
+            "Unbalanced League.");
+  draft.divisions = 1, draft.slack = 0, draft.missing = -1;
+  EXPECT_EQ(ScheduleMessage(draft), "Schedule complete!");
+}
+
+TEST(ScheduleGenerator, OnlyUnevenSeasonsAreTriedAgain) {
+  random.Seed(3);
+  int attempts = 0;
+  const auto count = [&attempts] { ++attempts; };
+  DrawSchedule({20, 2, 2}, Teams(8, 2), count);
+  EXPECT_EQ(attempts, 1);
+  attempts = 0;
+  const auto draft = DrawSchedule({80, 10, 4}, Teams(10, 2), count);
+  EXPECT_GT(draft.missing, 0);
+  EXPECT_TRUE(draft.filledIn);
+  EXPECT_EQ(attempts, 13) << "1, 3, 5 ... 25";
+}
+
+TEST(ScheduleGenerator, DatesGoOnByTwoDaysOrThree) {
+  const struct {
+    const char* why;
+    int games, month, day, slot;
+    const char* date;
+  } cases[] = {{"over the month's end", 50, 10, 31, 2, "11/2"}, {"a short season", 48, 10, 31, 2, "11/3"},
+               {"no leap year", 50, 2, 27, 2, "3/1"},           {"into the new year", 50, 12, 30, 2, "1/1"},
+               {"a day too late", 50, 11, 31, 1, "11/30"},      {"February", 50, 2, 31, 1, "2/28"},
+               {"the last slot", 98, 10, 30, 108, "6/1"},       {"no month", 50, 0, -4, 1, "1/1"}};
+  for (const auto& c : cases) {
+    const auto draft = DrawSchedule({c.games, 0, 1, c.month, c.day}, {1, 13});
+    EXPECT_EQ(TextLines(draft)[static_cast<std::size_t>(c.slot - 1)], c.date) << c.why;
+  }
+}
+
+TEST(ScheduleGenerator, OddFiguresOfACallerAreHeld) {
+  random.Seed(1);
+  for (const ScheduleRequest& request :
+       {ScheduleRequest{-5, -3, -9, 99, 99}, ScheduleRequest{999, 999, 99999}, ScheduleRequest{11, 1, 1}}) {
+    EXPECT_EQ(Tally(DrawSchedule(request, Teams(9, 2))).twice, 0);
+  }
+  EXPECT_TRUE(DrawSchedule({10, 0, 1}, {}).games.empty());
+  EXPECT_TRUE(DrawSchedule({10, 4, 1}, {7}).games.empty());
+}
+
+class GeneratorScreen : public testing::Test, public ScheduleLeague {
+ protected:
+  HCCOMPUTERSCHEDULE screen{"20", "2", "1"};
+};
+
+TEST_F(GeneratorScreen, ReplacesTheScheduleAndTells) {
+  Add(1, 2);
+  std::vector<std::string> captions;
+  screen.Working = [&captions](const std::string& caption) { captions.push_back(caption); };
+  dialogs.answers = {true};
+  ASSERT_TRUE(screen.GENERATECommand());
+  EXPECT_EQ(dialogs.asked, std::vector<std::string>{"Overwrite Existing Schedule?"});
+  EXPECT_EQ(dialogs.told, std::vector<std::string>{"Schedule complete!"});
+  EXPECT_EQ(captions, std::vector<std::string>{"Please Wait.."});
+  EXPECT_EQ(league.GameCount(), 80);
+  EXPECT_EQ(league.ScheduleYear, 1985);
+  EXPECT_EQ(std::filesystem::file_size(ScheduleFile()), 80u * 200);
+  EXPECT_EQ(Row(1).Status, "U");
+  EXPECT_EQ(Row(1).CoachKind[2], "C");
+  EXPECT_EQ(std::string(Row(1).BoxFile.bytes.begin(), Row(1).BoxFile.bytes.end()), std::string(15, ' '));
+}
+
+TEST_F(GeneratorScreen, ARefusalLeavesTheSchedule) {
+  Add(1, 2);
+  ASSERT_TRUE(SaveSchedule());
+  const std::string before = ReadWholeFile(ScheduleFile());
+  EXPECT_FALSE(screen.GENERATECommand()) << "the answer was no";
+  screen.GAMETEXT = "many";
+  screen.DIVISIONTEXT = "few";
+  dialogs.answers = {true, true};
+  EXPECT_FALSE(screen.GENERATECommand());
+  screen.GAMETEXT = " 20 ";
+  EXPECT_FALSE(screen.GENERATECommand());
+  EXPECT_EQ(dialogs.told, (std::vector<std::string>{
+                              "Schedules must be an even number of games between 10 and 98.",
+                              "Divisional games must be zero or an even number between 2 and 20 games."}));
+  EXPECT_EQ(league.GameCount(), 1);
+  EXPECT_EQ(ReadWholeFile(ScheduleFile()), before);
+}
+
+TEST(FirstSchedule, IsCompleteAndLeavesTheGeneratorAlone) {
+  const struct {
+    const char* why;
+    int teams, divisions, games;
+    bool divisional;  ///< rivals meet
+  } cases[] = {{"pro", 30, 6, 82, true},
+               {"college", 48, 6, 28, true},
+               {"women", 12, 2, 40, true},
+               {"historic", 10, 2, 80, true},
+               {"two teams", 2, 1, 98, true}};
+  for (const auto& c : cases) {
+    random.Seed(9);
+    const int next = Rnd(1000000);
+    random.Seed(9);
+    const auto made = MakeFirstSchedule(Teams(c.teams, c.divisions), c.games, 1990, 7);
+    EXPECT_EQ(Rnd(1000000), next);
+    EXPECT_EQ(made.rows.size(), static_cast<std::size_t>(c.teams * c.games / 2)) << c.why << made.message;
+    bool rivals = false;
+    for (const auto& row : made.rows) rivals |= DivisionOf(row.Team[1]) == DivisionOf(row.Team[2]);
+    EXPECT_EQ(rivals, c.divisional) << c.why;
+    EXPECT_EQ(made.rows[0].Year, 1990);
+  }
+  const auto none = MakeFirstSchedule(Teams(720, 36), 82, 1990, 7);
+  EXPECT_TRUE(none.rows.empty());
+  EXPECT_EQ(none.message.find("No schedule was made: "), 0u);
+}
+
+}  // namespace
+}  // namespace tipline
