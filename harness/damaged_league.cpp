@@ -89,12 +89,12 @@ std::vector<int> ActiveTeams() {
 /// The first field in which two records differ.
 template <Described R>
 std::string Difference(R before, const R& after) {
+  const auto own = RecordBytes(before), other = RecordBytes(after);
   std::string field;
-  const auto bytes = RecordBytes(after);
   Describe(before, [&](int offset, const char* name, auto& member, const char*) {
-    std::vector<u8> own(static_cast<std::size_t>(DiskSize<std::remove_cvref_t<decltype(member)>>()));
-    PutValue(own.data(), member);
-    if (field.empty() && !std::equal(own.begin(), own.end(), bytes.begin() + offset)) field = name;
+    const auto first = own.begin() + offset;
+    const auto last = first + DiskSize<std::remove_cvref_t<decltype(member)>>();
+    if (field.empty() && !std::equal(first, last, other.begin() + offset)) field = name;
   });
   return field;
 }

@@ -89,8 +89,10 @@ struct PlayerRepair {
   }
 
   void TrailingComma() {
-    const std::string shown = p.ShortName.Str();
-    if (shown.ends_with(',')) p.ShortName = Trimmed(std::string_view(shown).substr(0, shown.size() - 1));
+    std::string shown = p.ShortName.Str();
+    if (!shown.ends_with(',')) return;
+    while (shown.ends_with(',') || shown.ends_with(' ') || shown.ends_with('\0')) shown.pop_back();
+    p.ShortName = shown;
   }
 
   void Defense() {
