@@ -1,6 +1,7 @@
 // The state of a league's files, and what rids a league of its past.
 #include <iostream>
 
+#include "cli/columns.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
 #include "league/data_tree.h"
@@ -17,7 +18,7 @@ int ExamineLeague(const Common& common) {
   if (const auto fault = LeagueFault(folder); !fault.empty()) return Refuse(fault);
   if (!EnsureEra()) return 1;
   const auto findings = LeagueFindings(folder);
-  for (const auto& finding : findings) std::cout << finding << '\n';
+  for (const auto& finding : findings) std::cout << Plain(finding) << '\n';
   if (findings.empty() && !common.Quiet) std::cout << folder.filename().string() << " is sound.\n";
   return findings.empty() ? 0 : 1;
 }

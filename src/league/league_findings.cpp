@@ -25,8 +25,8 @@ std::string Count(int n, const char* one, const char* many) {
 class Doctor {
  public:
   std::vector<std::string> Examine() {
-    Lengths();
     ReadRaw();
+    Lengths();
     Rules();
     for (int team = 1; team <= kTeams; ++team) {
       if (league.team[team].TeamActive == 1) Team(team);
@@ -40,19 +40,25 @@ class Doctor {
  private:
   void Say(std::string sentence) { found_.push_back(std::move(sentence)); }
 
+  /// A file is long enough when it reaches to the last team; what it never held reads as nothing.
   void Lengths() {
-    const auto rules = std::uintmax_t{RulesRecord::kRecordSize};
+    int last = 1;
+    for (int team = 1; team <= kTeams; ++team) {
+      if (league.team[team].TeamActive == 1) last = team;
+    }
     const struct {
       const char* name;
-      std::uintmax_t least;  // 0: the file may be missing
-      int slot;              // 0: the file may end anywhere behind that
-    } files[] = {{"HCTEAMS", std::uintmax_t{kTeams} * kTeamSlotBytes, kTeamSlotBytes},
+      int least;  // bytes; 0: the file may be missing
+      int slot;   // 0: the file may end anywhere behind that
+    } files[] = {{"HCTEAMS", last * kTeamSlotBytes, kTeamSlotBytes},
                  {"HCPLAYER", kPlayerSlotBytes, kPlayerSlotBytes},
-                 {"HCgameplan", std::uintmax_t{kTeams - 1} * kCoachSlotBytes + CoachRecord::kRecordSize, 0},
-                 {"HCRULES", rules, 0},
+                 {"HCgameplan", (last - 1) * kCoachSlotBytes + CoachRecord::kRecordSize, 0},
+                 {"HCRULES", RulesRecord::kRecordSize, 0},
                  {"HcDaily", 0, kDailySlotBytes},
                  {"SCORES", 0, kScheduleSlotBytes}};
-    for (const auto& f : files) Length(LeagueFile(f.name), f.least, static_cast<unsigned>(f.slot));
+    for (const auto& f : files) {
+      Length(LeagueFile(f.name), static_cast<unsigned>(f.least), static_cast<unsigned>(f.slot));
+    }
   }
 
   void Length(const fs::path& file, std::uintmax_t least, unsigned slot) {
@@ -114,23 +120,33 @@ class Doctor {
   }
 
   /// What the roster names, and what stands there.
+  /// What the roster names, and what stands there.
   void Entries(const Roster& roster, const std::string& name) {
+    int missing = 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
       const int row = roster.team.Roster[slot];
       if (row == 0) continue;
-      const std::string where = name + ": slot " + std::to_string(slot) + " names row " + std::to_string(row);
       if (row < 1 || row >= static_cast<int>(league.player.size())) {
-        Say(where + ", which HCPLAYER does not have.");
-        continue;
+        ++missing;
+      } else {
+        Entry(roster, slot, name + ": slot " + std::to_string(slot) + " names row " + std::to_string(row));
       }
-      const PlayerRecord& man = roster.player[slot];
-      char& taken = onRoster_[static_cast<std::size_t>(row)];
-      if (taken) Say(where + ", which stands on a roster already.");
-      taken = 1;
-      if (man.RecNo != row) Say(where + ", which calls itself " + std::to_string(man.RecNo) + ".");
-      if (man.TeamNo != roster.TeamNo && man.TeamNo != roster.TeamNo + kFormerMember) {
-        Say(where + ", a man of team " + std::to_string(man.TeamNo) + ".");
-      }
+    }
+    if (missing > 0) {
+      Say(name + ": " + Count(missing, " slot names a row", " slots name rows") +
+          " that HCPLAYER does not have.");
+    }
+  }
+
+  void Entry(const Roster& roster, int slot, const std::string& where) {
+    const int row = roster.team.Roster[slot];
+    const PlayerRecord& man = roster.player[slot];
+    char& taken = onRoster_[static_cast<std::size_t>(row)];
+    if (taken) Say(where + ", which stands on a roster already.");
+    taken = 1;
+    if (man.RecNo != row) Say(where + ", which calls itself " + std::to_string(man.RecNo) + ".");
+    if (man.TeamNo != roster.TeamNo && man.TeamNo != roster.TeamNo + kFormerMember) {
+      Say(where + ", a man of team " + std::to_string(man.TeamNo) + ".");
     }
   }
 

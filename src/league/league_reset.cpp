@@ -111,6 +111,7 @@ bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
 }
 
 bool ResetLeague(bool realLifeToo, const WorkLabel& label) {
+  LoadAllTeams();  // the schedule keeps only games of teams that are there
   if (!LoadSchedule()) return false;
   for (ScheduleRecord& row : league.ScheduleGame) {
     if (IsCupGame(row)) row.Status = "D";

@@ -93,7 +93,7 @@ TEST_F(Doctor, NamesWhatIsWrongAndChangesNothing) {
       {"HCTEAMS ends within a record", [&] { put(TeamsFile(), ReadWholeFile(TeamsFile()) + "x"); }},
       {"rules outside their lists", [&] { league.rules.MinuteList = 21, SaveRules(); }},
       {"would repair the rules", [&] { league.rules.JumpBallMark = 0, SaveRules(); }},
-      {"which HCPLAYER does not have", [&] { team([](TeamRecord& t) { t.Roster[30] = 999; }); }},
+      {"1 slot names a row that HCPLAYER does not have", [&] { team([](TeamRecord& t) { t.Roster[30] = 999; }); }},
       {"stands on a roster already", [&] { team([](TeamRecord& t) { t.Roster[30] = t.Roster[1]; }); }},
       {"which calls itself 7", [&] { man([](PlayerRecord& p) { p.RecNo = 7; }); }},
       {"a man of team 2", [&] { man([](PlayerRecord& p) { p.TeamNo = 2; }); }},
