@@ -62,7 +62,7 @@ void EnterMissingMen(Roster& roster) {
     PlayerRecord man;
     ReadPlayer(number, man);
     if (man.TeamNo != roster.TeamNo || man.RecNo == 0) continue;  // the file has moved on
-    entry[slot] = number;
+    entry[slot] = man.RecNo = number;
     roster.player[slot] = man;
     ReadDaily(number, roster.daily[slot]);
   }

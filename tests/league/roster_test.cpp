@@ -65,6 +65,10 @@ TEST_F(Rosters, MenStandInTheirSlotsAndRemovedOnesLeave) {
 TEST_F(Rosters, AManStandsOnOneSlotAndMissingOnesEnterTheHighestFreeOne) {
   PutMan(4, 5, "Late");
   PutMan(5, 0, "Late");
+  PlayerRecord wrong;
+  ReadPlayer(4, wrong);
+  wrong.RecNo = 3;  // the row knows its own number badly
+  ASSERT_TRUE(RecordFile(PlayersFile(), kPlayerSlotBytes).Write(4, wrong));
   league.team[5].Roster[8] = 2;
   league.team[5].Roster[30] = 3;
   ASSERT_TRUE(WriteTeam(5));
@@ -75,6 +79,7 @@ TEST_F(Rosters, AManStandsOnOneSlotAndMissingOnesEnterTheHighestFreeOne) {
   EXPECT_EQ(roster.team.Roster[8], 0) << "he stands at slot 1";
   EXPECT_EQ(roster.team.Roster[30], 4);
   EXPECT_EQ(roster.player[30].LastName, "Late");
+  EXPECT_EQ(roster.player[30].RecNo, 4);
   EXPECT_EQ(std::count(roster.team.Roster.begin(), roster.team.Roster.end(), 5), 0);
 }
 
