@@ -345,6 +345,7 @@ void Resolve() {
   Scout();
   SetBounds();
   DrawBranch();
+  if (game.PlayResult == "DELAY") return;  // the ball is not put in play yet
   AfterTheDraw();
   BurnClock();
 }
