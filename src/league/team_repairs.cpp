@@ -93,6 +93,7 @@ struct TeamRepair {
     }
     if (t.City.View().find_first_of("/\\+*?") != std::string_view::npos) {
       t.City = Trimmed(Without(t.City.View(), "/\\+*?"));
+      Abbreviation();  // it may have been taken from the city with them
     }
   }
 
