@@ -92,7 +92,8 @@ int RowOf(const ScheduleChoice& game) {
   int found = 0;
   ForScheduledGames([&](const ScheduleRecord& row, int n) {
     const bool same = row.Team[1] == game.visitor && row.Team[2] == game.home;
-    if (found == 0 && same && IsOn(row, game.month, game.day)) found = n;
+    if (!same || !IsOn(row, game.month, game.day)) return;
+    if (found == 0 || league.ScheduleGame[static_cast<std::size_t>(found)].Status == 'P') found = n;
   });
   return found;
 }
@@ -153,7 +154,8 @@ int SummarizeSchedule(const Common& common) {
 }
 
 int ImportSchedule(const ScheduleArguments& a, const Common& common) {
-  if (!OpenSchedule(common)) return 1;
+  HCSCHEDULE editor;
+  if (!OpenTheLeague(common) || !editor.Open()) return 1;
   return HcImportCSVSchedule(std::filesystem::absolute(a.File)) ? 0 : 1;
 }
 
@@ -201,7 +203,7 @@ int ListSchedules(const ScheduleArguments& a, const Common& common) {
 }
 
 int NameSchedule(const ScheduleArguments& a, bool rename, const Common& common) {
-  if (!OpenTheLeague(common)) return 1;
+  if (!OpenSchedule(common)) return 1;
   const HCNEWSCHEDULE screen{a.Name};
   return (rename ? screen.RenameCommand() : screen.CreateCommand()) ? 0 : 1;
 }

@@ -67,8 +67,6 @@ bool MeetInPoolPlay(const ScheduleChoice& choice, int except) {
 
 }  // namespace
 
-int ScheduleDays(int month) { return month == 2 ? 29 : DaysOfMonth(month); }
-
 bool ScheduleAllows(const ScheduleChoice& choice, int except) {
   const TournamentPools pools = ReadPools();
   const char type = DateTypeOf(pools, choice.month, choice.day);

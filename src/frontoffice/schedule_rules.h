@@ -13,9 +13,6 @@ struct ScheduleChoice {
   int month = 0, day = 0;     ///< calendar date, 0 none chosen
 };
 
-/// Days that can be chosen in a calendar month, February with 29; 0 outside 1 to 12.
-int ScheduleDays(int month);
-
 /// Whether the league's rules of dates and pools let two different teams play on a date: asks or tells where
 /// they do not. `except` is the row that the game replaces, 0 for a new one.
 bool ScheduleAllows(const ScheduleChoice& choice, int except);
