@@ -11,16 +11,10 @@ namespace {
 constexpr double kHighestFigure = 1000;  // no team has so many of anything in a game
 constexpr int kEraRecords = 305;         // 105 pro rows, 95 unused, 105 college rows
 
-std::uintmax_t SizeOf(const std::filesystem::path& file) {
-  std::error_code error;
-  const auto size = std::filesystem::file_size(file, error);
-  return error ? 0 : size;
-}
-
-std::string MissingOrShort(const std::filesystem::path& file, std::uintmax_t bytes) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return file.string() + " is missing.";
-  if (SizeOf(file) < bytes) return file.string() + " is too short to be whole.";
+std::string MissingOrShort(const std::filesystem::path& path, long long bytes) {
+  const RecordFile file(path, 1);
+  if (!file.Exists()) return path.string() + " is missing.";
+  if (file.Bytes() < bytes) return path.string() + " is too short to be whole.";
   return "";
 }
 
@@ -92,10 +86,10 @@ bool RowMakesSense(const EraRecord& row) {
 std::string LeagueFault(const std::filesystem::path& folder) {
   const struct {
     const char* name;
-    std::uintmax_t bytes;
-  } files[] = {{"HCTEAMS", std::uintmax_t{kTeams} * kTeamSlotBytes},
+    long long bytes;
+  } files[] = {{"HCTEAMS", kTeams * kTeamSlotBytes},
                {"HCPLAYER", kPlayerSlotBytes},
-               {"HCgameplan", std::uintmax_t{kTeams - 1} * kCoachSlotBytes + CoachRecord::kRecordSize},
+               {"HCgameplan", (kTeams - 1) * kCoachSlotBytes + CoachRecord::kRecordSize},
                {"HCRULES", RulesRecord::kRecordSize}};
   for (const auto& f : files) {
     if (auto fault = MissingOrShort(folder / f.name, f.bytes); !fault.empty()) return fault;
@@ -109,7 +103,7 @@ std::string LeagueFault(const std::filesystem::path& folder) {
 std::string EraFault(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) return "";
-  const auto whole = std::uintmax_t{kEraRecords - 1} * kEraSlotBytes + EraRecord::kRecordSize;
+  const int whole = (kEraRecords - 1) * kEraSlotBytes + EraRecord::kRecordSize;
   if (auto fault = MissingOrShort(file, whole); !fault.empty()) return fault;
   bool sound = true;
   RecordFile(file, kEraSlotBytes).ReadAll(kEraRecords, [&sound](int record, const u8* bytes) {
