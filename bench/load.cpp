@@ -7,11 +7,14 @@
 
 #include "base/record_file.h"
 #include "bench.h"
+#include "engine/engine.h"
 #include "frontoffice/league_maker.h"
 #include "harness/temporary_home.h"
+#include "league/data_tree.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/rules.h"
+#include "league/schedule.h"
 
 namespace tipline {
 namespace {
@@ -44,9 +47,22 @@ void Make() {
 }
 
 void Print(std::ostream& out, const char* what, double seconds, double aim) {
-  out << std::left << std::setw(34) << what << std::fixed << std::setprecision(3) << seconds
-      << " s, aim under " << std::setprecision(1) << aim << " s: " << (seconds < aim ? "ok" : "too slow")
+  out << std::left << std::setw(34) << what << std::fixed << std::setprecision(5) << seconds
+      << " s, aim under " << std::setprecision(3) << aim << " s: " << (seconds < aim ? "ok" : "too slow")
       << '\n';
+}
+
+/// The second load of a team, on the average of all: the first one brings its coach's plan up to date.
+double LoadOneTeam() {
+  double seconds = 0;
+  int teams = 0;
+  for (int team = 1; team <= kTeams; ++team) {
+    if (league.team[team].TeamActive != 1) continue;
+    LoadTeam(team, 1);
+    seconds += Seconds([team] { LoadTeam(team, 1); });
+    ++teams;
+  }
+  return seconds / teams;
 }
 
 }  // namespace
@@ -55,12 +71,22 @@ int Load(std::ostream& out) {
   const TemporaryHome folder;
   UseShippedEras();
   const double make = Seconds(Make);
+  program.LeagueFolder = FindLeague("Bench");
+  const double open = Seconds([] {
+    LoadRules();
+    LoadAllTeams();
+    LoadSchedule();
+    LoadLeaguePlayers();
+  });
+  const double team = LoadOneTeam();
   program.LeagueFolder = folder.Home() / "many";
   std::filesystem::create_directories(program.LeagueFolder);
   WriteManyPlayers();
   const double load = Seconds(LoadLeaguePlayers);
   if (league.player.size() != kRows + 1) throw std::runtime_error("the players were not loaded");
   Print(out, "a league of 30 teams is made", make, 3);
+  Print(out, "it is opened, with its players", open, 0.05);
+  Print(out, "one team is loaded for a game", team, 0.001);
   Print(out, "HCPLAYER of 50,000 rows is loaded", load, 0.7);
   return 0;
 }
