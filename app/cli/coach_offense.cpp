@@ -1,6 +1,7 @@
 // Commands that run the game: the attack, the answer to a call, timeouts, how far the computer goes on.
 #include <array>
 
+#include "cli/coach_marks.h"
 #include "cli/coach_screen.h"
 #include "cli/coach_table.h"
 #include "coach/computer_coach.h"
@@ -99,62 +100,12 @@ void SetFocus(int side, int focus) {
   game.side[side].TimeoutFocus.Set(TimeoutFocusWords::kTexts[static_cast<std::size_t>(focus)]);
 }
 
-// The mark of a watched stretch.
-
-int TenthsOf(std::string_view word) {
-  constexpr std::array<std::string_view, 4> kShort{"6:00", "2:00", "1:00", "0:30"};
-  constexpr std::array<std::string_view, 4> kLong{"six", "two", "one", "30"};
-  constexpr int kTenths[] = {3600, 1200, 600, 300};
-  for (std::size_t i = 0; i < kShort.size(); ++i) {
-    if (word == kShort[i] || Squeezed(word) == kLong[i] || word == kShort[i].substr(1)) return kTenths[i];
-  }
-  return 0;
-}
-
-/// The mark that is meant, by its own text or by period and clock: "end 2", "4th 2:00", "2:00" in this
-/// period. "NONE" when there is none.
-WatchUntil ReadMark(const Words& words) {
-  WatchUntil mark;
-  int period = game.Period, below = 0;
-  for (const auto text : WatchUntilWords::kTexts) {
-    if (Squeezed(text) == Squeezed(Joined(words))) {
-      mark.Set(text);
-      return mark;
-    }
-  }
-  for (const std::string& word : words) {
-    const std::string said = Squeezed(word);
-    if (const int tenths = TenthsOf(word)) {
-      below = tenths;
-    } else if (said == "end") {
-      below = 1;
-    } else if (!said.empty() && said[0] >= '1' && said[0] <= '4' && (said.size() == 1 || said.size() == 3)) {
-      period = said[0] - '0';
-    } else if (said != "period" && said != "minutes" && said != "minute" && said != "seconds") {
-      return mark;
-    }
-  }
-  for (const auto text : WatchUntilWords::kTexts) {
-    WatchUntil candidate;
-    candidate.Set(text);
-    const WatchMark at = MarkOf(candidate);
-    if (below > 0 && at.period == period && at.below == below) mark = candidate;
-  }
-  return mark;
-}
-
-bool Ahead(WatchUntil until) {
-  const WatchMark mark = MarkOf(until);
-  if (mark.period == 0 || mark.period > league.rules.PeriodList) return false;
-  return mark.period > game.Period || (mark.period == game.Period && game.GameClock >= mark.below);
-}
-
 Answer ListMarks(CoachSession& session) {
   std::string text;
   for (const auto word : WatchUntilWords::kTexts) {
     WatchUntil mark;
     mark.Set(word);
-    if (Ahead(mark)) text += (text.empty() ? "" : "; ") + std::string(word);
+    if (Ahead(mark, game.Period, game.GameClock)) text += (text.empty() ? "" : "; ") + std::string(word);
   }
   session.Say(text.empty() ? "No mark is ahead of us." : "Marks ahead: " + text + ".");
   return Answer::kStays;
@@ -255,8 +206,9 @@ Answer DoFocus(CoachSession& session, const Words& words) {
 
 Answer DoAuto(CoachSession& session, const Words& words) {
   if (words.empty()) return ListMarks(session);
-  const WatchUntil mark = ReadMark(words);
-  if (!Ahead(mark)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
+  const WatchUntil mark = ReadMark(words, game.Period);
+  if (!Ahead(mark, game.Period, game.GameClock))
+    return session.Refuse("That is no mark ahead of us; auto alone lists them.");
   return session.GoOn("Both sides play on alone: " + std::string(mark.Text()) + ".", [mark] {
     game.WatchUntil = mark;
     SetPlayBox();

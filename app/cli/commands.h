@@ -21,6 +21,11 @@ struct PlayRequest {
   std::string Visitor, Home;   ///< number, abbreviation, city or nickname
   std::string Coach = "none";  ///< who is coached by the user: "none", "visitor", "home", "both"
   std::string Calls = "";      ///< how often he is asked: "none", "default", "all", "" by his preferences
+  std::string Date;            ///< "MM-DD", "" the first of October
+  std::string From;            ///< league of the visitor, "" the open one
+  std::string Scenario;  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
+  std::string Until;     ///< mark up to which both sides play alone, "" none
+  bool Neutral = false;
 };
 
 int NewLeague(LeagueRequest request, const Common& common);
@@ -58,5 +63,7 @@ bool OpenTheLeague(const Common& common);
 /// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no
 /// team or more than one.
 int FindTeam(const std::string& text);
+/// The same among the teams of another league, by number.
+int FindTeam(const std::string& text, const std::vector<TeamRecord>& teams);
 
 }  // namespace tipline::cli

@@ -115,10 +115,14 @@ bool OpenTheLeague(const Common& common) {
   return true;
 }
 
-int FindTeam(const std::string& text) {
+namespace {
+
+/// at(n): the record of team n.
+template <class At>
+int FindAmong(const std::string& text, At&& at) {
   std::vector<int> found;
   for (int t = 1; t <= kTeams; ++t) {
-    const TeamRecord& team = league.team[t];
+    const TeamRecord& team = at(t);
     if (team.TeamActive != 1) continue;
     if (text == Str(t)) return t;
     if (SameText(team.Abbrev.View(), text)) return t;
@@ -130,9 +134,19 @@ int FindTeam(const std::string& text) {
   if (found.size() == 1) return found[0];
   std::string message = found.empty() ? "there is no team \"" + text + "\" in this league; see: tipline teams"
                                       : "\"" + text + "\" names more than one team:";
-  for (const int t : found) message += " " + league.team[t].Abbrev.Str();
+  for (const int t : found) message += " " + at(t).Abbrev.Str();
   Refuse(message);
   return 0;
+}
+
+}  // namespace
+
+int FindTeam(const std::string& text) {
+  return FindAmong(text, [](int t) -> const TeamRecord& { return league.team[t]; });
+}
+
+int FindTeam(const std::string& text, const std::vector<TeamRecord>& teams) {
+  return FindAmong(text, [&teams](int t) -> const TeamRecord& { return teams[static_cast<std::size_t>(t)]; });
 }
 
 int NewLeague(LeagueRequest request, const Common& common) {

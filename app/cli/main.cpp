@@ -98,6 +98,15 @@ void AddPlay(CLI::App& app, Arguments& a) {
           "plays that you are asked for: none, default (more when it counts) or all; without it your "
           "preferences, at first all")
       ->check(CLI::IsMember({"none", "default", "all"}));
+  play->add_option("--date", a.play.Date, "date of the game, MM-DD (default: 10-01)");
+  play->add_flag("--neutral", a.play.Neutral, "on a neutral court");
+  play->add_option("--from", a.play.From, "the visitor comes from this league; such a game is not kept");
+  play->add_option(
+      "--scenario", a.play.Scenario,
+      "where the game begins: period, clock, points of visitor and home, and whose ball (visitor, "
+      "home or jump), such as \"P4 1:30 100-98 home\"");
+  play->add_option("--until", a.play.Until,
+                   "both sides play alone up to this mark, such as \"end 2\" or \"4th 2:00\"");
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");

@@ -15,24 +15,6 @@
 namespace tipline::cli {
 namespace {
 
-struct MonthDay {
-  int month = 0, day = 0;
-};
-
-/// "MM-DD"; false, told, for any other text and for days that no month has.
-bool ReadDate(const std::string& text, MonthDay& date) {
-  const char* end = text.data() + text.size();
-  const auto month = std::from_chars(text.data(), end, date.month);
-  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
-  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
-  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
-      date.day <= ScheduleDays(date.month)) {
-    return true;
-  }
-  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
-  return false;
-}
-
 std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 bool OpenSchedule(const Common& common) { return OpenTheLeague(common) && LoadSchedule(); }
@@ -99,6 +81,19 @@ int RowOf(const ScheduleChoice& game) {
 }
 
 }  // namespace
+
+bool ReadDate(const std::string& text, MonthDay& date) {
+  const char* end = text.data() + text.size();
+  const auto month = std::from_chars(text.data(), end, date.month);
+  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
+  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
+  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
+      date.day <= ScheduleDays(date.month)) {
+    return true;
+  }
+  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
+  return false;
+}
 
 int MakeSchedule(const ScheduleArguments& a, const Common& common) {
   MonthDay start{10, 30};

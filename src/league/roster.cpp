@@ -135,10 +135,12 @@ bool WriteCoachOf(const Roster& roster) {
 }
 
 bool WriteMen(const Roster& roster) {
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (roster.player[slot].RecNo > 0 && !WritePlayer(roster.player[slot])) return false;
+  const RecordFile file(PlayersFile(), kPlayerSlotBytes);
+  RecordFile::Slots men;
+  for (const PlayerRecord& man : roster.player) {
+    if (man.RecNo > 0) men.emplace_back(man.RecNo, RecordBytes(man));
   }
-  return true;
+  return Written(file.WriteSlots(men), file.Path());
 }
 
 bool WriteTeamOf(const Roster& roster) {
@@ -153,11 +155,13 @@ bool WriteTeamOf(const Roster& roster) {
 }
 
 bool WriteDaysOff(const Roster& roster) {
+  const RecordFile file(DailyFile(), kDailySlotBytes);
+  RecordFile::Slots lists;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(roster, slot) || roster.player[slot].RecNo < 1) continue;
-    if (!WriteDaily(roster.player[slot].RecNo, roster.daily[slot])) return false;
+    const int recNo = roster.player[slot].RecNo;
+    if (OnTeam(roster, slot) && recNo >= 1) lists.emplace_back(recNo, RecordBytes(roster.daily[slot]));
   }
-  return true;
+  return Written(file.WriteSlots(lists), file.Path());
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace tipline {
 namespace {
 
-constexpr std::uintmax_t kShortest = 1000;  // a shorter file was never a setup
+constexpr long long kShortest = 1000;  // a shorter file was never a setup
 
 void Blank() {
   (void)WriteWholeFile(SetupFile(), std::string(kSetupSlotBytes, ' '));  // it is repaired in memory anyway
@@ -37,12 +37,11 @@ std::filesystem::path SetupFile() {
 
 void LoadSetup() {
   ReadRecentList();
-  std::error_code error;
-  const auto size = std::filesystem::file_size(SetupFile(), error);
-  if (error || size < kShortest) {
+  const RecordFile file(SetupFile(), kSetupSlotBytes);
+  if (file.Bytes() < kShortest) {
     Blank();
   } else {
-    RecordFile(SetupFile(), kSetupSlotBytes).Read(1, setup);
+    file.Read(1, setup);
     if (Damaged()) Blank();
   }
   RepairSetup();
