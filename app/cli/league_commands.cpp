@@ -111,8 +111,8 @@ bool OpenTheLeague(const Common& common) {
   if (!EnsureEra()) return false;
   const bool rules = LoadRules();
   LoadAllTeams();
-  if (!rules) SaveRules();
-  return true;
+  LoadLeaguePlayers();
+  return rules || SaveRules();
 }
 
 namespace {

@@ -122,7 +122,6 @@ bool EnterMark(const std::string& text, const HCGameTeams2008& screen, WatchUnti
 
 int PlayExhibition(const PlayRequest& request, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
-  LoadLeaguePlayers();
   program.GameKind = "E";
   program.ScenarioGame = !request.Scenario.empty();
   HCGameTeams2008 screen;

@@ -18,9 +18,11 @@ class RecordFile {
 
   const std::filesystem::path& Path() const { return path_; }
   bool Exists() const;
-  /// Length of the file and whole slots in it, 0 when there is no file.
+  /// Length of the file, 0 when there is none.
   long long Bytes() const;
-  int Count() const { return static_cast<int>(Bytes() / slot_); }
+  /// Slots in it. A file may end with its last record instead of its slot: one that is more than half there
+  /// counts.
+  int Count() const { return static_cast<int>((Bytes() + slot_ / 2) / slot_); }
 
   /// Slot n filled into `record`; what lies past the end of the file, or of a missing one, reads as zeros.
   template <Described R>

@@ -79,7 +79,7 @@ int PlayerRows() { return Players().Count(); }
 
 void LoadLeaguePlayers() {
   const auto file = Players();
-  const int rows = file.Count();
+  const int rows = std::min(file.Count(), kMostPlayers);
   league.player.resize(static_cast<std::size_t>(rows) + 1);
   league.player[0] = {};
   file.ReadAll(rows, [](int row, const u8* bytes) {

@@ -183,8 +183,9 @@ bool LookAtRoster(int teamNo, Roster& roster) {
   roster.team = team;
   coaches.Read(teamNo, roster.coach);
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (team.Roster[slot] > 0) players.Read(team.Roster[slot], roster.player[slot]);
-    ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
+    if (team.Roster[slot] <= 0) continue;
+    players.Read(team.Roster[slot], roster.player[slot]);
+    ReadDaily(team.Roster[slot], roster.daily[slot]);
   }
   return true;
 }

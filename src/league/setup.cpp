@@ -14,7 +14,7 @@ constexpr long long kShortest = 1000;  // a shorter file was never a setup
 
 void Blank() {
   (void)WriteWholeFile(SetupFile(), std::string(kSetupSlotBytes, ' '));  // it is repaired in memory anyway
-  ReadRecord(reinterpret_cast<const u8*>(std::string(SetupRecord::kRecordSize, ' ').data()), setup);
+  setup = {};  // what blanks would come to: no marker is set, every preference has its default
 }
 
 /// Two settings that no screen can have left like this.
