@@ -78,6 +78,7 @@ int Load(std::ostream& out) {
     LoadSchedule();
     LoadLeaguePlayers();
   });
+  if (league.ActiveTeams != 30) throw std::runtime_error("the league was not opened");
   const double team = LoadOneTeam();
   program.LeagueFolder = folder.Home() / "many";
   std::filesystem::create_directories(program.LeagueFolder);
