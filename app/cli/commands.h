@@ -21,10 +21,10 @@ struct PlayRequest {
   std::string Visitor, Home;   ///< number, abbreviation, city or nickname
   std::string Coach = "none";  ///< who is coached by the user: "none", "visitor", "home", "both"
   std::string Calls = "";      ///< how often he is asked: "none", "default", "all", "" by his preferences
-  std::string Date;            ///< "MM-DD", "" the first of October
-  std::string From;            ///< league of the visitor, "" the open one
-  std::string Scenario;  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
-  std::string Until;     ///< mark up to which both sides play alone, "" none
+  std::string Date = "";       ///< "MM-DD", "" the first of October
+  std::string From = "";       ///< league of the visitor, "" the open one
+  std::string Scenario = "";  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
+  std::string Until = "";     ///< mark up to which both sides play alone, "" none
   bool Neutral = false;
 };
 
