@@ -11,6 +11,7 @@
 #include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
+#include "league/player_values.h"
 
 namespace tipline::cli {
 namespace {
@@ -203,9 +204,7 @@ void PrintMan(std::ostream& out, int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
   const StatLine& now = p.Stats[3];
   const StatLine& real = p.Stats[1];
-  out << Plain(p.FirstName.Str() + " " + p.LastName.Str() + " (#" + Str(slot) + ", " + Positions(p) + "), " +
-               ShortTeam(side))
-      << '\n';
+  out << Plain(FullName(p) + " (#" + Str(slot) + ", " + Positions(p) + "), " + ShortTeam(side)) << '\n';
   Columns lines({"<", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "Pts"});
   lines.Row({"This game", Str(MinutesOf(ManAt(side, slot))), Of(now.FGM, now.FGA), Of(now.F3M, now.F3A),
              Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St),

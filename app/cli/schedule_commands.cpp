@@ -15,24 +15,6 @@
 namespace tipline::cli {
 namespace {
 
-struct MonthDay {
-  int month = 0, day = 0;
-};
-
-/// "MM-DD"; false, told, for any other text and for days that no month has.
-bool ReadDate(const std::string& text, MonthDay& date) {
-  const char* end = text.data() + text.size();
-  const auto month = std::from_chars(text.data(), end, date.month);
-  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
-  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
-  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
-      date.day <= ScheduleDays(date.month)) {
-    return true;
-  }
-  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
-  return false;
-}
-
 std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 bool OpenSchedule(const Common& common) { return OpenTheLeague(common) && LoadSchedule(); }
@@ -78,8 +60,7 @@ void PrintGames(const std::vector<const ScheduleRecord*>& rows, bool csv) {
     std::string note = row->GameType == 'R' ? "" : std::string(GameTypeWords(row->GameType.bytes[0]));
     if (row->NeutralSite == 1) note += note.empty() ? "neutral court" : ", neutral court";
     const bool sameDay = row->Month == month && row->Day == day;
-    table.Row({sameDay ? "" : TwoDigits(row->Month) + "-" + TwoDigits(row->Day), visitor, home,
-               ResultOf(*row), note});
+    table.Row({sameDay ? "" : DateText({row->Month, row->Day}), visitor, home, ResultOf(*row), note});
     month = row->Month, day = row->Day;
   }
   table.Print(std::cout, csv);
@@ -98,6 +79,21 @@ int RowOf(const ScheduleChoice& game) {
 }
 
 }  // namespace
+
+bool ReadDate(const std::string& text, MonthDay& date) {
+  const char* end = text.data() + text.size();
+  const auto month = std::from_chars(text.data(), end, date.month);
+  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
+  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
+  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
+      date.day <= ScheduleDays(date.month)) {
+    return true;
+  }
+  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
+  return false;
+}
+
+std::string DateText(const MonthDay& date) { return TwoDigits(date.month) + "-" + TwoDigits(date.day); }
 
 int MakeSchedule(const ScheduleArguments& a, const Common& common) {
   MonthDay start{10, 30};

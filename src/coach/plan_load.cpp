@@ -24,13 +24,13 @@ bool RepairSliders(CoachRecord& coach) {
 
 bool ReadyPlan(Roster& roster) {
   bool changed = RepairSliders(roster.coach);
-  if (TakeMark(roster.team.PlanMark, 9)) {
+  const int version = PlanVersionOf(roster.team.Year);
+  const bool old = roster.coach.PlanVersion != version;
+  if (TakeMark(roster.team.PlanMark, 9) || old) {
     SetDefaultPlanSliders(roster);
     changed = true;
   }
-  const int version = PlanVersionOf(roster.team.Year);
-  if (roster.coach.PlanVersion == version) return changed;
-  SetDefaultPlanSliders(roster);
+  if (!old) return changed;
   SetDefaultDepthCharts(roster);
   ClearRotationGrid(roster);
   roster.coach.PlanVersion = static_cast<i16>(version);

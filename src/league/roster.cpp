@@ -1,7 +1,5 @@
 #include "league/roster.h"
 
-#include <memory>
-
 #include "base/record_file.h"
 #include "league/files.h"
 #include "league/saved_rotation.h"
@@ -22,9 +20,8 @@ void ReadMan(const RecordFile& players, i16& entry, PlayerRecord& man) {
 
 bool WriteCoachOf(const Roster& roster) {
   const RecordFile file(CoachesFile(), kCoachSlotBytes);
-  const auto saved = std::make_unique<Roster>(roster);
-  CopyRotationToCoach(*saved);
-  CoachRecord& coach = saved->coach;
+  CoachRecord coach = roster.coach;
+  CopyRotationToCoach(roster, coach);
   coach.TeamNo = static_cast<i16>(roster.TeamNo);
   if (!Written(file.Write(roster.TeamNo, coach), file.Path())) return false;
   league.coach[roster.TeamNo] = coach;
