@@ -7,6 +7,7 @@
 #include "cli/coach_events.h"
 #include "cli/coach_words.h"
 #include "cli/columns.h"
+#include "cli/team_work.h"
 #include "coach/substitutions.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
@@ -107,15 +108,6 @@ std::string BenchStatus(int side, int slot) {
   if (!MayAppear(side, slot)) return "not dressed";
   if (man.Energy < 80) return "tired";
   return fouls >= FoulTroubleLimit() ? "foul trouble" : "";
-}
-
-std::string Positions(const PlayerRecord& p) {
-  std::string text;
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= kPositions)
-      text += (text.empty() ? "" : "-") + league.PositionLabel[position];
-  }
-  return text;
 }
 
 StatLine SumOf(int side) {

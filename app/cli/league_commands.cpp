@@ -22,14 +22,6 @@ namespace {
 
 std::string Str(int value) { return std::to_string(value); }
 
-std::string Positions(const PlayerRecord& p) {
-  std::string text;
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= 5) text += (text.empty() ? "" : "-") + league.PositionLabel[position];
-  }
-  return text;
-}
-
 std::string HeightText(const PlayerRecord& p) { return Str(p.HeightFeet) + "-" + Str(p.HeightInches); }
 
 double PerGame(int count, int games) { return games > 0 ? static_cast<double>(count) / games : 0; }

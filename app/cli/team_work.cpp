@@ -30,6 +30,14 @@ std::vector<int> MenOf(const Roster& roster) {
   return slots;
 }
 
+std::string Positions(const PlayerRecord& p) {
+  std::string text;
+  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
+    if (position >= 1 && position <= 5) text += (text.empty() ? "" : "-") + league.PositionLabel[position];
+  }
+  return text;
+}
+
 void Heading(const Roster& roster, const std::string& what, const Common& common) {
   if (!common.Csv) std::cout << TeamName(roster.team) << " " << roster.team.Year << ": " << what << "\n\n";
 }

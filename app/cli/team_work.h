@@ -16,6 +16,9 @@ bool TakeTeam(int teamNo, Roster& roster);
 /// The slots of the team's men.
 std::vector<int> MenOf(const Roster& roster);
 
+/// "PG-SG": where a man plays, by the league's labels.
+std::string Positions(const PlayerRecord& player);
+
 /// The line over what is shown of a team; none over comma-separated text.
 void Heading(const Roster& roster, const std::string& what, const Common& common);
 
