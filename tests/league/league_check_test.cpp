@@ -8,9 +8,9 @@
 #include "base/record_file.h"
 #include "frontoffice/league_maker.h"
 #include "harness/temporary_home.h"
+#include "league/data_tree.h"
 #include "league/files.h"
 #include "league/program.h"
-#include "league/data_tree.h"
 #include "league/rules.h"
 
 namespace tipline {
