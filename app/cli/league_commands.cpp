@@ -5,12 +5,14 @@
 #include "base/random.h"
 #include "cli/columns.h"
 #include "cli/commands.h"
+#include "cli/team_work.h"
 #include "cli/terminal.h"
 #include "frontoffice/rating_run.h"
 #include "league/data_tree.h"
 #include "league/dump.h"
 #include "league/files.h"
 #include "league/league_check.h"
+#include "league/player_values.h"
 #include "league/program.h"
 #include "league/roster.h"
 #include "league/rules.h"
@@ -19,18 +21,6 @@ namespace tipline::cli {
 namespace {
 
 std::string Str(int value) { return std::to_string(value); }
-
-std::string PlayerName(const PlayerRecord& p) {
-  return p.FirstName.Empty() ? p.LastName.Str() : p.FirstName.Str() + " " + p.LastName.Str();
-}
-
-std::string Positions(const PlayerRecord& p) {
-  std::string text;
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= 5) text += (text.empty() ? "" : "-") + league.PositionLabel[position];
-  }
-  return text;
-}
 
 std::string HeightText(const PlayerRecord& p) { return Str(p.HeightFeet) + "-" + Str(p.HeightInches); }
 
@@ -70,10 +60,7 @@ std::vector<std::string> RatingCells(const PlayerRecord& p) {
 }
 
 std::vector<int> ByMinutes(const Roster& roster) {
-  std::vector<int> slots;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (roster.player[slot].TeamNo == roster.TeamNo && roster.player[slot].RecNo > 0) slots.push_back(slot);
-  }
+  std::vector<int> slots = MenOf(roster);
   std::stable_sort(slots.begin(), slots.end(), [&](int a, int b) {
     return roster.player[a].Stats[1].Min > roster.player[b].Stats[1].Min;
   });
@@ -203,7 +190,7 @@ int ShowRoster(const std::string& text, const std::string& view, const Common& c
   Columns table(headings);
   for (const int slot : ByMinutes(roster)) {
     const PlayerRecord& p = roster.player[slot];
-    std::vector<std::string> cells{p.UniformNumber.Str(), PlayerName(p), Positions(p),
+    std::vector<std::string> cells{p.UniformNumber.Str(), FullName(p),   Positions(p),
                                    HeightText(p),         Str(p.Weight), Str(p.Age)};
     const auto rest = view == "ratings" ? RatingCells(p) : StatCells(p.Stats[view == "real" ? 1 : 2]);
     cells.insert(cells.end(), rest.begin(), rest.end());

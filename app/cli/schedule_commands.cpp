@@ -60,8 +60,7 @@ void PrintGames(const std::vector<const ScheduleRecord*>& rows, bool csv) {
     std::string note = row->GameType == 'R' ? "" : std::string(GameTypeWords(row->GameType.bytes[0]));
     if (row->NeutralSite == 1) note += note.empty() ? "neutral court" : ", neutral court";
     const bool sameDay = row->Month == month && row->Day == day;
-    table.Row({sameDay ? "" : TwoDigits(row->Month) + "-" + TwoDigits(row->Day), visitor, home,
-               ResultOf(*row), note});
+    table.Row({sameDay ? "" : DateText({row->Month, row->Day}), visitor, home, ResultOf(*row), note});
     month = row->Month, day = row->Day;
   }
   table.Print(std::cout, csv);
@@ -94,6 +93,8 @@ bool ReadDate(const std::string& text, MonthDay& date) {
   Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
   return false;
 }
+
+std::string DateText(const MonthDay& date) { return TwoDigits(date.month) + "-" + TwoDigits(date.day); }
 
 int MakeSchedule(const ScheduleArguments& a, const Common& common) {
   MonthDay start{10, 30};

@@ -79,9 +79,4 @@ bool ScheduleAllows(const ScheduleChoice& choice, int except) {
   return true;
 }
 
-bool RefusedWith(const std::string& message, std::string_view title) {
-  platform::dialogs().Tell(message, title);
-  return false;
-}
-
 }  // namespace tipline

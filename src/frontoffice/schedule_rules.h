@@ -1,9 +1,7 @@
 #pragma once
 // What a game put on the schedule by hand must keep.
-#include <string>
-#include <string_view>
-
 #include "league/schedule.h"
+#include "platform/dialogs.h"
 
 namespace tipline {
 
@@ -26,7 +24,6 @@ void ForScheduledGames(Visit&& visit) {
   }
 }
 
-/// Tells why something is refused; false for the caller to give back.
-bool RefusedWith(const std::string& message, std::string_view title = "");
+using platform::RefusedWith;
 
 }  // namespace tipline

@@ -125,9 +125,8 @@ void WriteChanges(Roster& roster, RosterChanges changes) {
 
 bool WriteCoachOf(const Roster& roster) {
   const RecordFile file(CoachesFile(), kCoachSlotBytes);
-  const auto saved = std::make_unique<Roster>(roster);
-  CopyRotationToCoach(*saved);
-  CoachRecord& coach = saved->coach;
+  CoachRecord coach = roster.coach;
+  CopyRotationToCoach(roster, coach);
   coach.TeamNo = static_cast<i16>(roster.TeamNo);
   if (!Written(file.Write(roster.TeamNo, coach), file.Path())) return false;
   league.coach[roster.TeamNo] = coach;
