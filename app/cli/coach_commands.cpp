@@ -8,7 +8,6 @@
 #include "cli/commands.h"
 #include "cli/terminal.h"
 #include "coach/depth_chart.h"
-#include "coach/plan_load.h"
 #include "coach/plan_screen.h"
 #include "coach/rotation_grid.h"
 #include "coach/strategy_screens.h"
@@ -32,7 +31,6 @@ bool TakeTeam(const std::string& text, Roster& roster) {
     Refuse("the team can't be read: " + TeamsFile().string());
     return false;
   }
-  ReadyPlan(roster);
   return true;
 }
 

@@ -41,10 +41,18 @@ int ShowRotation(const CoachRequest& request, const Common& common);
 /// Sliders, and against an opponent the coverage of his men.
 int ShowPlan(const CoachRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
+/// What is wrong with the league's files and what an opening would repair; changes nothing.
+int ExamineLeague(const Common& common);
+/// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.
+int StartSeasonAnew(bool realLifeToo, const Common& common);
+/// After asking, rows of men who stand nowhere go.
+int CleanLeague(const Common& common);
 int Dump(const std::string& file, int record, const Common& common);
 /// What ./run does without arguments: a league is made where there is none, then the menu or one game.
 int Start(const Common& common);
 
+/// The era tables are there: read, or made. False, told, when they can't be.
+bool EnsureEra();
 /// Opens the league of the command, or tells why not. True when it is open.
 bool OpenTheLeague(const Common& common);
 /// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no

@@ -109,15 +109,9 @@ bool OpenTheLeague(const Common& common) {
   }
   program.LeagueFolder = folder;
   if (!EnsureEra()) return false;
-  if (!LoadRules()) {
-    Refuse("the rules of this league can't be read: " + RulesFile().string());
-    return false;
-  }
+  const bool rules = LoadRules();
   LoadAllTeams();
-  if (league.ActiveTeams == 0) {
-    Refuse("this league has no teams: " + TeamsFile().string());
-    return false;
-  }
+  if (!rules) SaveRules();
   return true;
 }
 

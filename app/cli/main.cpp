@@ -32,7 +32,7 @@ struct Arguments {
   PlayRequest play;
   std::string team, view = "ratings", file;
   int record = 1;
-  bool all = false;
+  bool all = false, realLifeToo = false;
   cli::CoachRequest coach;
   cli::ScheduleArguments schedule;
 };
@@ -64,6 +64,11 @@ void AddLeagueNew(CLI::App& app, Arguments& a) {
   number("--divisions", a.request.Divisions, "number of divisions");
   number("--teams", a.request.Teams, "number of teams");
   number("--games", a.request.Games, "games of a season, an even number from 10 to 98");
+  auto* reset = group->add_subcommand("reset", "the league before its first game: results and scores go");
+  reset->add_flag("--real", a.realLifeToo, "the players' real season lines go as well");
+  reset->add_flag("--yes", a.yes, "without asking");
+  auto* clean = group->add_subcommand("clean", "rows of players who stand on no roster, or twice, go");
+  clean->add_flag("--yes", a.yes, "without asking");
 }
 
 void AddLists(CLI::App& app, Arguments& a) {
@@ -75,6 +80,7 @@ void AddLists(CLI::App& app, Arguments& a) {
       ->check(CLI::IsMember({"stats", "real", "ratings"}))
       ->capture_default_str();
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  app.add_subcommand("doctor", "what is wrong with the league's files; changes nothing");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
   dump->add_option("file", a.file, FormatNames())->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
@@ -118,8 +124,15 @@ void AddCoach(CLI::App& app, Arguments& a) {
                    "the two apart");
 }
 
+int RunLeague(CLI::App& group, Arguments& a) {
+  if (group.got_subcommand("reset")) return cli::StartSeasonAnew(a.realLifeToo, a.common);
+  if (group.got_subcommand("clean")) return cli::CleanLeague(a.common);
+  return cli::NewLeague(a.request, a.common);
+}
+
 int RunCommand(CLI::App& app, Arguments& a) {
-  if (app.got_subcommand("league")) return cli::NewLeague(a.request, a.common);
+  if (app.got_subcommand("league")) return RunLeague(*app.get_subcommand("league"), a);
+  if (app.got_subcommand("doctor")) return cli::ExamineLeague(a.common);
   if (app.got_subcommand("teams")) return cli::ShowTeams(a.common);
   if (app.got_subcommand("roster")) return cli::ShowRoster(a.team, a.view, a.common);
   if (app.got_subcommand("ratings")) {

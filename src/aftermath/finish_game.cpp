@@ -155,6 +155,12 @@ void AddTeamLines() {
   }
 }
 
+/// Games that a man sat out since he last played.
+void CountRest(int side, int slot) {
+  u8& rest = PlayerAt(side, slot).RestGames;
+  rest = HasPlayed(side, slot) ? u8{0} : static_cast<u8>(std::min(rest + 1, 255));
+}
+
 }  // namespace
 
 void FinishGame() {
@@ -163,7 +169,9 @@ void FinishGame() {
     const int left = CountEligible(s);
     game.side[s].ShortHanded = left < kPositions ? left : 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!OnTeam(s, slot) || !HasPlayed(s, slot)) continue;
+      if (!OnTeam(s, slot)) continue;
+      if (program.GameKind == "L") CountRest(s, slot);
+      if (!HasPlayed(s, slot)) continue;
       CloseGameLine(s, slot);
       if (program.GameKind == "L") AddToSeason(s, slot);
     }

@@ -6,24 +6,8 @@
 #include "league/markers.h"
 
 namespace tipline {
-namespace {
-
-bool RepairSliders(CoachRecord& coach) {
-  bool repaired = false;
-  for (int slider = 0; slider < kSliders; ++slider) {
-    for (u8& value : coach.*SliderField(slider)) {
-      if (value <= 4) continue;
-      value = 2;
-      repaired = true;
-    }
-  }
-  return repaired;
-}
-
-}  // namespace
-
 bool ReadyPlan(Roster& roster) {
-  bool changed = RepairSliders(roster.coach);
+  bool changed = false;
   if (TakeMark(roster.team.PlanMark, 9)) {
     SetDefaultPlanSliders(roster);
     changed = true;

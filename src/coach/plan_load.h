@@ -7,8 +7,8 @@ namespace tipline {
 /// `PlanVersion` of a team's plans by its year.
 constexpr int PlanVersionOf(int year) { return year >= 2020 ? 120 : 123; }
 
-/// Sliders out of range go back to neutral; a team without plans gets them; plans of another version are made
-/// anew, with the depth charts, and the rotation grid is cleared. True when something changed.
+/// A team without plans gets them; plans of another version are made anew, with the depth charts, and the
+/// rotation grid is cleared. True when something changed. Every load of a team does it.
 bool ReadyPlan(Roster& roster);
 
 }  // namespace tipline

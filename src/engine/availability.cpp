@@ -1,5 +1,7 @@
 #include "engine/availability.h"
 
+#include <algorithm>
+
 #include "engine/game_state.h"
 #include "league/daily.h"
 #include "league/player_values.h"
@@ -21,20 +23,6 @@ void Heal(PlayerRecord& p) {
   p.Status = 0;
 }
 
-/// A day-to-day injury may be over a few days early, or keep him out a few days more.
-void DayToDay(PlayerRecord& p) {
-  if (!InLeagueGame() || p.InjurySeverity != 1 || p.InjuryReturnMonth == 0) return;
-  if (p.InjuryReturnMonth != game.GameMonth) return;
-  if (Rnd(2) == 1 && p.InjuryReturnDay <= game.GameDay + Rnd(7)) return Heal(p);
-  if (Rnd(4) != 1 || p.InjuryReturnDay > game.GameDay || Durability(p) > 6 + Rnd(3)) return;
-  if (game.GameDay > 25 && p.InjuryReturnMonth < kNextSeason) {
-    ++p.InjuryReturnMonth;
-    p.InjuryReturnDay = static_cast<u8>(Rnd(3));
-  } else {
-    p.InjuryReturnDay = static_cast<u8>(p.InjuryReturnDay + Rnd(3));
-  }
-}
-
 void HealInTime(PlayerRecord& p) {
   if (p.InjuryReturnMonth == 0) return;
   const bool over = program.ReplayLocked && ReturnOf(p) < Today();
@@ -48,7 +36,6 @@ void SetMan(int side, int slot) {
     man.PlayerOut = 1;
     return;
   }
-  DayToDay(p);
   HealInTime(p);
   if (p.RestGames > 99) p.RestGames = 0;
   man.PlayerOut = p.Status == kInactive ? 1 : 0;
@@ -56,7 +43,7 @@ void SetMan(int side, int slot) {
   const bool dated = game.GameMonth > 0;  // a game without a date asks for none
   if (dated && AwayOn(p, DateOf(game.GameMonth, game.GameDay))) man.PlayerUnavailable = 1;
   man.Suspended = p.SuspensionGames > 0;
-  const bool hurt = league.rules.InjuryOption == 1 && p.InjuryReturnMonth > 0;
+  const bool hurt = dated && league.rules.InjuryOption == 1 && p.InjuryReturnMonth > 0;
   if (man.PlayerUnavailable || man.Suspended || hurt) man.PlayerOut = 1;
 }
 
@@ -70,6 +57,19 @@ void DrawInjuriesOfTheDay(int side) {
 }
 
 }  // namespace
+
+void DrawLightInjury(PlayerRecord& p) {
+  if (!InLeagueGame() || p.InjurySeverity != 1 || p.InjuryReturnMonth == 0) return;
+  if (p.InjuryReturnMonth != game.GameMonth) return;
+  if (Rnd(2) == 1 && p.InjuryReturnDay <= game.GameDay + Rnd(7)) return Heal(p);
+  if (Rnd(4) != 1 || p.InjuryReturnDay > game.GameDay || p.RateDurability > 6 + Rnd(3)) return;
+  if (game.GameDay > 25 && p.InjuryReturnMonth + 1 < kNextSeason) {
+    ++p.InjuryReturnMonth;
+    p.InjuryReturnDay = static_cast<u8>(Rnd(3));
+  } else {
+    p.InjuryReturnDay = static_cast<u8>(std::min(31, p.InjuryReturnDay + Rnd(3)));
+  }
+}
 
 void SetAvailability(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) SetMan(side, slot);

@@ -66,10 +66,15 @@ void TimeoutChosen();
 /// What the acting side is asked at this stop, as the game screen shows it; empty when nobody is asked.
 std::string Prompt();
 
-/// Loads a team and its roster into side 1 or 2 of the game: records, availability, shot mix, today's form,
-/// stints. False when `teamNo` is outside 1..720 or no team holds that slot; the side is then empty.
+/// Loads a team and its roster into side 1 or 2 of the game: records, repaired where they need it and then
+/// written back once, days off, today's form, availability, shot mix, stints. False when `teamNo` is outside
+/// 1..720 or no team holds that slot; the side is then empty.
 bool LoadTeam(int teamNo, int side);
-/// What a load works out for a side that holds its records already: availability, shot mix, form, stints.
+/// What a load works out for a side that holds its records already.
 void ReadySide(int side);
+/// Writes a side's coach, men, team and days off to the league folder as team `teamNo`. A college playoff
+/// game writes nothing. False when the side holds another team or, after telling the user, when a file could
+/// not be written.
+bool SaveTeam(int teamNo, int side);
 
 }  // namespace tipline

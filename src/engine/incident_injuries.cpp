@@ -95,6 +95,12 @@ double ShareOfSeason(const PlayerRecord& p) {
   return std::min(1.0, days / 150);
 }
 
+/// Games of a season, by its era; women play two fifths of it.
+double FullSeason(int year, bool college, bool women) {
+  const int games = EraRow(year, college, 2013).Games;
+  return std::max(1.0, (games > 0 ? games : 82) * (women ? 0.4 : 1.0));
+}
+
 int GamesOfTeam(int side) { return game.team[side].Wins + game.team[side].Losses; }
 int GamesLeft(int side) { return std::max(1, SeasonGames(side) - GamesOfTeam(side) - 1); }
 
@@ -168,16 +174,14 @@ void CarryOutInjury() {
 
 int SeasonGames(int side) {
   const TeamRecord& team = game.team[side];
-  const int games = EraRow(team.Year, team.TeamType == 'C' || team.TeamType == 'O', 2013).Games;
-  const int full = games > 0 ? games : 82;
-  return std::max(1, team.TeamSex == 'W' ? Round(full * 0.4) : full);
+  const bool college = team.TeamType == 'C' || team.TeamType == 'O';
+  return Round(FullSeason(team.Year, college, team.TeamSex == 'W'));
 }
 
 double GamesToMiss(int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
   const int season = SeasonGames(side);
-  const int real = EraRow(p.Year, IsCollege(p), 2013).Games;
-  const double full = std::max(1.0, (real > 0 ? real : 82) * (p.Sex == 'W' ? 0.4 : 1.0));
+  const double full = FullSeason(p.Year, IsCollegeLevel(p), p.Sex == 'W');
   double share = p.Stats[1].G > 0 ? std::max(0.0, ShareOfSeason(p) - p.Stats[1].G / full)
                                   : std::max(0, 10 - Durability(p)) * 0.02;  // no real season to go by
   if (p.Year <= 1980) share *= 1.1;

@@ -14,7 +14,7 @@ bool TechnicalTest();
 
 /// Either side is told to foul or to reach for the ball.
 bool FoulCalled();
-/// The ball is live in a set: the only moment at which play is interrupted.
+/// The sides are set for a play: nothing interrupts a break, a putback or a stop.
 inline bool InSet() { return game.GameState == "DEFENSE" || game.GameState == "OFFENSE"; }
 /// Both sides have more men than this.
 inline bool BothHaveMoreThan(int men) {

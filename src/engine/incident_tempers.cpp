@@ -10,14 +10,6 @@
 namespace tipline {
 namespace {
 
-int LateInFirstMinutes() { return FullPeriod() - 2 * kMinute; }
-
-bool CollegeSide(const TeamRecord& team) { return team.TeamType == 'C' || team.TeamType == 'O'; }
-template <class Is>
-bool EitherTeam(Is is) {
-  return is(game.team[1]) || is(game.team[2]);
-}
-
 /// Slot of the man with the worst temper on the floor; 0 when it is empty.
 int WorstTemper(int side) {
   int worst = 0;
@@ -51,10 +43,16 @@ bool CoolHeads() {
   if (game.Period == 1 && Rnd(10) <= 9) return true;
   if (game.Period <= Rnd(3) && Rnd(10) <= 9) return true;
   if (program.PlayoffGame && Rnd(100) <= 97) return true;
-  return false;
+  bool college = false, women = false;
+  for (const TeamRecord& team : game.team) {
+    college |= team.TeamType == 'C';
+    women |= team.TeamSex == 'W';
+  }
+  return (college && Rnd(10) <= 9) || (women && Rnd(10) <= 9);
 }
 
-bool MidPeriod(int lowest) { return game.GameClock < LateInFirstMinutes() && game.GameClock >= lowest; }
+/// Not in the first two minutes of a period, nor behind `lowest`.
+bool MidPeriod(int lowest) { return game.GameClock < FullPeriod() - 2 * kMinute && game.GameClock >= lowest; }
 
 bool HotHeaded(int rating) {
   if (rating == 0) return true;
@@ -95,7 +93,8 @@ bool AboveThreeDraws(int rating) {
 bool LetOff(const Suspect& suspect) {
   const PlayerRecord& p = PlayerAt(suspect.side, suspect.slot);
   if (Rnd(100) <= 90 || HadHisShare(p)) return true;
-  if (CollegeSide(game.team[suspect.side]) && Rnd(100) <= 95) return true;
+  const TeamRecord& team = game.team[suspect.side];
+  if ((team.TeamType == 'C' || team.TeamType == 'O') && Rnd(100) <= 95) return true;
   if (AboveThreeDraws(p.RateSportsmanship) && Rnd(50) != 1) return true;
   return program.PlayoffGame && Rnd(10) <= 9;
 }
@@ -149,7 +148,6 @@ void PostFlagrant(int level) {
   PlayerRecord& p = PlayerAt(side, slot);
   if (p.Flagrants[3] < 255) ++p.Flagrants[3];
   if (level == 2 && p.Stats[3].Flagrant2 < 255) ++p.Stats[3].Flagrant2;
-  AddPlayLog(game.GameClock - game.PlayTime, side, slot, "", "FLAGRANT");
   game.incident.Ejected = level == 2 || p.Flagrants[3] >= 2;
 }
 
@@ -184,8 +182,6 @@ bool FightTest() {
   if (game.DeadBallKind > 1 || game.NeedsMoveUp || game.TechnicalFreeThrow || !MidPeriod(kMinute))
     return false;
   if (FoulCalled() || !BothHaveMoreThan(9)) return false;
-  if (EitherTeam([](const TeamRecord& t) { return t.TeamType == 'C'; }) && Rnd(10) <= 9) return false;
-  if (EitherTeam([](const TeamRecord& t) { return t.TeamSex == 'W'; }) && Rnd(10) <= 9) return false;
   if (!TempersMeet()) return false;
   FightBegins();
   return true;

@@ -34,9 +34,10 @@ int BestShooter(int side) {
 }  // namespace
 
 bool PlayIsInterrupted() {
+  if (game.AnalysisMode) return false;
   const bool lineupAnnounced = game.LineupAnnounced;
   game.LineupAnnounced = 0;
-  if (game.AnalysisMode || !InSet()) return false;
+  if (!InSet()) return false;
   if (!NobodyIsHurt(lineupAnnounced) && (ShakenUpTest() || TemporaryInjuryTest() || InjuryTest()))
     return true;
   return IllegalDefenseTest() || FightTest() || TechnicalTest();

@@ -124,7 +124,8 @@ void PostPoints(int side, int slot, int points, char kind) {
   const bool starter = std::find(s.Starters.begin(), s.Starters.end(), slot) != s.Starters.end();
   if (!starter) s.BenchPoints += points;
   if (game.GameState == "FASTBREAK") s.FastbreakPoints += points;
-  if (game.SecondChance && game.PlayKind != "OFFREB") s.ExtraSecondChancePoints += points;
+  const bool ownBall = !game.TechnicalFreeThrow || side == game.TechnicalSide;
+  if (game.SecondChance && ownBall && game.PlayKind != "OFFREB") s.ExtraSecondChancePoints += points;
   PlusMinus(side, points);
   RunsAndLeads(side, points);
   const StatLine& line = p.Stats[3];

@@ -1,17 +1,13 @@
-// A game is set up: teams loaded, tables cleared, start values given.
+// A game is set up: tables cleared, start values given.
 #include <algorithm>
 
 #include "coach/game_plan.h"
-#include "coach/plan_load.h"
 #include "coach/substitutions.h"
-#include "engine/availability.h"
 #include "engine/chances.h"
 #include "engine/engine.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
 #include "engine/weights.h"
-#include "league/program.h"
-#include "league/roster.h"
 
 namespace tipline {
 namespace {
@@ -46,43 +42,7 @@ void ClearGameLine(PlayerRecord& p) {
   p.Flagrants[3] = 0;
 }
 
-/// The coach's list of days off, where his team goes by it.
-void GoByDailyList(const Roster& roster, int side) {
-  if (!InLeagueGame() || roster.coach.UseDailyInactive != 1) return;
-  const int today = DateOf(game.GameMonth, game.GameDay);
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    LoadedAt(side, slot).PlayerUnavailable = SitsOut(roster.daily[slot], today) ? 1 : 0;
-  }
-}
-
 }  // namespace
-
-bool LoadTeam(int teamNo, int side) {
-  Roster roster;
-  const bool found = ReadRoster(teamNo, roster);
-  if (found && ReadyPlan(roster)) WriteRoster(roster);  // once: the file then holds the plan of this version
-  game.GameTeam[side] = found ? teamNo : 0;
-  game.team[side] = roster.team;
-  game.coach[side] = roster.coach;
-  for (int slot = 0; slot <= kRosterSlots; ++slot) {
-    game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
-    game.loaded[side][slot] = {};
-  }
-  if (!found) return false;
-  GoByDailyList(roster, side);
-  ReadySide(side);
-  return true;
-}
-
-void ReadySide(int side) {
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot)) game.player[side][slot] = {};
-    LoadedAt(side, slot).HotHand = DrawHotHand();
-  }
-  SetAvailability(side);
-  ShotMix(side);
-  SetStints(side);
-}
 
 void PrepareGame() {
   Table<CoachMode, 1, 2> mode;

@@ -22,7 +22,7 @@ bool ShotClockRule() { return league.rules.ShotClockList > 0; }
 
 void ClearPlay() {
   game.play = {};
-  if (game.incident.Kind != IncidentKind::kNone) game.incident = {};
+  if (game.incident.Kind != IncidentKind::kNone && !game.AnalysisMode) game.incident = {};
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
   game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
@@ -206,7 +206,8 @@ void FindResult() {
     if (game.AnalysisMode) return;
     Resolve();
     game.TechnicalFreeThrow = 0;
-    ChargeTime();
+    game.PlayTime = 0;
+    if (game.PlayResult != "DELAY") ChargeTime();
   }
   PostPlay();
   const bool lost = hadBall != game.OffenseSide && !technical;

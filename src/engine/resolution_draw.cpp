@@ -344,6 +344,7 @@ void Resolve() {
   Scout();
   SetBounds();
   DrawBranch();
+  if (game.PlayResult == "DELAY") return;  // the ball is not put in play yet
   AfterTheDraw();
   BurnClock();
 }

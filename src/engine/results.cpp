@@ -145,6 +145,7 @@ void Goaltending() {
 }
 
 void Flagrant() {
+  AddPlayLog(game.GameClock, game.DefenseSide, game.play.Fouler, "", "FLAGRANT");
   EjectFlagrantFouler();
   game.PlayResult = "FLAGRANT";
   game.incident.Shots = 2;

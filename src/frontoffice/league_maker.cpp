@@ -14,11 +14,13 @@
 #include "frontoffice/rating_run.h"
 #include "frontoffice/season_lines.h"
 #include "frontoffice/team_identity.h"
+#include "league/coach_repairs.h"
 #include "league/data_tree.h"
 #include "league/player_values.h"
 #include "league/rules.h"
 #include "league/saved_rotation.h"
 #include "league/schedule.h"
+#include "league/team_repairs.h"
 
 namespace tipline {
 namespace {
@@ -113,24 +115,11 @@ TeamRecord NewTeam(const Plan& plan, const TeamIdentity& identity, const NameDat
 }
 
 void SetCoach(Roster& roster) {
-  CoachRecord& coach = roster.coach;
-  const std::string city = roster.team.City.Str();
-  coach.PlanVersion = PlanVersionOf(roster.team.Year);
-  coach.TeamNo = static_cast<i16>(roster.TeamNo);
-  for (u8* mark : {&coach.DefaultsMark, &coach.DefAdjust6Mark, &coach.PaceMark, &coach.CoachPhotoMark,
-                   &coach.UniformMark, &coach.DailyMark, &coach.ColorNameMark, &coach.FontMark}) {
-    *mark = 99;
-  }
-  coach.ComputerMatchupMark = 11;
-  coach.FightSongMark = 199;
-  coach.OverallPace = 2;
-  coach.DailyLineupMode = 1;
-  coach.CoachPhoto = roster.team.CoachName.Str() + ".jpg";
-  coach.UniformFiles[1] = "Uni-Road-" + city + ".jpg";
-  coach.UniformFiles[2] = "Uni-Home-" + city + ".jpg";
-  coach.FightSong = "NONE";
-  coach.TeamFont = "Arial";
+  RepairTeam(roster.team, roster.coach);
+  RepairCoach(roster.coach, roster.team);
+  roster.coach.TeamNo = static_cast<i16>(roster.TeamNo);
   SetDefaultPlanSliders(roster);
+  roster.coach.PlanVersion = static_cast<i16>(PlanVersionOf(roster.team.Year));
   CopyRotationToCoach(roster);
 }
 

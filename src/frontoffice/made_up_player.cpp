@@ -3,6 +3,7 @@
 #include "base/random.h"
 #include "frontoffice/rating_math.h"
 #include "frontoffice/ratings.h"
+#include "league/player_repairs.h"
 #include "league/player_values.h"
 
 namespace tipline {
@@ -377,23 +378,6 @@ void RateMadeUp(PlayerRecord& p, const TeamRecord& team) {
   p.RateOffense = std::min<u8>(p.RateOffense, 100);
 }
 
-i16 RealPair(int figure) { return static_cast<i16>(figure); }
-
-/// The totals of his real team and its opponents, when they are known.
-void CopyRealTeam(PlayerRecord& p, const TeamRecord& team) {
-  for (const auto& line : team.RealTotals) {
-    if (line.FGA <= 0 || line.FGM <= 0 || line.FTA <= 0 || line.FTM <= 0) return;
-  }
-  for (int side = 1; side <= 2; ++side) {
-    const RealTotalsLine& line = team.RealTotals[side];
-    p.RealTeamFGA[side] = RealPair(line.FGA), p.RealTeamFGM[side] = RealPair(line.FGM);
-    p.RealTeamFTA[side] = RealPair(line.FTA), p.RealTeamFTM[side] = RealPair(line.FTM);
-    p.RealTeamReb[side] = RealPair(line.Reb), p.RealTeamOff[side] = RealPair(line.Off);
-    p.RealTeamTo[side] = RealPair(line.To), p.RealTeamAst[side] = RealPair(line.Ast);
-  }
-  p.RealTeamMark = 11;
-}
-
 }  // namespace
 
 PlayerRecord CreateOnePlayer(const FictionOrder& order, const FictionFiles& names, const TeamRecord& team) {
@@ -452,12 +436,8 @@ void SetUsageFromLine(PlayerRecord& p) {
   constexpr std::string_view kLabels[] = {"", "PG", "SG", "SF", "PF", "C"};
   const StatLine& real = p.Stats[1];
   const double minutes = Share(real.Min, real.G);
-  p.TargetMinutes = static_cast<u8>(Clamp(Int(minutes + 0.75), 0, 255));
+  SetMinutesFromLine(p);
   p.DontPlayWhenTired = minutes < 30;
-  p.PositionAllowed.Fill(0);
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= 5) p.PositionAllowed[position] = 1;
-  }
   if (p.PrimaryPosition <= 5) p.PositionText = kLabels[p.PrimaryPosition];
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The open league in memory. Its files stay the truth: whatever changes a record here is written to them.
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -30,9 +31,10 @@ inline constexpr int kEraSlotBytes = 100;
 using EraTable = Table<EraRecord, kFirstEraYear, kLastEraYear>;
 
 struct League {
-  BigTable<TeamRecord, 0, 999> team;    ///< slots 1 to 720 are stored; 0 is scratch, 999 "TBD"
-  BigTable<CoachRecord, 0, 721> coach;  ///< by team; filled team by team
-  std::vector<PlayerRecord> player;     ///< index = RecNo, 0 unused; filled by LoadLeaguePlayers
+  BigTable<TeamRecord, 0, 999> team;      ///< slots 1 to 720 are stored; 0 is scratch, 999 "TBD"
+  BigTable<CoachRecord, 0, 721> coach;    ///< by team; filled team by team
+  std::vector<PlayerRecord> player;       ///< index = RecNo, 0 unused; filled by LoadLeaguePlayers
+  std::map<int, std::string> ComboTeams;  ///< teams of a combined row of `player`, by row: "BOS-ATL"
   RulesRecord rules;
   std::vector<u8> tournamentPools;  ///< record 2 of HCRULES as it stands in the file, a whole slot
   EraTable EraPro, EraCollege;
@@ -41,6 +43,9 @@ struct League {
   int ScheduleYear = 2000;  ///< year in which the scheduled season begins
   bool HasAugustGames = false, HasSeptemberGames = false;
   int GameCount() const { return static_cast<int>(ScheduleGame.size()) - 1; }  ///< rows in use
+
+  std::vector<ScheduleRecord> Scores =
+      std::vector<ScheduleRecord>(1);  ///< games played; index = row, 0 unused
 
   std::string LeagueFolderName;       ///< last part of the league folder
   std::filesystem::path PhotoFolder;  ///< where this league's player photos lie

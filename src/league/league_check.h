@@ -2,14 +2,20 @@
 // Whether the files of a league can be what they should be, before anything reads, repairs or writes them.
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace tipline {
 
-/// The first thing that is wrong with the files of a league folder, as one sentence; empty when they are
-/// sound: whole tables, rules within their lists, rosters and players that belong to each other. Reads only.
+/// Why a folder can't be opened as a league: there are no teams in it. Empty when it can; whatever else its
+/// files lack is repaired. Reads only.
 std::string LeagueFault(const std::filesystem::path& folder);
 
-/// The same of the era file; empty also when there is none.
+/// What is wrong with the files of a league, alone and against each other, and what its opening would repair,
+/// a sentence each; none when it is sound. `league` then holds the folder's rules, teams and schedule as they
+/// stand, and `program.LeagueFolder` names it; no file is written.
+std::vector<std::string> LeagueFindings(const std::filesystem::path& folder);
+
+/// What is wrong with the era file, as one sentence; empty also when there is none.
 std::string EraFault(const std::filesystem::path& file);
 
 }  // namespace tipline

@@ -3,49 +3,10 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
-#include "league/markers.h"
+#include "league/team_repairs.h"
 
 namespace tipline {
 namespace {
-
-constexpr int kMostRealGames = 100;  // more real wins or losses are rubbish
-
-void ClearSplits(TeamRecord& t) {
-  t.OvertimeWins = t.OvertimeLosses = t.WinsVsWinning = t.LossesVsWinning = t.WinsVsLosing =
-      t.LossesVsLosing = 0;
-  t.CloseWins = t.CloseLosses = t.BlowoutWins = t.BlowoutLosses = 0;
-  t.WinsLeadingAtHalf = t.LossesLeadingAtHalf = t.WinsTrailingAtHalf = t.LossesTrailingAtHalf = 0;
-  t.WinsScoring100 = t.LossesScoring100 = t.WinsAllowing100 = t.LossesAllowing100 = 0;
-}
-
-/// Fields that an older layout did not have.
-void FillNewFields(TeamRecord& t) {
-  if (TakeMark(t.TeamTotalsMark, 99)) {
-    t.TeamTurnovers = {};
-    t.OppTeamRebounds = 0;
-  }
-  TakeMark(t.NameMark, 37);  // no table of cities ships with the program: the names stay as they are
-  const bool tooMany = t.RealWins > kMostRealGames || t.RealLosses > kMostRealGames;
-  if (TakeMark(t.RealRecordMark, 99) || tooMany) t.RealWins = t.RealLosses = 0;
-  if (TakeMark(t.ConferenceMark, 99)) {
-    t.ConferenceWins = t.DivisionWins;
-    t.ConferenceLosses = t.DivisionLosses;
-  }
-  if (TakeMark(t.SplitsMark, 99)) ClearSplits(t);
-}
-
-/// What every slot must have, whether it holds a team or not.
-void RepairSlot(TeamRecord& t) {
-  if (t.Abbrev.Empty()) t.Abbrev = t.City.View().substr(0, 3);
-  if (t.Year < kFirstEraYear) t.Year = 2013;
-  if (t.HomeForeColor == 0 && t.HomeBackColor == 0) t.HomeForeColor = 0x00FFFFFF;
-  if (t.TeamType == 'D') t.RosterKind = "D";
-  if (t.TeamType != 'A' && t.TeamType != 'C' && t.TeamType != 'O') t.TeamType = "P";
-  if (t.Wins + t.Losses == 0) {
-    t.NeutralWins = t.NeutralLosses = t.DivisionWins = t.DivisionLosses = t.HomeWins = t.HomeLosses = 0;
-    t.Streak = 0;
-  }
-}
 
 bool WriteTeams(const std::set<int>& teams) {
   const RecordFile file(TeamsFile(), kTeamSlotBytes);
@@ -106,10 +67,11 @@ void LoadAllTeams() {
     TeamRecord& team = league.team[slot];
     ReadRecord(bytes, team);
     const bool active = team.TeamActive == 1;
-    if (active) FillNewFields(team);
+    if (active) RepairTeamAtOpening(team);
     RepairSlot(team);
+    if (!active) return;
     const auto now = RecordBytes(team);
-    if (active && !std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
+    if (!std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
   });
   if (!repaired.empty()) WriteTeams(repaired);
   RebuildLookups();

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/words.h"
+#include "league/name_tables.h"
 
 namespace tipline {
 
@@ -21,6 +22,7 @@ struct Program {
   std::filesystem::path ProgramFolder;  ///< era file, name files; serves all leagues
   std::string DataDrive = "C:";         ///< drive of the data tree
   std::vector<std::string> RecentList;  ///< tree texts of recent leagues, the current one first
+  NameTables Names;                     ///< read at their first use, by Names()
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
   bool PlayoffGame = false;

@@ -1,23 +1,126 @@
 #include "league/roster.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "base/record_file.h"
+#include "league/coach_repairs.h"
 #include "league/files.h"
+#include "league/markers.h"
+#include "league/player_repairs.h"
 #include "league/saved_rotation.h"
+#include "league/team_defaults.h"
+#include "league/team_repairs.h"
 
 namespace tipline {
 namespace {
 
-/// A man reads at the record that the roster names; one who is no more leaves his slot.
-void ReadMan(const RecordFile& players, i16& entry, PlayerRecord& man) {
-  players.Read(entry, man);
-  if (man.RecNo == 0 || man.TeamNo == 0) {
-    man = {};
-    entry = 0;
-    return;
+using Bytes = std::vector<u8>;
+
+/// The records of a roster as they stand, to see afterwards what a repair changed.
+struct RosterBytes {
+  Bytes team, coach;
+  Table<Bytes, 0, kRosterSlots> man;
+
+  explicit RosterBytes(const Roster& roster)
+      : team(RecordBytes(roster.team)), coach(RecordBytes(roster.coach)) {
+    for (int slot = 1; slot <= kRosterSlots; ++slot) man[slot] = RecordBytes(roster.player[slot]);
   }
-  man.RecNo = entry;  // a wrong number in the row would later be written over another man
+};
+
+void ClearSlot(Roster& roster, int slot) {
+  roster.player[slot] = {};
+  roster.daily[slot] = {};
+  roster.team.Roster[slot] = 0;
+}
+
+/// A man stands on one slot, and the row that the slot names is his.
+void SortEntries(Roster& roster) {
+  auto& entry = roster.team.Roster;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    PlayerRecord& man = roster.player[slot];
+    const bool again =
+        std::find(entry.begin(), entry.begin() + slot - 1, entry[slot]) != entry.begin() + slot - 1;
+    if (entry[slot] < 1 || man.RecNo == 0 || man.TeamNo == 0 || again) {
+      if (entry[slot] != 0) ClearSlot(roster, slot);
+    } else {
+      man.RecNo = entry[slot];  // a wrong number in the row would later be written over another man
+    }
+  }
+}
+
+/// A man of the team who is on no slot enters the highest free one.
+void EnterMissingMen(Roster& roster) {
+  auto& entry = roster.team.Roster;
+  for (std::size_t row = 1; row < league.player.size(); ++row) {
+    if (league.player[row].TeamNo != roster.TeamNo) continue;
+    const auto number = static_cast<i16>(row);
+    if (row > 32767 || std::find(entry.begin(), entry.end(), number) != entry.end()) continue;
+    int slot = kRosterSlots;
+    while (slot > 0 && entry[slot] != 0) --slot;
+    if (slot == 0) return;
+    PlayerRecord man;
+    ReadPlayer(number, man);
+    if (man.TeamNo != roster.TeamNo || man.RecNo == 0) continue;  // the file has moved on
+    entry[slot] = man.RecNo = number;
+    roster.player[slot] = man;
+    ReadDaily(number, roster.daily[slot]);
+  }
+}
+
+void RepairMen(Roster& roster) {
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (roster.player[slot].RecNo != 0) RepairPlayer(roster.player[slot], roster.team);
+  }
+}
+
+/// What coach and front office work out where nobody has yet.
+void MakeDefaults(Roster& roster) {
+  TeamRecord& team = roster.team;
+  if (TakeMark(team.DurabilityMark, 99) && team.TeamType == 'C') DeriveDurability(roster);
+  const bool plans = DefaultPlans(roster);
+  const bool charts = TakeMark(team.RotationMark, 2);
+  const bool lineups = TakeMark(team.RotationMark2, 99);
+  if (charts) DefaultDepthCharts(roster);
+  if (lineups) DefaultSpecialLineups(roster);
+  if (plans || charts || lineups) CopyRotationToCoach(roster);
+}
+
+RosterChanges Compare(const RosterBytes& before, const Roster& roster) {
+  RosterChanges changes;
+  changes.team = RecordBytes(roster.team) != before.team;
+  changes.coach = RecordBytes(roster.coach) != before.coach;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    changes.man[slot] = roster.player[slot].RecNo > 0 && RecordBytes(roster.player[slot]) != before.man[slot];
+  }
+  return changes;
+}
+
+/// A row that holds nobody is written as such before it leaves its slot. False when a write failed.
+bool RemoveNobodies(Roster& roster, RosterChanges& changes) {
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    const PlayerRecord& man = roster.player[slot];
+    if (man.RecNo == 0 || man.TeamNo != 0) continue;
+    if (!WritePlayer(man)) return false;
+    ClearSlot(roster, slot);
+    changes.team = true;
+    changes.man[slot] = false;
+  }
+  return true;
+}
+
+void WriteChanges(Roster& roster, RosterChanges changes) {
+  if (!RemoveNobodies(roster, changes)) return;
+  if (changes.coach) {
+    league.coach[roster.TeamNo] = roster.coach;
+    if (!WriteCoach(roster.TeamNo)) return;
+  }
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (changes.man[slot] && !WritePlayer(roster.player[slot])) return;
+  }
+  if (!changes.team) return;
+  league.team[roster.TeamNo] = roster.team;
+  WriteTeam(roster.TeamNo);
 }
 
 bool WriteCoachOf(const Roster& roster) {
@@ -59,7 +162,11 @@ bool WriteDaysOff(const Roster& roster) {
 
 }  // namespace
 
-bool ReadRoster(int teamNo, Roster& roster) {
+bool RosterChanges::Any() const {
+  return team || coach || std::find(man.begin(), man.end(), true) != man.end();
+}
+
+bool LookAtRoster(int teamNo, Roster& roster) {
   const RecordFile teams(TeamsFile(), kTeamSlotBytes);
   const RecordFile players(PlayersFile(), kPlayerSlotBytes);
   const RecordFile coaches(CoachesFile(), kCoachSlotBytes);
@@ -72,9 +179,27 @@ bool ReadRoster(int teamNo, Roster& roster) {
   roster.team = team;
   coaches.Read(teamNo, roster.coach);
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (team.Roster[slot] > 0) ReadMan(players, roster.team.Roster[slot], roster.player[slot]);
+    if (team.Roster[slot] > 0) players.Read(team.Roster[slot], roster.player[slot]);
     ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
   }
+  return true;
+}
+
+RosterChanges RepairRoster(Roster& roster) {
+  const RosterBytes before(roster);
+  SortEntries(roster);
+  EnterMissingMen(roster);
+  RepairTeam(roster.team, roster.coach);
+  RepairCoach(roster.coach, roster.team);
+  RepairMen(roster);
+  MakeDefaults(roster);
+  return Compare(before, roster);
+}
+
+bool ReadRoster(int teamNo, Roster& roster) {
+  if (!LookAtRoster(teamNo, roster)) return false;
+  const RosterChanges changes = RepairRoster(roster);
+  if (changes.Any()) WriteChanges(roster, changes);
   return true;
 }
 

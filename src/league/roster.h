@@ -19,9 +19,26 @@ inline bool OnTeam(const Roster& roster, int slot) {
   return roster.player[slot].RecNo != 0 && roster.player[slot].TeamNo == roster.TeamNo;
 }
 
-/// Reads a team, its coach, its men and their days off from the league folder. Roster slots that point at a
-/// removed row are cleared in the copy. False when `teamNo` is outside 1..720 or the slot holds no team.
+/// Which records of a roster a repair changed.
+struct RosterChanges {
+  bool team = false, coach = false;
+  Table<bool, 0, kRosterSlots> man;  ///< by the slot he stood at
+
+  bool Any() const;
+};
+
+/// Reads a team, its coach, its men and their days off from the league folder, repairs what needs it and
+/// writes back, once, what a repair changed; `league.coach` and `league.team` follow. While
+/// `league.player` is filled, a man of the team who is on no slot enters the highest free one. False when
+/// `teamNo` is outside 1..720 or the slot holds no team.
 bool ReadRoster(int teamNo, Roster& roster);
+
+/// The same as the records stand, without repair or write.
+bool LookAtRoster(int teamNo, Roster& roster);
+
+/// The repairs of ReadRoster on a roster in memory: removed rows and second entries leave their slots, then
+/// team, coach and men in their order, and the defaults that were never made.
+RosterChanges RepairRoster(Roster& roster);
 
 /// Writes coach (with what the men carry of the rotation), men (each at its RecNo), team and days off back,
 /// in this order; `league.coach` and `league.team` follow. A slot without a man is cleared. False, after

@@ -1,6 +1,7 @@
 // What a rule book of an older layout lacks, filled in by the season its league plays.
 #include "league/markers.h"
 #include "league/rules.h"
+#include "league/rules_screen.h"
 
 namespace tipline {
 namespace {
@@ -206,10 +207,35 @@ void RuleRepair::Technicals() {
   if (r.TechnicalFTslist < 1 || r.TechnicalFTslist > 2) r.TechnicalFTslist = usual;
 }
 
+/// A damaged rule book: each list takes the choice next below what it holds, a check that says neither is
+/// off.
+void HoldToLists(RulesRecord& rules) {
+  for (const RuleControl& control : RuleControls()) {
+    u8& field = control.Field(rules);
+    if (!control.Choices) {
+      if (field != control.Ticked) field = control.Unticked;
+      continue;
+    }
+    const auto choices = control.Choices();
+    u8 held = choices.front().value;
+    for (const RuleChoice& choice : choices) {
+      if (choice.value <= field && choice.value >= held) held = choice.value;
+    }
+    field = held;
+  }
+}
+
 }  // namespace
+
+bool RulesMakeSense(const RulesRecord& r) {
+  const bool periods = r.PeriodList == 0 || r.PeriodList == 1 || r.PeriodList == 2 || r.PeriodList == 4;
+  return periods && r.MinuteList <= 20 && r.OverTimeList <= 20 && r.DqList <= 10 && r.ShotClockList <= 45 &&
+         r.ThreePointCheck <= 1;
+}
 
 bool RepairRules(int year, char teamType) {
   const auto before = RecordBytes(league.rules);
+  if (!RulesMakeSense(league.rules)) HoldToLists(league.rules);
   RuleRepair repair{league.rules, year, teamType};
   repair.ShotClockReset();
   repair.Pauses();

@@ -18,6 +18,9 @@ bool LoadRules();
 bool SaveRules();
 /// The repairs of LoadRules on `league.rules` alone, driven by year and type of team 1. True when one acted.
 bool RepairRules(int year, char teamType);
+/// Whether the rules that carry a game lie within their lists; a rule book of noise does not. One that does
+/// not is held to the lists by the repairs.
+bool RulesMakeSense(const RulesRecord& rules);
 /// Fouls and penalties ascending: a lower step takes limit and penalty of the step before it.
 void RaiseFoulLimits(RulesRecord& rules);
 void DerivePositionLabels();

@@ -1,4 +1,6 @@
 // A new season for a team or a player: what the season counted goes, who they are stays.
+#include "league/season_reset.h"
+
 #include "league/files.h"
 #include "league/program.h"
 
@@ -26,16 +28,14 @@ void Clear(Fields&... fields) {
   ((fields = {}), ...);
 }
 
-void ClearResults(TeamRecord& t) {
-  t.LastTen.Fill(Text<1>(" "));
-  Clear(t.Wins, t.Losses, t.Streak, t.HomeWins, t.HomeLosses, t.NeutralWins, t.NeutralLosses);
-  Clear(t.DivisionWins, t.DivisionLosses, t.ConferenceWins, t.ConferenceLosses);
+}  // namespace
+
+void ClearSplits(TeamRecord& t) {
   Clear(t.OvertimeWins, t.OvertimeLosses, t.WinsVsWinning, t.LossesVsWinning, t.WinsVsLosing,
         t.LossesVsLosing);
   Clear(t.CloseWins, t.CloseLosses, t.BlowoutWins, t.BlowoutLosses);
   Clear(t.WinsLeadingAtHalf, t.LossesLeadingAtHalf, t.WinsTrailingAtHalf, t.LossesTrailingAtHalf);
   Clear(t.WinsScoring100, t.LossesScoring100, t.WinsAllowing100, t.LossesAllowing100);
-  Clear(t.PowerRating, t.ReservedWord, t.ReservedFlagB);
 }
 
 void ClearShotTable(TeamRecord& t) {
@@ -50,6 +50,29 @@ void ClearHighsAndLows(TeamRecord& t) {
   Clear(t.HighReb, t.HighOff, t.HighAst, t.HighBk, t.HighTo, t.HighSt, t.HighPf);
   Clear(t.LowPoints, t.LowFGA, t.LowFGM, t.LowF3A, t.LowF3M, t.LowFTA, t.LowFTM);
   Clear(t.LowReb, t.LowOff, t.LowAst, t.LowBk, t.LowTo, t.LowSt, t.LowPf);
+}
+
+void ClearStreakFields(PlayerRecord& p) {
+  Clear(p.LastGamePoints, p.LastGameRebounds, p.LastGameAssists);
+  p.LastGameOpponent = "";
+}
+
+void ClearPositionGames(PlayerRecord& p) {
+  Clear(p.GamesAtPosition, p.MinutesAtPosition, p.PointsAtPosition);
+}
+
+void ClearWinLoss(PlayerRecord& p) {
+  Clear(p.TeamWinsPlayed, p.TeamLossesPlayed, p.TeamWinsByPosition, p.TeamLossesByPosition);
+}
+
+namespace {
+
+void ClearResults(TeamRecord& t) {
+  t.LastTen.Fill(Text<1>(" "));
+  Clear(t.Wins, t.Losses, t.Streak, t.HomeWins, t.HomeLosses, t.NeutralWins, t.NeutralLosses);
+  Clear(t.DivisionWins, t.DivisionLosses, t.ConferenceWins, t.ConferenceLosses);
+  ClearSplits(t);
+  Clear(t.PowerRating, t.ReservedWord, t.ReservedFlagB);
 }
 
 void ClearTotals(TeamRecord& t) {
@@ -70,11 +93,10 @@ void ClearShotTable(PlayerRecord& p) {
 }
 
 void ClearSeasonCounters(PlayerRecord& p) {
-  Clear(p.TeamWinsPlayed, p.TeamLossesPlayed, p.TeamWinsByPosition, p.TeamLossesByPosition);
-  Clear(p.GamesAtPosition, p.MinutesAtPosition, p.PointsAtPosition, p.PlusMinus);
-  Clear(p.LastGamePoints, p.LastGameRebounds, p.LastGameAssists);
-  p.LastGameOpponent = "";
-  Clear(p.LastInjuryMonth, p.LastInjuryDay, p.RestGames);
+  ClearWinLoss(p);
+  ClearPositionGames(p);
+  ClearStreakFields(p);
+  Clear(p.PlusMinus, p.LastInjuryMonth, p.LastInjuryDay, p.RestGames);
   Clear(p.ShareShots, p.ShareBlocks, p.ShareAssists, p.ShareOffReb, p.ShareDefReb);
   Clear(p.DoubleDoubles, p.TripleDoubles, p.QuadDoubles);
   Clear(p.FreeThrowStreak, p.LongestFreeThrowStreak, p.FieldGoalStreak, p.LongestFieldGoalStreak);

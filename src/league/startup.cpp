@@ -71,8 +71,10 @@ bool ReloadLeague() {
   program.LeagueFolder = folder;
   const bool rules = LoadRules();
   LoadAllTeams();
+  if (league.ActiveTeams == 0) return false;
+  if (!rules) SaveRules();
   LoadSchedule();
-  return rules && league.ActiveTeams > 0;
+  return true;
 }
 
 bool OpenSeason(const std::string& name) {

@@ -14,7 +14,7 @@ void MarkClosed();
 std::string StatusFilePath();
 
 /// Reads the league in `program.LeagueFolder` anew, as every opening does: setup written and read, rules,
-/// teams with their repairs, schedule. False when the league has no rules file or no team.
+/// teams with their repairs, schedule. A league without a rules file gets one. False when it has no team.
 bool ReloadLeague();
 /// Makes a league of the seasons root current. False when there is no such folder, or it holds no league.
 bool OpenSeason(const std::string& name);

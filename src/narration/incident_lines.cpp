@@ -37,6 +37,8 @@ void ShakenUp(Lines& lines) {
   InjuryTimeoutLines(lines);
   if (Seldom()) Say(lines, "he's shaken-up");
   Say(lines, InjuryName(game.incident.InjuryWord));
+  // Words behind "but" can't be turned to a woman's.
+  if (game.team[1].TeamSex == 'W') return Say(lines, "he'll stay on the court");
   Say(lines, OneOf({"he'll stay on the court", "but he'll be okay", "but he'll be fine",
                     "but he'll remain in the game"}));
 }
@@ -110,7 +112,8 @@ void Fight(Lines& lines) {
   Say(lines, "Fight!");
   lines.push_back(first + " and " + second);
   for (const std::string& name : {first, second}) SayOf(lines, name, " has been ejected!");
-  for (const std::string& name : {first, second}) lines.push_back("(Suspension?) " + name);
+  if (i.Suspension > 0) lines.push_back("(Suspension?) " + first);
+  if (i.OtherSuspension > 0) lines.push_back("(Suspension?) " + second);
   SayShots(lines);
 }
 

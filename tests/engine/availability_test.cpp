@@ -63,8 +63,9 @@ TEST(Availability, ALightInjuryEndsEarlyOrDragsOn) {
     game.GameDay = c.day;
     P().InjurySeverity = 1, P().InjuryReturnMonth = 4, P().InjuryReturnDay = 17, P().RateDurability = 9;
     random.Script(c.draws);
-    SetAvailability(1);
+    DrawLightInjury(P());
     random.Script({});
+    SetAvailability(1);
     EXPECT_EQ(P().InjuryReturnMonth, c.month) << c.why;
     EXPECT_EQ(P().InjuryReturnDay, c.returns) << c.why;
   }

@@ -43,11 +43,11 @@ TEST(SetStints, StaysInBoundsAndRunsWithTheMinutes) {
     bool playoff;
     int length, rest;
   } cases[] = {
-      {"no target: 30.5 real minutes round to 31", 4, 12, 0, false, 3900, 2340},
-      {"everything for this game", 4, 12, 40, true, 6600, 1530},
+      {"no target: 30.5 real minutes round to 31", 4, 12, 0, false, 4480, 1780},
+      {"everything for this game", 4, 12, 40, true, 7000, 1360},
       {"no end to it", 4, 12, 200, false, 14000, 300},
       {"25 of 40 minutes are 30 of 48", 2, 20, 25, false, 4500, 2400},
-      {"but no shorter than five minutes", 4, 10, 10, false, 3000, 2000},
+      {"but no shorter than five minutes", 4, 10, 10, false, 3000, 1933},
       {"no periods at all", 0, 0, 30, false, 3000, 300},
   };
   for (const auto& c : cases) {

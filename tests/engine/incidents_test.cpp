@@ -7,6 +7,7 @@
 #include "engine/availability.h"
 #include "engine/eligible.h"
 #include "engine/outcome.h"
+#include "engine/resolution.h"
 #include "league/season_date.h"
 #include "support/neutral_game.h"
 
@@ -305,14 +306,36 @@ TEST(Technical, WhoShootsAndWhoHasTheBallAfterwards) {
     EXPECT_EQ(PositionOf(c.side, 1), c.ejected ? 0 : 1) << c.why;
     EXPECT_EQ(game.OffenseSide, 3 - c.side) << c.why;
     EXPECT_EQ(game.BallPlayer, 4) << c.why;
+    game.SecondChance = 1;  // of the attackers, who may be the other side
     for (int shot = 0; shot < c.shots; ++shot) {
       game.PlayResult = "FTG";
       PostPlay();
     }
+    EXPECT_EQ(game.side[1].ExtraSecondChancePoints, 0) << c.why;
     EXPECT_EQ(game.GameState.Text(), "OFFENSE") << c.why;
     EXPECT_EQ(game.OffenseSide, 2) << "the ball is theirs again";
     EXPECT_EQ(game.player[3 - c.side][4].Stats[3].FTM, c.shots) << c.why;
     EXPECT_EQ(game.team[1].Possessions[3] + game.team[2].Possessions[3], 0) << "nobody lost the ball";
+  }
+}
+
+TEST(Delay, StopsTheBallBeforeItComesIn) {
+  for (const GameState state : {GameState("DEADBALL-OFFENSE"), GameState("OFFENSE")}) {
+    SetUpTwelve();
+    game.GameState = state;
+    game.DeadBallKind = 2;
+    game.NeedsInbound = 1;
+    int delays = 0;
+    EachSeed(3000, [&] {
+      FindResult();
+      if (game.incident.Kind != Kind::kDelay) return;
+      ++delays;
+      ASSERT_EQ(game.GameClock, 4000) << "no time runs";
+      ASSERT_EQ(game.GameState.Text(), "DEADBALL-DEFENSE");
+      ASSERT_EQ(game.DeadBallKind, 1);
+      ASSERT_EQ(game.OffenseSide, 2);
+    });
+    EXPECT_EQ(delays > 0, state == "DEADBALL-OFFENSE") << delays;
   }
 }
 

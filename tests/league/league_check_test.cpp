@@ -2,15 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
+#include <algorithm>
+#include <functional>
 
 #include "base/random.h"
 #include "base/record_file.h"
 #include "frontoffice/league_maker.h"
 #include "harness/temporary_home.h"
+#include "league/data_tree.h"
 #include "league/files.h"
 #include "league/program.h"
-#include "league/data_tree.h"
 #include "league/rules.h"
 
 namespace tipline {
@@ -23,28 +24,103 @@ std::string Noise(std::size_t bytes) {
   return text;
 }
 
-TEST(LeagueFault, NamesTheFileThatIsWrong) {
+class Doctor : public testing::Test {
+ protected:
   const TemporaryLeague home;
-  UseShippedEras();
-  LeagueRequest request;
-  request.Name = "Sound";
-  std::string message;
-  ASSERT_TRUE(MakeLeague(request, message)) << message;
-  const auto folder = LeaguesFolder() / "Sound";
-  EXPECT_EQ(LeagueFault(folder), "");
-  for (const char* name : {"HCTEAMS", "HCPLAYER", "HCgameplan", "HCRULES"}) {
-    const auto file = folder / name;
-    const std::string whole = ReadWholeFile(file);
-    for (const std::string& bad : {std::string(), whole.substr(0, 700), Noise(whole.size())}) {
-      ASSERT_TRUE(WriteWholeFile(file, bad));
-      EXPECT_NE(LeagueFault(folder).find(name), std::string::npos) << name << " of " << bad.size();
-    }
-    std::filesystem::remove(file);
-    EXPECT_NE(LeagueFault(folder).find("missing"), std::string::npos) << name;
-    ASSERT_TRUE(WriteWholeFile(file, whole));
+  std::filesystem::path folder;
+
+  void SetUp() override {
+    UseShippedEras();
+    LeagueRequest request;
+    request.Name = "Sound";
+    request.Divisions = 1, request.Teams = 2;
+    std::string message;
+    ASSERT_TRUE(MakeLeague(request, message)) << message;
+    folder = LeaguesFolder() / "Sound";
+    program.LeagueFolder = folder;
   }
-  ASSERT_TRUE(WriteWholeFile(folder / "HCPLAYER", ReadWholeFile(folder / "HCPLAYER").substr(0, 1500 * 200)));
-  EXPECT_NE(LeagueFault(folder), "") << "rosters name men behind the end of the file";
+
+  bool Finds(const std::string& text) const {
+    const auto findings = LeagueFindings(folder);
+    return std::any_of(findings.begin(), findings.end(),
+                       [&](const std::string& line) { return line.find(text) != std::string::npos; });
+  }
+
+  std::string Files() const {
+    std::string all;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) all += ReadWholeFile(entry.path());
+    return all;
+  }
+};
+
+TEST_F(Doctor, ANewLeagueIsSound) { EXPECT_EQ(LeagueFindings(folder), std::vector<std::string>{}); }
+
+TEST_F(Doctor, OnlyAFolderWithoutTeamsIsNoLeague) {
+  for (const char* name : {"HCPLAYER", "HCgameplan", "HCRULES", "Sked.skd"})
+    std::filesystem::remove(folder / name);
+  EXPECT_EQ(LeagueFault(folder), "");
+  ASSERT_TRUE(WriteWholeFile(folder / "HCTEAMS", std::string(3000, '\0')));
+  EXPECT_NE(LeagueFault(folder).find("holds no team"), std::string::npos);
+  std::filesystem::remove(folder / "HCTEAMS");
+  EXPECT_NE(LeagueFault(folder).find("missing"), std::string::npos);
+}
+
+TEST_F(Doctor, NamesWhatIsWrongAndChangesNothing) {
+  const auto team = [](auto change) {
+    ReadTeam(1);
+    change(league.team[1]);
+    WriteTeam(1);
+  };
+  const auto put = [](const std::filesystem::path& file, const std::string& bytes) {
+    ASSERT_TRUE(WriteWholeFile(file, bytes));
+  };
+  const auto man = [](auto change) {
+    PlayerRecord p;
+    ReadPlayer(1, p);
+    change(p);
+    const RecordFile file(PlayersFile(), kPlayerSlotBytes);
+    const bool written = file.RewriteAll(PlayerRows(), [&p](int row, u8* bytes) {
+      if (row == 1) WriteRecord(p, bytes);
+    });
+    ASSERT_TRUE(written);
+  };
+  const struct {
+    const char* finding;
+    std::function<void()> spoil;
+  } cases[] = {
+      {"HCPLAYER is missing", [&] { std::filesystem::remove(PlayersFile()); }},
+      {"HCgameplan has 700 bytes", [&] { put(CoachesFile(), ReadWholeFile(CoachesFile()).substr(0, 700)); }},
+      {"HCTEAMS ends within a record", [&] { put(TeamsFile(), ReadWholeFile(TeamsFile()) + "x"); }},
+      {"rules outside their lists", [&] { league.rules.MinuteList = 21, SaveRules(); }},
+      {"would repair the rules", [&] { league.rules.JumpBallMark = 0, SaveRules(); }},
+      {"1 slot names a row that HCPLAYER does not have",
+       [&] { team([](TeamRecord& t) { t.Roster[30] = 999; }); }},
+      {"stands on a roster already", [&] { team([](TeamRecord& t) { t.Roster[30] = t.Roster[1]; }); }},
+      {"which calls itself 7", [&] { man([](PlayerRecord& p) { p.RecNo = 7; }); }},
+      {"a man of team 2", [&] { man([](PlayerRecord& p) { p.TeamNo = 2; }); }},
+      {"1 man says he is of a team", [&] { team([](TeamRecord& t) { t.Roster[1] = 0; }); }},
+      {"would repair 1 man.", [&] { man([](PlayerRecord& p) { p.InfoMark = 0; }); }},
+      {"would repair the team.", [&] { team([](TeamRecord& t) { t.LastTenMark = 0; }); }},
+      {"its game plan is that of team 2",
+       [&] { put(CoachesFile(), ReadWholeFile(CoachesFile()).replace(2, 1, "\2")); }},
+      {"a team that is not there",
+       [&] { put(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(114, 1, "\4")); }},
+      {"1 game has no date",
+       [&] { put(folder / "Sked.skd", ReadWholeFile(folder / "Sked.skd").replace(5, 1, "\77")); }},
+      {"days off that are no dates",
+       [&] { put(DailyFile(), std::string("\x63\0\0\x07\0", 5) + std::string(495, '\0')); }},
+  };
+  const auto kept = home.Home() / "kept";
+  std::filesystem::copy(folder, kept);
+  for (const auto& c : cases) {
+    std::filesystem::remove_all(folder);
+    std::filesystem::copy(kept, folder);
+    LoadRules();
+    c.spoil();
+    const std::string before = Files();
+    EXPECT_TRUE(Finds(c.finding)) << c.finding;
+    EXPECT_EQ(Files(), before) << c.finding;
+  }
 }
 
 TEST(EraFault, AnEraFileIsWholeAndPlausible) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
 #include "league/files.h"
@@ -47,8 +49,47 @@ TEST_F(Rosters, MenStandInTheirSlotsAndRemovedOnesLeave) {
   EXPECT_EQ(roster.team.Roster[5], 0) << "an erased row";
   EXPECT_EQ(roster.team.Roster[6], 0) << "a row behind the end of the file";
   EXPECT_EQ(roster.player[0].RecNo + roster.player[7].RecNo, 0);
-  EXPECT_EQ(league.team[5].Roster[5], 1) << "only the copy is repaired";
+  EXPECT_EQ(league.team[5].Roster[5], 0) << "the table follows";
+  const auto bytes = [] {
+    return ReadWholeFile(TeamsFile()) + ReadWholeFile(PlayersFile()) + ReadWholeFile(CoachesFile());
+  };
+  const std::string repaired = bytes();
+  ASSERT_TRUE(LookAtRoster(5, roster));
+  EXPECT_EQ(roster.team.Roster[6], 0) << "the file was repaired";
+  EXPECT_FALSE(RepairRoster(roster).Any()) << "once";
+  ASSERT_TRUE(ReadRoster(5, roster));
+  EXPECT_EQ(bytes(), repaired);
   for (const int team : {0, 4, 721}) EXPECT_FALSE(ReadRoster(team, roster)) << team;
+}
+
+TEST_F(Rosters, AManStandsOnOneSlotAndMissingOnesEnterTheHighestFreeOne) {
+  PutMan(4, 5, "Late");
+  PutMan(5, 0, "Late");
+  PlayerRecord wrong;
+  ReadPlayer(4, wrong);
+  wrong.RecNo = 3;  // the row knows its own number badly
+  ASSERT_TRUE(RecordFile(PlayersFile(), kPlayerSlotBytes).Write(4, wrong));
+  league.team[5].Roster[8] = 2;
+  league.team[5].Roster[30] = 3;
+  ASSERT_TRUE(WriteTeam(5));
+  LoadLeaguePlayers();
+  league.player[5].TeamNo = 5;  // the file knows better
+  ASSERT_TRUE(ReadRoster(5, roster));
+  EXPECT_EQ(roster.team.Roster[1], 2);
+  EXPECT_EQ(roster.team.Roster[8], 0) << "he stands at slot 1";
+  EXPECT_EQ(roster.team.Roster[30], 4);
+  EXPECT_EQ(roster.player[30].LastName, "Late");
+  EXPECT_EQ(roster.player[30].RecNo, 4);
+  EXPECT_EQ(std::count(roster.team.Roster.begin(), roster.team.Roster.end(), 5), 0);
+}
+
+TEST_F(Rosters, ARowOfNobodyIsGivenUp) {
+  PutMan(2, 5, "Noname");
+  ASSERT_TRUE(ReadRoster(5, roster));
+  EXPECT_EQ(roster.team.Roster[1], 0);
+  PlayerRecord man;
+  ReadPlayer(2, man);
+  EXPECT_EQ(man.TeamNo, 0);
 }
 
 TEST_F(Rosters, CoachMenAndTeamAreWrittenBack) {

@@ -91,7 +91,7 @@ TEST_F(Teams, OpeningRepairsOlderTeamsOnce) {
   ASSERT_TRUE(WriteTeam(3));
   LoadAllTeams();
   EXPECT_EQ(old.TeamType, "P");
-  EXPECT_EQ(old.Abbrev, "Spr");
+  EXPECT_EQ(old.Abbrev, "SPR") << "as the table of cities has it";
   EXPECT_EQ(old.Year, 2013);
   EXPECT_EQ(old.TeamTurnovers[2], 0);
   EXPECT_EQ(old.RealWins, 0) << "an unmarked real record is rubbish";
@@ -159,6 +159,7 @@ TEST_F(Teams, CountersOfATeamThatHasNotPlayedAreCleared) {
   team.HomeWins = 3;
   team.NeutralLosses = 2;
   team.Abbrev = "ABC";
+  team.NameMark = 37;
   ASSERT_TRUE(SaveAllTeams());
   LoadAllTeams();
   EXPECT_EQ(team.Streak + team.HomeWins + team.NeutralLosses, 0);

@@ -1,0 +1,106 @@
+// A team comes to its side of the game, and goes back to its files.
+#include "base/random.h"
+#include "engine/availability.h"
+#include "engine/chances.h"
+#include "engine/engine.h"
+#include "engine/fatigue.h"
+#include "engine/game_state.h"
+#include "league/files.h"
+#include "league/program.h"
+#include "league/roster.h"
+
+namespace tipline {
+namespace {
+
+constexpr int kMostForm = 20;
+constexpr int kRubbishForm = 25;  // a stored form above this was never drawn
+
+/// Ten is neutral; now and then he goes on from where he stood.
+u8 DrawForm(int previous) {
+  const auto from = [](int middle) {
+    const int up = Rnd(3);
+    return middle + up - Rnd(3);
+  };
+  int form = from(10);
+  if (Rnd(5) == 1) form = from(previous);
+  if (Rnd(10) == 1) form = from(previous);
+  return static_cast<u8>(Clamp(form, 0, kMostForm));
+}
+
+/// How he differs, this season, from what his real figures say. It stands from his first game on.
+void DrawAlternateReality(PlayerRecord& p) {
+  if (!program.ReplayLocked || league.rules.IsPlayoffModule == 1) return;
+  u8* forms[] = {&p.AltForm2, &p.AltForm5, &p.AltForm1, &p.AltForm3, &p.AltForm4};
+  bool rubbish = false;
+  for (const u8* form : forms) rubbish = rubbish || *form > kRubbishForm;
+  if (p.Stats[2].G != 0 && !rubbish) return;
+  for (u8* form : forms) *form = DrawForm(*form);
+}
+
+/// The coach's list of days off, where his team goes by it.
+void GoByDailyList(const Roster& roster, int side) {
+  if (!InLeagueGame() || roster.coach.UseDailyInactive != 1) return;
+  const int today = DateOf(game.GameMonth, game.GameDay);
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    LoadedAt(side, slot).PlayerUnavailable = SitsOut(roster.daily[slot], today) ? 1 : 0;
+  }
+}
+
+/// A man who was traded away plays for nobody here, but keeps his slot.
+void KeepFormerMember(Roster& roster, int slot) {
+  PlayerRecord man;
+  ReadPlayer(roster.team.Roster[slot], man);
+  if (man.RecNo == roster.team.Roster[slot] && man.TeamNo == roster.TeamNo + kFormerMember)
+    roster.player[slot] = man;
+}
+
+}  // namespace
+
+bool LoadTeam(int teamNo, int side) {
+  Roster roster;
+  const bool found = ReadRoster(teamNo, roster);
+  game.GameTeam[side] = found ? teamNo : 0;
+  game.team[side] = roster.team;
+  game.coach[side] = roster.coach;
+  for (int slot = 0; slot <= kRosterSlots; ++slot) {
+    game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
+    game.loaded[side][slot] = {};
+  }
+  if (!found) return false;
+  GoByDailyList(roster, side);
+  ReadySide(side);
+  return true;
+}
+
+void ReadySide(int side) {
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    PlayerRecord& man = PlayerAt(side, slot);
+    if (!OnTeam(side, slot)) {
+      man = {};
+      continue;
+    }
+    DrawLightInjury(man);
+    LoadedAt(side, slot).HotHand = DrawHotHand();
+    DrawAlternateReality(man);
+  }
+  SetAvailability(side);
+  ShotMix(side);
+  SetStints(side);
+}
+
+bool SaveTeam(int teamNo, int side) {
+  if (teamNo < 1 || teamNo > kTeams || game.GameTeam[side] != teamNo) return false;
+  if (program.PlayoffGame && game.team[side].TeamType == 'C') return true;
+  Roster roster;
+  roster.TeamNo = teamNo;
+  roster.team = game.team[side];
+  roster.coach = game.coach[side];
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    roster.player[slot] = PlayerAt(side, slot);
+    if (!OnTeam(side, slot)) KeepFormerMember(roster, slot);
+    ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
+  }
+  return WriteRoster(roster);
+}
+
+}  // namespace tipline
