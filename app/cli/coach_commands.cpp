@@ -17,8 +17,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-
 std::string NameOf(const PlayerRecord& p) {
   return p.FirstName.Empty() ? p.LastName.Str() : p.FirstName.Str().substr(0, 1) + "." + p.LastName.Str();
 }

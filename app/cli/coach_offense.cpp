@@ -1,4 +1,5 @@
 // Commands that run the game: the attack, the answer to a call, timeouts, how far the computer goes on.
+#include <algorithm>
 #include <array>
 
 #include "cli/coach_screen.h"
@@ -14,7 +15,7 @@ std::string Handler() { return ManName(game.OffenseSide, game.BallPlayer); }
 
 constexpr std::array<std::string_view, 9> kCallKinds{
     "any", "inside", "outside", "three", "drive", "goto", "pick and roll", "force three", "hold ball"};
-constexpr int kPickCall = 6, kHoldCall = 8, kAnybodyHolds = 6;
+constexpr int kInsideCall = 1, kPickCall = 6, kHoldCall = 8, kAnybodyHolds = 6;
 
 constexpr std::array<std::string_view, 7> kDefenseCalls{"",      "off",  "loose",      "normal",
                                                         "tight", "foul", "double team"};
@@ -50,8 +51,9 @@ bool ReadCall(CoachSession& session, Words words, Call& call) {
   Words lob = TakenFrom(words, "alley", alley);
   if (words.size() > 1 && Squeezed(words.back()) == "force") words.pop_back(), force = true;
   if (!lob.empty() && Squeezed(lob.back()) == "force") lob.pop_back(), force = true;
-  std::size_t used = words.size() > 1 && ChoiceOf(Joined(words, 0, 2), kCallKinds) >= 0 ? 2 : 1;
-  const int kind = words.empty() ? kNoChoice : ChoiceOf(Joined(words, 0, used), kCallKinds);
+  std::size_t used = std::min<std::size_t>(words.size(), 3) + 1;  // "pick and roll" has three words
+  int kind = kNoChoice;
+  while (kind < 0 && --used > 0) kind = ChoiceOf(Joined(words, 0, used), kCallKinds);
   if (kind < 0) {
     session.Refuse("Call what? " + Listed(kCallKinds) + ".");
     return false;
@@ -72,6 +74,8 @@ std::string FaultOf(const Call& call) {
   if (call.CallKind == kPickCall && call.CallPlayer == game.BallSlot && call.CallPlayer > 0)
     return Handler() + " has the ball: name another man to set the pick.";
   if (call.CallForce && (call.CallPlayer < 1 || call.CallPlayer > kPositions)) return "Force it to whom?";
+  if (call.CallForce && call.CallKind != kInsideCall) return "Only an inside play can be forced.";
+  if (call.CallAlleyOop && call.CallKind == 0) return "A lob needs a kind of play.";
   if (call.CallAlleyOop && call.CallAlleyPlayer == 0) return "A lob to whom?";
   if (call.CallKind == 0 && call.CallPlayer == 0) return "Call a kind of play, a man, or both.";
   return "";
@@ -106,7 +110,16 @@ int TenthsOf(std::string_view word) {
   constexpr std::array<std::string_view, 4> kLong{"six", "two", "one", "30"};
   constexpr int kTenths[] = {3600, 1200, 600, 300};
   for (std::size_t i = 0; i < kShort.size(); ++i) {
-    if (word == kShort[i] || Squeezed(word) == kLong[i] || word == kShort[i].substr(1)) return kTenths[i];
+    if (word == kShort[i] || Squeezed(word) == kLong[i]) return kTenths[i];  // ":30" is a short "30"
+  }
+  return 0;
+}
+
+/// 1 to 4 for "2nd" or "2"; 0 for anything else.
+int PeriodOf(std::string_view said) {
+  constexpr std::array<std::string_view, 4> kNth{"1st", "2nd", "3rd", "4th"};
+  for (std::size_t i = 0; i < kNth.size(); ++i) {
+    if (said == kNth[i] || said == kNth[i].substr(0, 1)) return static_cast<int>(i) + 1;
   }
   return 0;
 }
@@ -128,8 +141,8 @@ WatchUntil ReadMark(const Words& words) {
       below = tenths;
     } else if (said == "end") {
       below = 1;
-    } else if (!said.empty() && said[0] >= '1' && said[0] <= '4' && (said.size() == 1 || said.size() == 3)) {
-      period = said[0] - '0';
+    } else if (const int named = PeriodOf(said)) {
+      period = named;
     } else if (said != "period" && said != "minutes" && said != "minute" && said != "seconds") {
       return mark;
     }
@@ -149,15 +162,15 @@ bool Ahead(WatchUntil until) {
   return mark.period > game.Period || (mark.period == game.Period && game.GameClock >= mark.below);
 }
 
-Answer ListMarks(CoachSession& session) {
+/// The marks that are ahead, one behind the other; "" for none.
+std::string MarksAhead() {
   std::string text;
   for (const auto word : WatchUntilWords::kTexts) {
     WatchUntil mark;
     mark.Set(word);
     if (Ahead(mark)) text += (text.empty() ? "" : "; ") + std::string(word);
   }
-  session.Say(text.empty() ? "No mark is ahead of us." : "Marks ahead: " + text + ".");
-  return Answer::kStays;
+  return text;
 }
 
 }  // namespace
@@ -190,15 +203,25 @@ Answer DoQuickPass(CoachSession& session, const Words& words) {
   if (position == 0) return Answer::kRefused;
   if (position == game.BallSlot) return session.Refuse(Handler() + " has the ball.");
   game.possession.QuickPassTarget = position;
-  const std::string target = ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[position]);
-  return session.GoOn("Quick pass to " + target + ".", QuickPassChosen);
+  const int slot = game.side[game.OffenseSide].Lineup[position];
+  const std::string target = ManName(game.OffenseSide, slot);
+  const Answer answer = session.GoOn("Quick pass to " + target + ".", QuickPassChosen);
+  const bool refused = game.GameState == "OFFENSE" && game.possession.JustQuickPassed &&
+                       game.BallPlayer != slot;  // he looked, and the ball went to somebody else
+  if (refused) session.Say("The pass to " + target + " is not there.");
+  return answer;
 }
 
 Answer DoGrid(CoachSession& session, const Words& words) {
   const int position = Teammate(session, words);
   if (position == 0) return Answer::kRefused;
   const std::string man = ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[position]);
-  return session.GoOn("A play for " + man + ".", [position] { PlayGridChosen(position); });
+  const int clock = game.GameClock, rows = game.PlayLogCount;
+  const Answer answer = session.GoOn("", [position] { PlayGridChosen(position); });
+  // With the clock running out they don't wait for a play, and the coach is asked again.
+  const bool hurried = game.GameState == "OFFENSE" && game.GameClock == clock && game.PlayLogCount == rows;
+  session.Say(hurried ? "They hurry: the ball goes to " + Handler() + "." : "A play for " + man + ".");
+  return answer;
 }
 
 Answer DoCall(CoachSession& session, const Words& words) {
@@ -218,6 +241,7 @@ Answer DoComputer(CoachSession& session, const Words&) {
   const GameState s = game.GameState;
   if ((s == "OFFENSE" && !BallIsDue()) || s == "OFFREB" || s == "FASTBREAK")
     return session.GoOn("The computer calls the play.", ComputerChosen);
+  if (s == "DEFENSE-CALL") return session.GoOn("The computer answers the call.", ComputerDefenseChosen);
   ComputerDefenseCall(session.Side());
   session.Say("The computer has set your defense.");
   return Answer::kStays;
@@ -254,7 +278,16 @@ Answer DoFocus(CoachSession& session, const Words& words) {
 }
 
 Answer DoAuto(CoachSession& session, const Words& words) {
-  if (words.empty()) return ListMarks(session);
+  const std::string ahead = MarksAhead();
+  if (ahead.empty()) {
+    return session.Refuse(game.Period > league.rules.PeriodList
+                              ? "There are no marks in overtime; delegate leaves your plays to the computer."
+                              : "No mark is ahead of us.");
+  }
+  if (words.empty()) {
+    session.Say("Marks ahead: " + ahead + ".");
+    return Answer::kStays;
+  }
   const WatchUntil mark = ReadMark(words);
   if (!Ahead(mark)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
   return session.GoOn("Both sides play on alone: " + std::string(mark.Text()) + ".", [mark] {

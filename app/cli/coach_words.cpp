@@ -57,7 +57,7 @@ int NameFit(const PlayerRecord& p, const std::string& said) {
 
 Found ByName(int side, std::string_view said) {
   const std::string name = Squeezed(said);
-  const std::string nobody = "Nobody on the team answers to \"" + std::string(said) + "\".";
+  const std::string nobody = "Nobody on the team answers to \"" + Shortened(said) + "\".";
   if (name.empty()) return {0, nobody};
   int best = 0;
   Words found;
@@ -130,6 +130,14 @@ std::string Listed(std::span<const std::string_view> choices) {
   return text;
 }
 
+std::string Shortened(std::string_view said) {
+  constexpr std::size_t kMost = 30;
+  if (said.size() <= kMost) return std::string(said);
+  std::size_t cut = kMost;
+  while (cut > 0 && (static_cast<unsigned char>(said[cut]) & 0xC0) == 0x80) --cut;  // between two letters
+  return std::string(said.substr(0, cut)) + "..";
+}
+
 int OnOff(std::string_view said) {
   const std::string word = Squeezed(said);
   return word == "on" ? 1 : word == "off" ? 0 : kNoChoice;
@@ -146,7 +154,7 @@ Found FindMan(int side, std::string_view said) {
   }
   if (number > 0 || marked) {
     if (number >= 1 && number <= kRosterSlots && OnTeam(side, number)) return {number, ""};
-    return {0, "There is no man " + std::string(said) + " on the team."};
+    return {0, "There is no man " + Shortened(said) + " on the team."};
   }
   return ByName(side, said);
 }

@@ -18,8 +18,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-
 std::string PlayerName(const PlayerRecord& p) {
   return p.FirstName.Empty() ? p.LastName.Str() : p.FirstName.Str() + " " + p.LastName.Str();
 }

@@ -96,7 +96,7 @@ void AddPlay(CLI::App& app, Arguments& a) {
   play->add_option(
           "--calls", a.play.Calls,
           "plays that you are asked for: none, default (more when it counts) or all; without it your "
-          "preferences, at first all")
+          "preferences, at first default")
       ->check(CLI::IsMember({"none", "default", "all"}));
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");

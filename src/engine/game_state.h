@@ -410,10 +410,10 @@ inline int GuardOf(int position) {
 }
 /// How a man is covered, and whether he is doubled, on a shot from this zone; all but inside and beyond the
 /// arc is outside.
-inline int& CoverageOf(Man& man, int pick) {
+auto& CoverageOf(auto& man, int pick) {
   return pick == kInside ? man.CoverageInside : pick == kThree ? man.CoverageThree : man.CoverageOutside;
 }
-inline int& DoubleOf(Man& man, int pick) {
+auto& DoubleOf(auto& man, int pick) {
   return pick == kInside  ? man.DoubleTeamInside
          : pick == kThree ? man.DoubleTeamThree
                           : man.DoubleTeamOutside;

@@ -222,7 +222,7 @@ bool Comparable(const Moment& m, const Man& man, const Lines& l) {
 
 double Usage(const StatLine& s) { return (s.To + s.FGA + s.FTA) / (s.Min + 1.0); }
 
-int ByZone(Man& man, const PlayerRecord& p, int g) {
+int ByZone(const Man& man, const PlayerRecord& p, int g) {
   constexpr double kCoverage[7] = {1, 1.5, 1.2, 1, 0.8, 0.5, 1};
   const int coverage = CoverageOf(man, man.ShotPick);
   Scale(g, kCoverage[coverage >= 0 && coverage <= 6 ? coverage : 3]);

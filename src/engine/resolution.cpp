@@ -132,7 +132,7 @@ void FitKind() {
 void CountDoubleTeams() {
   game.DoubleTeamCount = 0;
   for (int p = 1; p <= kPositions; ++p) {
-    Man& man = ManAt(game.OffenseSide, Offense().Lineup[p]);
+    const Man& man = ManAt(game.OffenseSide, Offense().Lineup[p]);
     game.DoubleTeamCount += DoubleOf(man, man.ShotPick);
   }
 }

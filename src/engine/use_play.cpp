@@ -187,7 +187,7 @@ int PassesUpShot() {
 
 /// The man with the ball is covered too closely to begin the play himself.
 bool PassesFirst() {
-  Man& man = ManAt(game.OffenseSide, game.BallPlayer);
+  const Man& man = ManAt(game.OffenseSide, game.BallPlayer);
   const int coverage = CoverageOf(man, man.ShotPick);
   const int doubled = DoubleOf(man, man.ShotPick);
   const int passing = BallHandler().RatePassing;
