@@ -11,9 +11,8 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-std::string Of(int made, int tried) { return Str(made) + "-" + Str(tried); }
-int PointsOf(const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }
+constexpr std::size_t kLongestName = 16;  // or the lines of the box are wider than a screen
+
 /// "1", "2", past regulation "OT", "2OT".
 std::string PeriodName(int period) {
   const int extra = period - league.rules.PeriodList;
@@ -67,8 +66,9 @@ std::vector<int> BoxOrder(int side) {
 
 void PrintSide(std::ostream& out, int side) {
   const Side& s = game.side[side];
-  Columns table({"<" + TeamName(game.team[side]), "<Pos", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF",
-                 "St", "Bk", "TO", "+/-", "Pts"});
+  Columns table({"<" + game.team[side].City.Str().substr(0, kLongestName), "<Pos", "Min", "FG", "3P", "FT",
+                 "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "+/-", "Pts"},
+                1);
   StatLine sum;
   int time = 0;
   for (const int slot : BoxOrder(side)) {
@@ -78,7 +78,8 @@ void PrintSide(std::ostream& out, int side) {
     const std::string label = place == s.Starters.end()
                                   ? ""
                                   : league.PositionLabel[static_cast<int>(place - s.Starters.begin()) + 1];
-    table.Row(LineCells(InitialName(p), label, man.PlayerGameTime, p.Stats[3], Signed(man.PlusMinus)));
+    const std::string name = InitialName(p).substr(0, kLongestName);
+    table.Row(LineCells(name, label, man.PlayerGameTime, p.Stats[3], Signed(man.PlusMinus)));
     AddTo(sum, p.Stats[3]);
     time += man.PlayerGameTime;
   }
@@ -89,7 +90,7 @@ void PrintSide(std::ostream& out, int side) {
   table.Print(out, false);
   out << "FG " << Share(sum.FGM, sum.FGA) << ", 3P " << Share(sum.F3M, sum.F3A) << ", FT "
       << Share(sum.FTM, sum.FTA) << "; team rebounds " << s.GameTeamRebounds << ", team turnovers "
-      << s.GameTeamTurnovers << "; fast break " << s.FastbreakPoints << ", bench " << s.BenchPoints
+      << s.GameTeamTurnovers << "\nFast break " << s.FastbreakPoints << ", bench " << s.BenchPoints
       << ", biggest lead " << s.BiggestLead << "\n\n";
 }
 
@@ -102,7 +103,7 @@ void PrintPeriods(std::ostream& out, int last) {
   headings.emplace_back(game.GameOver ? "Final" : "Total");
   Columns table(headings);
   for (int s = 1; s <= 2; ++s) {
-    std::vector<std::string> cells{TeamName(game.team[s])};
+    std::vector<std::string> cells{TeamName(game.team[s]).substr(0, 22)};
     int total = 0;
     for (int p = 1; p <= periods; ++p) {
       total += game.side[s].PeriodScore[p];

@@ -14,7 +14,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
 
 // Depth -------------------------------------------------------------------------------------------------
 

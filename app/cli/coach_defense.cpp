@@ -11,8 +11,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-
 constexpr std::array<std::string_view, 4> kZones{"inside", "outside", "three", "all"};
 constexpr int kAllZones = 3;
 
@@ -119,6 +117,15 @@ Answer MatchAuto(CoachSession& session, DefenseScreen& screen, int on) {
   return Answer::kStays;
 }
 
+Answer MatchByComputer(CoachSession& session, DefenseScreen& screen) {
+  if (!screen.ComputerSuggestMatchupsCommand()) {
+    const bool byRule = !league.rules.AllowComputerManMatchupsCheck;
+    session.Say(std::string(byRule ? "The rules leave the match-ups to you" : "A zone has no match-ups") +
+                ": nothing was searched, each man takes his own position.");
+  }
+  return SaveMatchups(session, screen);
+}
+
 /// Both teams as the plan screen takes them, out of the running game.
 Roster RosterOf(int side) {
   Roster roster;
@@ -153,12 +160,9 @@ int SliderOf(const std::string& said) {
 }
 
 Answer PlanCell(CoachSession& session, PlanScreen& screen, const Words& words) {
-  std::size_t name = words.size();
+  std::size_t name = 1;
   int column = kNoChoice;
-  for (std::size_t first = words.size(); first-- > 2 && column < 0;) {
-    column = ChoiceOf(Joined(words, first), kPlanColumns);
-    if (column >= 0) name = first;
-  }
+  while (column < 0 && ++name < words.size()) column = ChoiceOf(Joined(words, name), kPlanColumns);
   if (column < 0) return session.Refuse("plan cell WHO COLUMN; columns: " + Listed(kPlanColumns) + ".");
   const Found man = FindMan(3 - session.Side(), Joined(words, 1, name));
   if (man.value == 0) return session.Refuse(man.fault);
@@ -175,7 +179,7 @@ Answer PlanSlider(CoachSession& session, PlanScreen& screen, const Words& words)
   if (slider < 0) {
     return session.Refuse(
         std::string(slider == kSeveral ? "More than one slider is called" : "There is no slider") + " \"" +
-        said + "\"; plan lists them with their numbers.");
+        Shortened(said) + "\"; plan lists them with their numbers.");
   }
   const std::string& value = words.back();
   if (value.size() != 1 || !screen.SetSlider(slider, value[0] - '0'))
@@ -227,10 +231,7 @@ Answer DoDefense(CoachSession& session, const Words&) {
 
 Answer DoMatch(CoachSession& session, const Words& words) {
   DefenseScreen screen(session.Side());
-  if (words.size() == 1 && ChoiceOf("computer", std::array<std::string_view, 1>{words[0]}) == 0) {
-    screen.ComputerSuggestMatchupsCommand();
-    return SaveMatchups(session, screen);
-  }
+  if (words.size() == 1 && Squeezed(words[0]) == "computer") return MatchByComputer(session, screen);
   if (words.size() == 2 && Squeezed(words[0]) == "auto") return MatchAuto(session, screen, OnOff(words[1]));
   if (words.size() == 2) return MatchOne(session, screen, words);
   if (words.size() == 5) return MatchAll(session, screen, words);
@@ -287,6 +288,7 @@ Answer DoOrder(CoachSession& session, const Words& words) {
 }
 
 Answer DoSafe(CoachSession& session, const Words& words) {
+  if (words.empty()) return session.Refuse("safe WHO [off].");
   const int on = words.size() > 1 ? OnOff(words.back()) : kNoChoice;
   const Found man = FindMan(session.Side(), Joined(words, 0, words.size() - (on == kNoChoice ? 0 : 1)));
   if (man.value == 0) return session.Refuse(man.fault);

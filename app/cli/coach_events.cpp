@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "cli/coach_words.h"
+#include "narration/incident_lines.h"
 
 namespace tipline::cli {
 namespace {
@@ -14,6 +15,9 @@ std::string_view How(PlayKind kind) {
   if (kind == "DRIVE") return " on the drive";
   if (kind == "FASTBREAK") return " on the break";
   if (kind == "OFFREB") return " on the putback";
+  if (kind == "THREE") return " with a foot on the line";  // it counted two
+  if (kind == "HOLD BALL") return " at the end of the clock";
+  if (kind == "BURN") return " while the clock runs";
   return "";
 }
 
@@ -33,8 +37,8 @@ constexpr Sentence kSentences[] = {
     {"OF", " fouls on offense"},
     {"OB", "~out of bounds"},
     {"REB", "~rebound"},
-    {"LOOSE-OFF", "~keeps the loose ball"},
-    {"LOOSE-DEF", "~loses the loose ball"},
+    {"LOOSE-OFF", " fouls under the basket"},
+    {"LOOSE-DEF", " fouls under the basket"},
     {"NOSHOT", "~no shot before the horn"},
     {"SHOTCLOCK", "~the shot clock runs out"},
     {"DELAY", "~delay of game"},
@@ -57,6 +61,22 @@ constexpr Sentence kSentences[] = {
     {"SHOTSTUCK", "~the ball sticks at the rim"},
 };
 
+/// Why the game stands still.
+std::string Stopped(const PlayLogRow& row) {
+  switch (row.Note) {
+    case kMediaTimeout:
+      return "~media timeout";
+    case kInjuryNote:
+      return " is hurt and leaves the game";
+    case kTechnicalNote:
+      return " is called for a technical foul";
+    case kFightNote:
+      return " and " + ManName(row.OtherSide, row.OtherSlot) + " fight, and both are ejected";
+    default:
+      return "~timeout";
+  }
+}
+
 /// What the man did, behind his name.
 std::string What(const PlayLogRow& row) {
   const PlayResult r = row.Outcome;
@@ -65,7 +85,7 @@ std::string What(const PlayLogRow& row) {
   if (r == "M") return " misses" + std::string(How(row.Action));
   if (r == "MF")
     return " is fouled" + std::string(row.Action == "INSIDE" ? " shooting inside" : How(row.Action));
-  if (r == "TIMEOUT") return row.Note == kMediaTimeout ? "~media timeout" : "~timeout";
+  if (r == "TIMEOUT") return Stopped(row);
   if (IsFloorFoul(r)) return " is fouled";
   for (const Sentence& s : kSentences) {
     if (s.result == r) return std::string(s.words);
@@ -84,15 +104,65 @@ std::string Helped(const PlayLogRow& row) {
     case kStolenBy:
       return ", stolen by " + name;
     case kFouledBy:
-      if (row.OtherSide == row.Side && row.OtherSlot == row.Slot) return "";
-      return row.Outcome == "M" || row.Outcome == "M3" ? "; " + name + " fouls under the basket"
-                                                       : " by " + name;
+      if (row.Outcome == "M" || row.Outcome == "M3") return "; " + name + " fouls under the basket";
+      return row.OtherSide == row.Side && row.OtherSlot == row.Slot ? "" : " by " + name;
     default:
       return "";
   }
 }
 
+/// Clock, score and team, in front of what happened.
+std::string Head(const PlayLogRow& row) {
+  char head[64];
+  std::snprintf(head, sizeof head, "%6s %7s  %-4s", ClockText(row.Clock).c_str(),
+                (std::to_string(row.VisitorScore) + "-" + std::to_string(row.HomeScore)).c_str(),
+                game.team[row.Side].Abbrev.Str().c_str());
+  return head;
+}
+
+bool Is(const PlayLogRow& row, PlayNote note) {
+  return row.Note == note && row.Side == game.incident.Side && row.Slot == game.incident.Slot;
+}
+
+/// The officials looked at this foul, and it was a common one after all.
+bool IsReviewedFoul(const PlayLogRow& row) {
+  const Incident& i = game.incident;
+  return i.FlagrantLevel == 0 && row.Note == kFouledBy && row.OtherSide == i.Side && row.OtherSlot == i.Slot;
+}
+
 }  // namespace
+
+bool IsOfIncident(const PlayLogRow& row) {
+  switch (game.incident.Kind) {
+    case IncidentKind::kNone:
+      return false;
+    case IncidentKind::kShakenUp:
+      return row.Outcome == "SHAKEN-UP";
+    case IncidentKind::kTemporaryInjury:
+    case IncidentKind::kInjury:
+      return Is(row, kInjuryNote);
+    case IncidentKind::kIllegalDefense:
+      return row.Outcome == "ILLEGAL DEFENSE";
+    case IncidentKind::kFight:
+      return Is(row, kFightNote);
+    case IncidentKind::kTechnical:
+      return Is(row, kTechnicalNote);
+    case IncidentKind::kDelay:
+      return row.Outcome == "DELAY";
+    case IncidentKind::kFlagrant:
+      return row.Outcome == "FLAGRANT" || IsReviewedFoul(row);
+  }
+  return false;
+}
+
+std::string IncidentLine(const PlayLogRow& row) {
+  std::string text;
+  for (const std::string& line : IncidentLines()) {
+    if (!text.empty()) text += text.back() == '!' || text.back() == '.' ? " " : ", ";
+    text += line;
+  }
+  return Head(row) + text;
+}
 
 std::string ClockText(int tenths) {
   char text[32];
@@ -107,11 +177,7 @@ std::string ClockText(int tenths) {
 std::string EventLine(const PlayLogRow& row) {
   const std::string what = What(row);
   const std::string who = what[0] == '~' || row.Slot == 0 ? "" : ManName(row.Side, row.Slot);
-  char head[64];
-  std::snprintf(head, sizeof head, "%6s %7s  %-4s", ClockText(row.Clock).c_str(),
-                (std::to_string(row.VisitorScore) + "-" + std::to_string(row.HomeScore)).c_str(),
-                game.team[row.Side].Abbrev.Str().c_str());
-  return head + (who.empty() ? what.substr(1) : who + what) + Helped(row);
+  return Head(row) + (who.empty() ? what.substr(1) : who + what) + Helped(row);
 }
 
 }  // namespace tipline::cli

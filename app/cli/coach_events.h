@@ -9,6 +9,11 @@ namespace tipline::cli {
 /// A row of the play log: clock, score, team, and who did what with whose help.
 std::string EventLine(const PlayLogRow& row);
 
+/// The row is the one that `game.incident` left: what interrupted the last play.
+bool IsOfIncident(const PlayLogRow& row);
+/// Its row in the announcer's words. Draws them from what is only for show.
+std::string IncidentLine(const PlayLogRow& row);
+
 /// "8:42", in the last minute "0:08.4".
 std::string ClockText(int tenths);
 

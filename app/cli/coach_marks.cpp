@@ -12,7 +12,16 @@ int TenthsOf(std::string_view word) {
   constexpr std::array<std::string_view, 4> kLong{"six", "two", "one", "30"};
   constexpr int kTenths[] = {3600, 1200, 600, 300};
   for (std::size_t i = 0; i < kShort.size(); ++i) {
-    if (word == kShort[i] || Squeezed(word) == kLong[i] || word == kShort[i].substr(1)) return kTenths[i];
+    if (word == kShort[i] || Squeezed(word) == kLong[i]) return kTenths[i];  // ":30" is a short "30"
+  }
+  return 0;
+}
+
+/// 1 to 4 for "2nd" or "2"; 0 for anything else.
+int PeriodOf(std::string_view said) {
+  constexpr std::array<std::string_view, 4> kNth{"1st", "2nd", "3rd", "4th"};
+  for (std::size_t i = 0; i < kNth.size(); ++i) {
+    if (said == kNth[i] || said == kNth[i].substr(0, 1)) return static_cast<int>(i) + 1;
   }
   return 0;
 }
@@ -34,8 +43,8 @@ WatchUntil ReadMark(const Words& words, int period) {
       below = tenths;
     } else if (said == "end") {
       below = 1;
-    } else if (!said.empty() && said[0] >= '1' && said[0] <= '4' && (said.size() == 1 || said.size() == 3)) {
-      period = said[0] - '0';
+    } else if (const int named = PeriodOf(said)) {
+      period = named;
     } else if (said != "period" && said != "minutes" && said != "minute" && said != "seconds") {
       return mark;
     }

@@ -1,4 +1,7 @@
 // Commands about the men: substitutions, line-ups, the jumper, box and figures; and the end of it all.
+#include <algorithm>
+#include <vector>
+
 #include "cli/box_score.h"
 #include "cli/coach_screen.h"
 #include "cli/coach_table.h"
@@ -15,13 +18,22 @@ std::string FiveOf(int side) {
 
 bool IsPosition(const std::string& word) { return word.size() == 1 && word[0] >= '1' && word[0] <= '5'; }
 
-/// "2 #7 3 #8": each man behind his position.
-bool ArePairs(const Words& words) {
-  if (words.size() < 4 || words.size() % 2 != 0) return false;
-  for (std::size_t i = 0; i < words.size(); i += 2) {
-    if (!IsPosition(words[i])) return false;
+struct Pair {
+  int position;
+  std::string man;
+};
+
+/// "2 #7 3 John Smith": each man behind his position. None when the words don't begin with a position.
+std::vector<Pair> PairsOf(const Words& words) {
+  std::vector<Pair> pairs;
+  for (std::size_t at = 0; at < words.size();) {
+    if (!IsPosition(words[at])) return {};
+    std::size_t end = std::min(at + 2, words.size());  // the man may go by his own position
+    while (end < words.size() && !IsPosition(words[end])) ++end;
+    pairs.push_back({words[at][0] - '0', Joined(words, at + 1, end)});
+    at = end;
   }
-  return true;
+  return pairs;
 }
 
 Answer SubOne(CoachSession& session, const Words& words) {
@@ -42,13 +54,14 @@ Answer SubOne(CoachSession& session, const Words& words) {
   return Answer::kStays;
 }
 
-Answer SubMany(CoachSession& session, const Words& words) {
+Answer SubMany(CoachSession& session, const std::vector<Pair>& pairs) {
   const int side = session.Side();
   HCQUICKSUB panel(side);
-  for (std::size_t i = 0; i < words.size(); i += 2) {
-    const Found man = FindMan(side, words[i + 1]);
+  for (const Pair& pair : pairs) {
+    if (pair.man.empty()) return session.Refuse("Who plays position " + std::to_string(pair.position) + "?");
+    const Found man = FindMan(side, pair.man);
     if (man.value == 0) return session.Refuse(man.fault);
-    if (!panel.PutIn(words[i][0] - '0', man.value)) return Answer::kRefused;
+    if (!panel.PutIn(pair.position, man.value)) return Answer::kRefused;
   }
   if (!panel.Ok()) return Answer::kRefused;
   session.Say("On the floor: " + FiveOf(side) + ".");
@@ -63,7 +76,19 @@ Answer DoSub(CoachSession& session, const Words& words) {
     return Answer::kStays;
   }
   if (words.size() == 1) return session.Refuse("sub POSITION MAN; sub alone shows the bench.");
-  return ArePairs(words) ? SubMany(session, words) : SubOne(session, words);
+  const std::vector<Pair> pairs = PairsOf(words);
+  return pairs.size() > 1 ? SubMany(session, pairs) : SubOne(session, words);
+}
+
+Answer DoBench(CoachSession& session, const Words& words) {
+  if (words.empty()) {
+    PrintBench(session.Out(), session.Side());
+  } else if (Squeezed(Joined(words)) == "ratings") {
+    PrintBenchRatings(session.Out(), session.Side());
+  } else {
+    return session.Refuse("bench, or bench ratings.");
+  }
+  return Answer::kStays;
 }
 
 Answer DoLineup(CoachSession& session, const Words& words) {

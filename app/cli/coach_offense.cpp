@@ -1,4 +1,5 @@
 // Commands that run the game: the attack, the answer to a call, timeouts, how far the computer goes on.
+#include <algorithm>
 #include <array>
 
 #include "cli/coach_marks.h"
@@ -15,7 +16,7 @@ std::string Handler() { return ManName(game.OffenseSide, game.BallPlayer); }
 
 constexpr std::array<std::string_view, 9> kCallKinds{
     "any", "inside", "outside", "three", "drive", "goto", "pick and roll", "force three", "hold ball"};
-constexpr int kPickCall = 6, kHoldCall = 8, kAnybodyHolds = 6;
+constexpr int kInsideCall = 1, kPickCall = 6, kHoldCall = 8, kAnybodyHolds = 6;
 
 constexpr std::array<std::string_view, 7> kDefenseCalls{"",      "off",  "loose",      "normal",
                                                         "tight", "foul", "double team"};
@@ -51,8 +52,9 @@ bool ReadCall(CoachSession& session, Words words, Call& call) {
   Words lob = TakenFrom(words, "alley", alley);
   if (words.size() > 1 && Squeezed(words.back()) == "force") words.pop_back(), force = true;
   if (!lob.empty() && Squeezed(lob.back()) == "force") lob.pop_back(), force = true;
-  std::size_t used = words.size() > 1 && ChoiceOf(Joined(words, 0, 2), kCallKinds) >= 0 ? 2 : 1;
-  const int kind = words.empty() ? kNoChoice : ChoiceOf(Joined(words, 0, used), kCallKinds);
+  std::size_t used = std::min<std::size_t>(words.size(), 3) + 1;  // "pick and roll" has three words
+  int kind = kNoChoice;
+  while (kind < 0 && --used > 0) kind = ChoiceOf(Joined(words, 0, used), kCallKinds);
   if (kind < 0) {
     session.Refuse("Call what? " + Listed(kCallKinds) + ".");
     return false;
@@ -73,6 +75,8 @@ std::string FaultOf(const Call& call) {
   if (call.CallKind == kPickCall && call.CallPlayer == game.BallSlot && call.CallPlayer > 0)
     return Handler() + " has the ball: name another man to set the pick.";
   if (call.CallForce && (call.CallPlayer < 1 || call.CallPlayer > kPositions)) return "Force it to whom?";
+  if (call.CallForce && call.CallKind != kInsideCall) return "Only an inside play can be forced.";
+  if (call.CallAlleyOop && call.CallKind == 0) return "A lob needs a kind of play.";
   if (call.CallAlleyOop && call.CallAlleyPlayer == 0) return "A lob to whom?";
   if (call.CallKind == 0 && call.CallPlayer == 0) return "Call a kind of play, a man, or both.";
   return "";
@@ -100,15 +104,15 @@ void SetFocus(int side, int focus) {
   game.side[side].TimeoutFocus.Set(TimeoutFocusWords::kTexts[static_cast<std::size_t>(focus)]);
 }
 
-Answer ListMarks(CoachSession& session) {
+/// The marks that are ahead, one behind the other; "" for none.
+std::string MarksAhead() {
   std::string text;
   for (const auto word : WatchUntilWords::kTexts) {
     WatchUntil mark;
     mark.Set(word);
     if (Ahead(mark, game.Period, game.GameClock)) text += (text.empty() ? "" : "; ") + std::string(word);
   }
-  session.Say(text.empty() ? "No mark is ahead of us." : "Marks ahead: " + text + ".");
-  return Answer::kStays;
+  return text;
 }
 
 }  // namespace
@@ -141,15 +145,25 @@ Answer DoQuickPass(CoachSession& session, const Words& words) {
   if (position == 0) return Answer::kRefused;
   if (position == game.BallSlot) return session.Refuse(Handler() + " has the ball.");
   game.possession.QuickPassTarget = position;
-  const std::string target = ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[position]);
-  return session.GoOn("Quick pass to " + target + ".", QuickPassChosen);
+  const int slot = game.side[game.OffenseSide].Lineup[position];
+  const std::string target = ManName(game.OffenseSide, slot);
+  const Answer answer = session.GoOn("Quick pass to " + target + ".", QuickPassChosen);
+  const bool refused = game.GameState == "OFFENSE" && game.possession.JustQuickPassed &&
+                       game.BallPlayer != slot;  // he looked, and the ball went to somebody else
+  if (refused) session.Say("The pass to " + target + " is not there.");
+  return answer;
 }
 
 Answer DoGrid(CoachSession& session, const Words& words) {
   const int position = Teammate(session, words);
   if (position == 0) return Answer::kRefused;
   const std::string man = ManName(game.OffenseSide, game.side[game.OffenseSide].Lineup[position]);
-  return session.GoOn("A play for " + man + ".", [position] { PlayGridChosen(position); });
+  const int clock = game.GameClock, rows = game.PlayLogCount;
+  const Answer answer = session.GoOn("", [position] { PlayGridChosen(position); });
+  // With the clock running out they don't wait for a play, and the coach is asked again.
+  const bool hurried = game.GameState == "OFFENSE" && game.GameClock == clock && game.PlayLogCount == rows;
+  session.Say(hurried ? "They hurry: the ball goes to " + Handler() + "." : "A play for " + man + ".");
+  return answer;
 }
 
 Answer DoCall(CoachSession& session, const Words& words) {
@@ -169,6 +183,7 @@ Answer DoComputer(CoachSession& session, const Words&) {
   const GameState s = game.GameState;
   if ((s == "OFFENSE" && !BallIsDue()) || s == "OFFREB" || s == "FASTBREAK")
     return session.GoOn("The computer calls the play.", ComputerChosen);
+  if (s == "DEFENSE-CALL") return session.GoOn("The computer answers the call.", ComputerDefenseChosen);
   ComputerDefenseCall(session.Side());
   session.Say("The computer has set your defense.");
   return Answer::kStays;
@@ -205,10 +220,18 @@ Answer DoFocus(CoachSession& session, const Words& words) {
 }
 
 Answer DoAuto(CoachSession& session, const Words& words) {
-  if (words.empty()) return ListMarks(session);
+  const std::string ahead = MarksAhead();
+  if (ahead.empty()) {
+    return session.Refuse(game.Period > league.rules.PeriodList
+                              ? "There are no marks in overtime; delegate leaves your plays to the computer."
+                              : "No mark is ahead of us.");
+  }
+  if (words.empty()) {
+    session.Say("Marks ahead: " + ahead + ".");
+    return Answer::kStays;
+  }
   const WatchUntil mark = ReadMark(words, game.Period);
-  if (!Ahead(mark, game.Period, game.GameClock))
-    return session.Refuse("That is no mark ahead of us; auto alone lists them.");
+  if (!Ahead(mark, game.Period, game.GameClock)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
   return session.GoOn("Both sides play on alone: " + std::string(mark.Text()) + ".", [mark] {
     game.WatchUntil = mark;
     SetPlayBox();

@@ -17,9 +17,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-std::string Of(int made, int tried) { return Str(made) + "-" + Str(tried); }
-int PointsOf(const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }
 int MinutesOf(const Man& man) { return (man.PlayerGameTime + kMinute / 2) / kMinute; }
 
 std::string PeriodText() {
@@ -42,15 +39,53 @@ bool BallIsLive() {
   return s == "OFFENSE" || s == "DEFENSE-CALL" || s == "OFFREB" || s == "FASTBREAK";
 }
 
-/// Who has the ball and where; "" while it is dead or on its way in.
+/// The rebound may go up again, or goes up and the defense is asked.
+bool PutbackIsOn() { return game.PlayKind == "OFFREB" && game.GameState != "OFFENSE"; }
+
+/// The zone from which the man with the ball may shoot: at the offensive board where he stands.
+int BallZone() {
+  return PutbackIsOn() ? game.PutbackClass : ManAt(game.OffenseSide, game.BallPlayer).ShotPick;
+}
+
+/// "At the line: Daly, 2 to shoot, 3-4 today".
+std::string LineOfShooter() {
+  constexpr struct {
+    PlayKind trip;
+    std::string_view words;
+  } kTrips[] = {{"SHOOT3", "3 to shoot"},    {"SHOOT3-2", "3 to make 2"}, {"SHOOT2", "2 to shoot"},
+                {"SHOOT2-1", "2 to make 1"}, {"SHOOT2-2", "2 to make 2"}, {"SHOOT1-1", "one and one"},
+                {"SHOOT1", "1 to shoot"}};
+  const StatLine& line = BallHandler().Stats[3];
+  std::string text = "At the line: " + ManName(game.OffenseSide, game.BallPlayer);
+  for (const auto& t : kTrips) {
+    if (t.trip == game.PlayKind) text += ", " + std::string(t.words);
+  }
+  return text + ", " + Of(line.FTM, line.FTA) + " today";
+}
+
+/// Who jumps: as named, at a period's start the centres.
+std::string LineOfJumpers() {
+  std::string text = "Jump: ";
+  for (int s = 1; s <= 2; ++s) {
+    const Side& side = game.side[s];
+    const bool named = !PeriodOpens() && PositionOf(s, side.JumperOf) > 0;
+    text += (s == 2 ? " and " : "") + ManName(s, named ? side.JumperOf : side.Lineup[kPositions]);
+  }
+  return text;
+}
+
+/// Who has the ball and where, shoots at the line or jumps; "" while it is dead or on its way in.
 std::string BallLine() {
   const int side = game.OffenseSide;
+  if (IsFreeThrow(game.GameState) && game.BallPlayer > 0) return LineOfShooter();
+  if (IsJump(game.GameState)) return LineOfJumpers();
   if (!BallIsLive() || BallIsDue() || PositionOf(side, game.BallPlayer) == 0) return "";
-  const std::string shot = ShotName(ManAt(side, game.BallPlayer).ShotPick);
+  const std::string shot = ShotName(BallZone());
   const int position = PositionOf(side, game.BallPlayer);
   std::string line = "Ball: " + ManName(side, game.BallPlayer) + " (" + Place(position) + ")";
   const bool set = game.GameState == "OFFENSE" || game.GameState == "DEFENSE-CALL";
-  if (set && !shot.empty()) line += shot == "three" ? " beyond the arc" : " " + shot;
+  if ((set || game.GameState == "OFFREB") && !shot.empty())
+    line += shot == "three" ? " beyond the arc" : " " + shot;
   if (set) line += ", guarded by " + ManName(game.DefenseSide, GuardOf(position));
   if (game.GameState == "OFFENSE" && QuickPassLabel().back() == '!') line += "; " + QuickPassLabel();
   return line;
@@ -72,10 +107,33 @@ void PrintAttack(std::ostream& out, int side) {
   table.Print(out, false);
 }
 
-/// The attacker whom the man at a position guards, 0 for none.
-int ManGuardedBy(int side, int position) {
+/// The five who run, or fight under the basket: what the set before had open counts no more.
+void PrintLooseBall(std::ostream& out, int side) {
+  const bool run = game.GameState == "FASTBREAK";
+  Columns table({"<", "<" + game.team[side].City.Str().substr(0, 16), run ? "<Break" : "<Shot",
+                 run ? "Fast" : "Rtg", "Eng", "PF", "Pts", "FG"});
   for (int p = 1; p <= kPositions; ++p) {
-    if (game.side[side].StoredMatchup[p] == position) return game.side[3 - side].Lineup[p];
+    const int slot = game.side[side].Lineup[p];
+    if (slot == 0) continue;
+    const PlayerRecord& record = PlayerAt(side, slot);
+    const Man& man = ManAt(side, slot);
+    const bool has = slot == game.BallPlayer;
+    const int rating = run ? record.RateOffFastbreak : RatingFor(record, game.PutbackClass);
+    table.Row({Place(p), (has ? "*" : " ") + ManName(side, slot),
+               run   ? man.InBreak ? "runs" : ""
+               : has ? ShotName(game.PutbackClass)
+                     : "",
+               run || has ? Str(rating) : "", Str(man.Energy), Str(record.Stats[3].Pf),
+               Str(PointsOf(record.Stats[3])), Of(record.Stats[3].FGM, record.Stats[3].FGA)});
+  }
+  table.Print(out, false);
+}
+
+/// The attacker whom the man at a position guards, 0 for none. In a live play a switch counts.
+int ManGuardedBy(int side, int position) {
+  const auto& match = BallIsLive() ? game.side[side].Matchup : game.side[side].StoredMatchup;
+  for (int p = 1; p <= kPositions; ++p) {
+    if (match[p] == position) return game.side[3 - side].Lineup[p];
   }
   return 0;
 }
@@ -91,10 +149,12 @@ void PrintFive(std::ostream& out, int side) {
     const Man& man = ManAt(side, slot);
     const StatLine& line = PlayerAt(side, slot).Stats[3];
     const int other = ManGuardedBy(side, p);
+    const int zone = other == game.BallPlayer ? BallZone()
+                     : PutbackIsOn()          ? 0
+                                              : ManAt(3 - side, other).ShotPick;
     table.Row({Place(p), " " + ManName(side, slot), Str(man.Energy), Str(line.Pf), Str(MinutesOf(man)),
                Str(PointsOf(line)), ManName(3 - side, other),
-               Str(PointsOf(PlayerAt(3 - side, other).Stats[3])),
-               attacked ? ShotName(ManAt(3 - side, other).ShotPick) : ""});
+               Str(PointsOf(PlayerAt(3 - side, other).Stats[3])), attacked ? ShotName(zone) : ""});
   }
   table.Print(out, false);
 }
@@ -158,8 +218,10 @@ void PrintFloor(std::ostream& out) {
   if (!ball.empty()) out << Plain(ball) << '\n';
   const int side = game.ActingSide;
   const bool attacks = side == game.OffenseSide && !BallIsDue() && BallIsLive();
-  if (attacks) {
+  if (attacks && game.GameState == "OFFENSE") {
     PrintAttack(out, side);
+  } else if (attacks) {
+    PrintLooseBall(out, side);
   } else {
     PrintFive(out, side);
   }
@@ -174,6 +236,20 @@ void PrintBench(std::ostream& out, int side) {
     table.Row({"#" + Str(slot), ManName(side, slot), Positions(p), Str(ManAt(side, slot).Energy), Str(s.Pf),
                Str(MinutesOf(ManAt(side, slot))), Str(PointsOf(s)), Str(s.Reb), Str(s.Ast),
                Str(p.RateOffense / 10), BenchStatus(side, slot)});
+  }
+  table.Print(out, false);
+}
+
+void PrintBenchRatings(std::ostream& out, int side) {
+  Columns table(
+      {"#", "<Bench", "In", "Out", "Drv", "3P", "Fast", "Pass", "OReb", "DReb", "D-Out", "D-In", "D-To"}, 1);
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(side, slot) || PositionOf(side, slot) > 0) continue;
+    const PlayerRecord& p = PlayerAt(side, slot);
+    table.Row({"#" + Str(slot), ManName(side, slot), Str(p.RateOffInside), Str(p.RateOffOutside),
+               Str(p.RateOffDrive), Str(p.RateOffThree), Str(p.RateOffFastbreak), Str(p.RatePassing),
+               Str(p.RateRebOff), Str(p.RateRebDef), Str(p.RateDefOutside), Str(p.RateDefInside),
+               Str(p.RateDefForce)});
   }
   table.Print(out, false);
 }

@@ -8,12 +8,16 @@ namespace tipline::cli {
 /// Teams, score, period, clock, shot clock, fouls, timeouts and possession in one line.
 std::string ScoreLine();
 
-/// The ball and the five of the acting side: on offense with the shot each has open, his rating for it, his
-/// option and energy, on defense with the man he guards.
+/// The ball, the free-throw shooter or the jumpers, and the five of the acting side: on offense with the shot
+/// each has open, his rating for it, his option and energy, in a break who runs, at the offensive board the
+/// shot of the man who has the ball; on defense with the man each guards.
 void PrintFloor(std::ostream& out);
 
 /// The men who sit, with what a coach asks before he sends one in.
 void PrintBench(std::ostream& out, int side);
+
+/// What they can do, in ratings.
+void PrintBenchRatings(std::ostream& out, int side);
 
 /// The two teams beside each other.
 void PrintTeams(std::ostream& out);

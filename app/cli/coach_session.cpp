@@ -16,6 +16,27 @@ namespace {
 
 constexpr std::size_t kScreenWidth = 79;
 
+/// What unchecks the settings that a refusal names.
+constexpr struct {
+  std::string_view setting, command;
+} kUnchecks[] = {{"'Auto Sub When Tired'", " (set tired off)"},
+                 {"'Auto Sub When In Foul Trouble'", " (set foultrouble off)"}};
+
+bool BothCoached() { return game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H"; }
+
+/// A pace, or orders for the end of a game, that hold to the end of the period only.
+bool HasOrders(const tipline::Side& s) {
+  return s.OffensePace != 2 || s.LastShot || s.QuickFoul || s.StealFoul || s.NoFoul || s.TimeoutOffense ||
+         s.TimeoutDefense;
+}
+
+/// The last row behind `told` that what interrupted the last play has left; 0 for none.
+int RowOfIncident(int told) {
+  int n = game.PlayLogCount;
+  while (n > told && !IsOfIncident(game.PlayLog[n])) --n;
+  return n > told ? n : 0;
+}
+
 using Five = Table<int, 1, kPositions>;
 
 /// Names of the men of one five who are not in the other.
@@ -58,7 +79,11 @@ void CoachSession::Say(std::string_view text, std::size_t blanks) {
 void CoachSession::Tell(std::string_view message, std::string_view) {
   refused_ = true;
   out_.flush();
-  err_ << Plain(std::string(message)) << std::endl;
+  std::string text(message);
+  for (const auto& u : kUnchecks) {
+    if (message.find(u.setting) != std::string_view::npos) text += u.command;
+  }
+  err_ << Plain(text) << std::endl;
 }
 
 Answer CoachSession::Refuse(std::string_view reason) {
@@ -94,14 +119,33 @@ std::optional<std::string> CoachSession::NextLine(std::string_view prompt) {
 void CoachSession::TellPeriodEnd(int period) {
   out_ << '\n';
   PrintPeriods(out_, period);
+  if (!game.GameOver) TellOrdersGone();
+}
+
+void CoachSession::TellOrdersGone() {
+  for (int side = 1; side <= 2; ++side) {
+    if (orders_[side] && game.side[side].CoachMode == "H")
+      Say((BothCoached() ? ShortTeam(side) + ": " : "") + "Pace and end-of-game orders are back to normal.");
+    orders_[side] = false;
+  }
+}
+
+/// The announcer has the word where a play was interrupted; a foul that the officials looked at is told
+/// first.
+void CoachSession::TellRow(int n, bool incident) {
+  const PlayLogRow& row = game.PlayLog[n];
+  if (!incident || row.Note == kFouledBy) Say(EventLine(row));
+  if (incident) Say(IncidentLine(row));
 }
 
 void CoachSession::TellSinceLastStop() {
   if (toldRows_ < game.PlayLogCount) out_ << '\n';
+  // Only the last incident is known whole; one that others followed is told by its row.
+  const int incident = RowOfIncident(toldRows_);
   while (toldRows_ < game.PlayLogCount) {
-    const PlayLogRow& row = game.PlayLog[++toldRows_];
-    for (; toldPeriod_ < row.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
-    Say(EventLine(row));
+    ++toldRows_;
+    for (; toldPeriod_ < game.PlayLog[toldRows_].Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
+    TellRow(toldRows_, toldRows_ == incident);
   }
   for (; toldPeriod_ < game.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
   TellChanges();
@@ -122,8 +166,7 @@ void CoachSession::ShowTheStop() {
   const std::string score = Plain(ScoreLine());
   out_ << '\n' << (manner_.bold ? "\033[1m" + score + "\033[0m" : score) << '\n';
   PrintFloor(out_);
-  const bool both = game.side[1].CoachMode == "H" && game.side[2].CoachMode == "H";
-  Say((both ? "[" + game.team[Side()].Abbrev.Str() + "] " : "") + Prompt());
+  Say((BothCoached() ? "[" + game.team[Side()].Abbrev.Str() + "] " : "") + Prompt());
   bool& shown = shown_[game.GameState.Index()];
   if (!shown) {  // once for each kind of stop
     Say(OpenCommands());
@@ -136,10 +179,11 @@ Answer CoachSession::Obey(const std::string& line) {
   Words words = SplitWords(line);
   if (words.empty()) words = SplitWords(PlainCommand());
   const Command* command = FindCommand(words[0]);
-  if (!command) return Refuse("There is no command \"" + words[0] + "\". " + OpenCommands());
+  if (!command) return Refuse("There is no command \"" + Shortened(words[0]) + "\". " + OpenCommands());
   if (!command->open()) return Refuse(WhyClosed(*command));
   words.erase(words.begin());
   refused_ = false;
+  for (int side = 1; side <= 2; ++side) orders_[side] = HasOrders(game.side[side]);
   const Answer answer = command->run(*this, words);
   if (answer == Answer::kStays) fives_[Side()] = game.side[Side()].Lineup;  // his own changes were told
   return answer;

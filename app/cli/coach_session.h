@@ -69,6 +69,8 @@ class CoachSession : private platform::Dialogs {
   /// Everything that happened between two stops, in its order.
   void TellSinceLastStop();
   void TellPeriodEnd(int period);
+  void TellOrdersGone();
+  void TellRow(int n, bool incident);
   void TellChanges();
   void ShowTheStop();
   Answer TakeCommand();
@@ -84,6 +86,7 @@ class CoachSession : private platform::Dialogs {
   int toldRows_ = 0;                          ///< rows of the play log that were told
   int toldPeriod_ = 1;                        ///< periods whose score was told, plus one
   Table2<int, 1, 2, 1, kPositions> fives_{};  ///< who was on the floor when it was last told
+  Table<bool, 1, 2> orders_{};                ///< sides with orders that a period's end takes back
   bool refused_ = false;
   std::array<bool, std::size(GameStateWords::kTexts)> shown_{};  ///< states whose commands were named
 };

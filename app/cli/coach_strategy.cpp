@@ -1,5 +1,6 @@
 // Commands for how a side plays: zone, help, press, pace, boards; and the list of commands, which shares the
 // word "help".
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -54,6 +55,14 @@ void Explain(CoachSession& session, const Command& c) {
   session.Say("  For example: " + examples + ".");
 }
 
+/// The whole first word of a caption: a part of one is more likely a command mistyped.
+bool BeginsHelpDefense(const std::string& word) {
+  const auto captions = StrategyCaptions(StrategyList::kHelp);
+  return std::any_of(captions.begin(), captions.end(), [&word](std::string_view caption) {
+    return Squeezed(SplitWords(caption)[0]) == Squeezed(word);
+  });
+}
+
 void ListCommands(CoachSession& session, bool all) {
   for (const Command& c : Commands()) {
     if (!all && !c.open()) continue;
@@ -93,8 +102,10 @@ void ListChecks(CoachSession& session, const DefenseScreen& screen) {
                   screen.*c.value ? "on" : "off");
     session.Say(head + std::string(c.caption));
   }
-  session.Say("  quickfoul       " + std::string(kFoulWords[static_cast<std::size_t>(screen.QuickFoulList)]) +
-              " shooter is fouled at once (none, any, poor)");
+  char head[40];
+  std::snprintf(head, sizeof head, "  %-15s %-4s ", "quickfoul",
+                std::string(kFoulWords[static_cast<std::size_t>(screen.QuickFoulList)]).c_str());
+  session.Say(head + std::string("foul a shooter at once: ") + Listed(kFoulWords));
 }
 
 Answer Save(CoachSession& session, DefenseScreen& screen, const std::string& what) {
@@ -146,9 +157,12 @@ Answer DoHelp(CoachSession& session, const Words& words) {
     ListCommands(session, !words.empty());
     return Answer::kStays;
   }
+  if (BeginsHelpDefense(words[0])) return SetList(session, StrategyList::kHelp, said, "");
   const Command* command = FindCommand(words[0]);
-  const bool helpDefense = Choice(said, StrategyList::kHelp, "") >= 0;
-  if (helpDefense || !command) return SetList(session, StrategyList::kHelp, said, "");
+  if (!command) {
+    return session.Refuse("There is no command \"" + Shortened(words[0]) +
+                          "\"; help defense goes: " + Listed(StrategyCaptions(StrategyList::kHelp)) + ".");
+  }
   Explain(session, *command);
   return Answer::kStays;
 }
@@ -183,7 +197,7 @@ Answer DoSet(CoachSession& session, const Words& words) {
     screen.*c.value = on == 1;
     return Save(session, screen, std::string(on ? "On: " : "Off: ") + std::string(c.caption) + ".");
   }
-  return session.Refuse("There is no setting \"" + words[0] + "\"; set alone lists them.");
+  return session.Refuse("There is no setting \"" + Shortened(words[0]) + "\"; set alone lists them.");
 }
 
 }  // namespace tipline::cli

@@ -33,7 +33,8 @@ constexpr Command kCommands[] = {
     {"grid", "g", "WHO", "a play for this man, the better his option the likelier it works", "2;C", Attack, DoGrid},
     {"call", "", "KIND [WHO] [force] [alley [WHO]]",
      "a play: inside, outside, three, drive, goto, pick, force three, hold or any",
-     "inside 5;inside 5 force;pick 4 force;three;goto 2;hold;force three 1;drive 1;any 3;inside 5 alley;outside alley 4",
+     "inside 5;inside 5 force;pick 4;pick and roll 4;three;goto 2;hold;force three 1;drive 1;any 3;inside 5 alley;"
+     "outside alley 4",
      Attack, DoCall},
     {"burn", "b", "", "run time off the clock", "", Attack, DoBurn},
     {"def", "", "off | loose | normal | tight | double | foul", "how to guard the ball in this play",
@@ -74,14 +75,14 @@ constexpr Command kCommands[] = {
      "3 three;3 normal;1 outside", Always, DoOrder},
     {"safe", "", "WHO [off]", "your man stays out of foul trouble", "4;4 off", Always, DoSafe},
     {"plan", "", "[SLIDER 0-4 | computer | clear | against | cell WHO COLUMN]", "the game plan in force",
-     ";Drive 3;15 2;against;cell 1 inside;computer;clear;Use Zones 4", Always, DoPlan},
+     ";Drive 3;15 2;against;cell 1 inside;cell 1 Dbl In;computer;clear;Use Zones 4", Always, DoPlan},
 
     {"sub", "", "[POSITION MAN ...]", "send men in; alone, the bench", ";1 6;2 #7 3 #8;1 #1 2 #2 3 #3 4 #4 5 #5",
      BallIsDead, DoSub},
     {"lineup", "l", "NAME", "starters, blowout, offense, three, free throw, fastbreak, defense or press",
      "press;starters;free throw;offense", BallIsDead, DoLineup},
     {"jumper", "", "WHO", "who jumps", "5;4", HeldBall, DoJumper},
-    {"bench", "", "", "who sits", "", Always, [](CoachSession& session, const Words&) { return DoSub(session, {}); }},
+    {"bench", "", "[ratings]", "who sits, and what they can do", ";ratings", Always, DoBench},
     {"box", "", "", "the box so far", "", Always, DoBox},
     {"stats", "", "[MAN]", "the two teams; one man's game, season and ratings", ";5;1", Always, DoStats},
     {"quit", "", "", "leave the game unfinished", "", Always, DoQuit},
@@ -125,7 +126,8 @@ std::string WhyClosed(const Command& command) {
 std::string_view PlainCommand() {
   if (CanContinue()) return "continue";
   if (game.GameState == "FREETHROW-SHOOT") return "shoot";
-  return game.GameState == "DEFENSE-CALL" ? "def normal" : "computer";
+  const bool asked = game.GameState == "DEFENSE-CALL" && !game.side[game.ActingSide].BothDefenses;
+  return asked ? "def normal" : "computer";
 }
 
 }  // namespace tipline::cli

@@ -69,6 +69,7 @@ Answer DoPlan(CoachSession&, const Words&);
 Answer DoSub(CoachSession&, const Words&);
 Answer DoLineup(CoachSession&, const Words&);
 Answer DoJumper(CoachSession&, const Words&);
+Answer DoBench(CoachSession&, const Words&);
 Answer DoBox(CoachSession&, const Words&);
 Answer DoStats(CoachSession&, const Words&);
 Answer DoQuit(CoachSession&, const Words&);

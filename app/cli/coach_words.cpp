@@ -58,7 +58,7 @@ int NameFit(const PlayerRecord& p, const std::string& said) {
 template <class ManAt>
 Found ByName(ManAt manAt, std::string_view said) {
   const std::string name = Squeezed(said);
-  const std::string nobody = "Nobody on the team answers to \"" + std::string(said) + "\".";
+  const std::string nobody = "Nobody on the team answers to \"" + Shortened(said) + "\".";
   if (name.empty()) return {0, nobody};
   int best = 0;
   Words found;
@@ -141,6 +141,14 @@ std::string Listed(std::span<const std::string_view> choices) {
     if (!choice.empty()) text += (text.empty() ? "" : ", ") + std::string(choice);
   }
   return text;
+}
+
+std::string Shortened(std::string_view said) {
+  constexpr std::size_t kMost = 30;
+  if (said.size() <= kMost) return std::string(said);
+  std::size_t cut = kMost;
+  while (cut > 0 && (static_cast<unsigned char>(said[cut]) & 0xC0) == 0x80) --cut;  // between two letters
+  return std::string(said.substr(0, cut)) + "..";
 }
 
 int OnOff(std::string_view said) {

@@ -26,6 +26,9 @@ int ChoiceOf(std::string_view said, std::span<const std::string_view> choices);
 /// "a, b, c".
 std::string Listed(std::span<const std::string_view> choices);
 
+/// What was typed, cut where it is too long to be shown in a refusal.
+std::string Shortened(std::string_view said);
+
 /// 1 for "on", 0 for "off", kNoChoice for anything else.
 int OnOff(std::string_view said);
 

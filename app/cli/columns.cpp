@@ -8,7 +8,28 @@
 
 namespace tipline::cli {
 
-Columns::Columns(std::vector<std::string> headings) : headings_(std::move(headings)) {
+namespace {
+
+/// Bytes of the UTF-8 character that begins at `at`; 1 for a byte that begins none.
+std::size_t CharacterLength(std::string_view text, std::size_t at) {
+  const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0; };
+  const int lead = byte(at), second = byte(at + 1);
+  std::size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
+                       : lead >= 0xE0 && lead <= 0xEF ? 3
+                       : lead >= 0xF0 && lead <= 0xF4 ? 4
+                                                      : 1;
+  if ((lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90))
+    length = 1;  // a longer way to say it
+  for (std::size_t i = 1; i < length; ++i) {
+    if (byte(at + i) < 0x80 || byte(at + i) > 0xBF) return 1;
+  }
+  return length;
+}
+
+}  // namespace
+
+Columns::Columns(std::vector<std::string> headings, std::size_t gap)
+    : headings_(std::move(headings)), gap_(gap) {
   for (auto& heading : headings_) {
     left_.push_back(!heading.empty() && heading[0] == '<');
     if (left_.back()) heading.erase(0, 1);
@@ -21,7 +42,7 @@ void Columns::PrintLine(std::ostream& out, const std::vector<std::string>& cells
   for (std::size_t i = 0; i < cells.size(); ++i) {
     const std::string blanks(widths[i] - std::min(widths[i], cells[i].size()), ' ');
     line += left_[i] ? cells[i] + blanks : blanks + cells[i];
-    if (i + 1 < cells.size()) line += "  ";
+    if (i + 1 < cells.size()) line.append(gap_, ' ');
   }
   line.erase(line.find_last_not_of(' ') + 1);
   out << Plain(std::move(line)) << '\n';
@@ -45,7 +66,7 @@ void Columns::Print(std::ostream& out, bool csv) const {
     std::size_t width = headings_[i].size();
     for (const auto& row : rows_) width = i < row.size() ? std::max(width, row[i].size()) : width;
     widths.push_back(width);
-    total += width + (i ? 2 : 0);
+    total += width + (i ? gap_ : 0);
   }
   PrintLine(out, headings_, widths);
   for (const auto& row : rows_) {
@@ -69,8 +90,13 @@ std::string Share(int made, int tried) {
 }
 
 std::string Plain(std::string text) {
-  for (char& c : text) {
-    if (static_cast<unsigned char>(c) < 32 || c == 127) c = '?';
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t length = CharacterLength(text, at);
+    const int last = static_cast<unsigned char>(text[at + length - 1]);
+    const bool steers = length == 1 ? last < 32 || (last >= 127 && last < 160)
+                                    : length == 2 && text[at] == '\xC2' && last < 160;
+    if (steers) text.replace(at, length, length, '?');
+    at += length;
   }
   return text;
 }

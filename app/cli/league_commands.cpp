@@ -20,7 +20,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
 
 std::string HeightText(const PlayerRecord& p) { return Str(p.HeightFeet) + "-" + Str(p.HeightInches); }
 

@@ -97,7 +97,7 @@ void AddPlay(CLI::App& app, Arguments& a) {
   play->add_option(
           "--calls", a.play.Calls,
           "plays that you are asked for: none, default (more when it counts) or all; without it your "
-          "preferences, at first all")
+          "preferences, at first default")
       ->check(CLI::IsMember({"none", "default", "all"}));
   play->add_option("--date", a.play.Date, "date of the game, MM-DD (default: 10-01)");
   play->add_flag("--neutral", a.play.Neutral, "on a neutral court");

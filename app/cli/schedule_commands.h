@@ -29,10 +29,4 @@ int EditSchedule(const std::string& what, const ScheduleArguments& a, const Comm
 int ListSchedules(const ScheduleArguments& a, const Common& common);
 int NameSchedule(const ScheduleArguments& a, bool rename, const Common& common);
 
-struct MonthDay {
-  int month = 0, day = 0;
-};
-/// "MM-DD"; false, told, for any other text and for days that no month has.
-bool ReadDate(const std::string& text, MonthDay& date);
-
 }  // namespace tipline::cli

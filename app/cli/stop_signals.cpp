@@ -29,7 +29,7 @@ extern "C" void Stopped(int signal) {
 
 void CloseOnSignals(const std::string& statusFile) {
   std::strncpy(closedFile, statusFile.c_str(), sizeof closedFile - 1);
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, Stopped);
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE}) std::signal(signal, Stopped);
 }
 
 }  // namespace tipline::cli

@@ -4,8 +4,8 @@
 
 namespace tipline::cli {
 
-/// From now on SIGINT, SIGTERM and SIGHUP write "Closed" to this file and end the program with exit code 128
-/// + signal (130 for Ctrl-C).
+/// From now on SIGINT, SIGTERM, SIGHUP, SIGQUIT and SIGPIPE write "Closed" to this file and end the program
+/// with exit code 128 + signal (130 for Ctrl-C).
 void CloseOnSignals(const std::string& statusFile);
 
 }  // namespace tipline::cli

@@ -20,7 +20,7 @@ void ComputerSideReview(int side);
 /// Both reviews of a stop, and the new look at the defense that follows some results.
 void ComputerReviews();
 /// The stored man-to-man assignments of a side: position against position, or, while man-to-man is played,
-/// the best of all 120.
-void ComputerSetMatchups(int side);
+/// the best of all 120. True when it has searched; for a human the rules must allow it.
+bool ComputerSetMatchups(int side);
 
 }  // namespace tipline

@@ -52,11 +52,11 @@ Values MatchupValues(int side) {
 
 }  // namespace
 
-void ComputerSetMatchups(int side) {
+bool ComputerSetMatchups(int side) {
   Table<int, 1, kPositions>& stored = game.side[side].StoredMatchup;
   stored = {{1, 2, 3, 4, 5}};
-  if (Defense().DefenseType != 0) return;
-  if (game.side[side].CoachMode == "H" && !league.rules.AllowComputerManMatchupsCheck) return;
+  if (Defense().DefenseType != 0) return false;
+  if (game.side[side].CoachMode == "H" && !league.rules.AllowComputerManMatchupsCheck) return false;
   const Values values = MatchupValues(side);
   std::array<int, kPositions> guards{1, 2, 3, 4, 5};
   double best = 0;
@@ -67,6 +67,7 @@ void ComputerSetMatchups(int side) {
     best = sum;
     std::copy(guards.begin(), guards.end(), stored.begin());
   } while (std::next_permutation(guards.begin(), guards.end()));
+  return true;
 }
 
 }  // namespace tipline

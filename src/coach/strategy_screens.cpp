@@ -39,17 +39,7 @@ int& Setting(int side, StrategyList list) {
   }
 }
 
-int& CoverageOf(Man& man, Zone zone) {
-  return zone == Zone::kInside    ? man.CoverageInside
-         : zone == Zone::kOutside ? man.CoverageOutside
-                                  : man.CoverageThree;
-}
-
-int& DoubleOf(Man& man, Zone zone) {
-  return zone == Zone::kInside    ? man.DoubleTeamInside
-         : zone == Zone::kOutside ? man.DoubleTeamOutside
-                                  : man.DoubleTeamThree;
-}
+int PickOf(Zone zone) { return zone == Zone::kInside ? kInside : zone == Zone::kOutside ? kOutside : kThree; }
 
 bool HasMan(int side, int slot) { return slot >= 1 && slot <= kRosterSlots && OnTeam(side, slot); }
 
@@ -102,12 +92,13 @@ DefenseScreen::DefenseScreen(int forSide) : side(forSide) {
   QuickFoulList = Clamp(s.QuickFoul, 0, 2);
 }
 
-void DefenseScreen::ComputerSuggestMatchupsCommand() {
+bool DefenseScreen::ComputerSuggestMatchupsCommand() {
   Table<int, 1, kPositions>& inForce = game.side[side].StoredMatchup;
   const Table<int, 1, kPositions> kept = inForce;
-  ComputerSetMatchups(side);
+  const bool searched = ComputerSetMatchups(side);
   StoredMatchup = inForce;
   inForce = kept;  // a suggestion holds once it is saved
+  return searched;
 }
 
 void DefenseScreen::ComputerCallCommand() {
@@ -119,13 +110,13 @@ bool DefenseScreen::SetCoverage(int slot, Zone zone, int coverage) {
   if (!HasMan(3 - side, slot) || coverage < 1 || coverage > static_cast<int>(kCoverageCaptions.size())) {
     return false;
   }
-  CoverageOf(ManAt(3 - side, slot), zone) = coverage;
+  CoverageOf(ManAt(3 - side, slot), PickOf(zone)) = coverage;
   return true;
 }
 
 bool DefenseScreen::SetDoubleTeam(int slot, Zone zone, bool doubled) {
   if (!HasMan(3 - side, slot)) return false;
-  DoubleOf(ManAt(3 - side, slot), zone) = doubled;
+  DoubleOf(ManAt(3 - side, slot), PickOf(zone)) = doubled;
   return true;
 }
 

@@ -54,8 +54,9 @@ struct DefenseScreen {
 
   explicit DefenseScreen(int forSide);
 
-  /// The best match-ups by the search of the computer coach, put into the grid.
-  void ComputerSuggestMatchupsCommand();
+  /// The best match-ups by the search of the computer coach, put into the grid. False when it does not search
+  /// (a zone, or the rules leave it to the coach) and puts position against position.
+  bool ComputerSuggestMatchupsCommand();
   /// The computer's whole call for this side: coverage, help, press, zone.
   void ComputerCallCommand();
   /// Coverage 1 "Off" .. 6 "Foul" of the other side's man at a roster slot. False for a value out of range or

@@ -13,6 +13,9 @@ void Pass();
 /// The man at a position gets the ball, where it is empty the next one.
 void GiveBall(int position);
 
+/// A choice at the stop takes the place of the play that was called.
+inline void ForgetCall() { game.call.CallKind = game.call.CallPlayer = 0; }
+
 /// The offense is asked for a play at this stop.
 inline bool AttackIsAsked() {
   const GameState s = game.GameState;

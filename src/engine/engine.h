@@ -56,6 +56,8 @@ void PlayGridChosen(int position);
 void UsePlayNowRoutine();
 /// The defense's answer to a call, `game.call.DefenseCall` 1 to 6.
 void DefensePlayCallChosen();
+/// The defense leaves its answer to the computer, which calls its whole defense.
+void ComputerDefenseChosen();
 /// The human hands this play to the computer.
 void ComputerChosen();
 /// A timeout of the acting side. Nothing when it has none left, one was just taken, or the ball is going up.

@@ -108,6 +108,7 @@ struct Side {
   int TimeoutDefense = 0;  ///< wish: stop it when we have won the ball
   tipline::TimeoutFocus TimeoutFocus;
   int UseRotationGrid = 0, AutoSubWhenTired = 0, AutoSubWhenFoulTrouble = 0, ForcedRotation = 0;
+  int DefenseList = 0;    ///< its last answer to a call of the offense, as `Call::DefenseCall`; 0 none yet
   int BothDefenses = 0;   ///< 1 = a human lets the computer call his defense
   int BothOffenses = 0;   ///< 1 = a human lets the computer call his offense
   int GamePlanIndex = 0;  ///< plan 0 to 10 in force
@@ -406,6 +407,16 @@ inline int GuardOf(int position) {
   const int own = position > 0 ? defense.Matchup[position] : 0;
   const int slot = own >= 1 && own <= kPositions ? defense.Lineup[own] : 0;
   return slot > 0 ? slot : defense.Lineup[kPositions];
+}
+/// How a man is covered, and whether he is doubled, on a shot from this zone; all but inside and beyond the
+/// arc is outside.
+auto& CoverageOf(auto& man, int pick) {
+  return pick == kInside ? man.CoverageInside : pick == kThree ? man.CoverageThree : man.CoverageOutside;
+}
+auto& DoubleOf(auto& man, int pick) {
+  return pick == kInside  ? man.DoubleTeamInside
+         : pick == kThree ? man.DoubleTeamThree
+                          : man.DoubleTeamOutside;
 }
 inline bool LastPeriod() { return game.Period >= league.rules.PeriodList; }
 inline int FullPeriod() { return league.rules.MinuteList * kMinute; }

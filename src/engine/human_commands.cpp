@@ -18,8 +18,6 @@
 namespace tipline {
 namespace {
 
-void ForgetCall() { game.call.CallKind = game.call.CallPlayer = 0; }
-
 /// Before the tip the coach answers for a roster over the limit.
 bool RosterAllowed(int side) {
   const int limit = league.rules.RosterLimitList;
@@ -56,12 +54,6 @@ bool Missing(int side, int slot, const char* message) {
   return true;
 }
 
-/// The jump opens a period or an overtime: the centres jump, whoever jumped before.
-bool OpensPeriod() {
-  const bool overtime = game.Period > league.rules.PeriodList;
-  return game.GameClock == (overtime ? std::max<int>(league.rules.OverTimeList, 1) * kMinute : FullPeriod());
-}
-
 Refusal WhyNot() {
   if (!CanContinue()) return Refusal::kNotNow;
   const int side = game.ActingSide;
@@ -72,7 +64,8 @@ Refusal WhyNot() {
   }
   if (IsFreeThrow(game.GameState) && Missing(game.OffenseSide, game.BallPlayer, " must be in the game!"))
     return Refusal::kShooterGone;
-  if (IsJump(game.GameState) && !OpensPeriod() &&
+  // A period is opened by the centres, whoever jumped before.
+  if (IsJump(game.GameState) && !PeriodOpens() &&
       Missing(side, game.side[side].JumperOf, " must be in the game for the jump ball!")) {
     return Refusal::kJumperGone;
   }

@@ -193,14 +193,8 @@ Guard CoverBall(int call) {
   const Guard guard{kCoverage[call], call == kDoubleTeamCall};
   if (game.BallPlayer == 0) return guard;
   Man& man = ManAt(game.OffenseSide, game.BallPlayer);
-  int& coverage = man.ShotPick == kInside  ? man.CoverageInside
-                  : man.ShotPick == kThree ? man.CoverageThree
-                                           : man.CoverageOutside;
-  int& doubled = man.ShotPick == kInside  ? man.DoubleTeamInside
-                 : man.ShotPick == kThree ? man.DoubleTeamThree
-                                          : man.DoubleTeamOutside;
-  coverage = guard.coverage;
-  doubled = guard.doubled ? 1 : 0;
+  CoverageOf(man, man.ShotPick) = guard.coverage;
+  DoubleOf(man, man.ShotPick) = guard.doubled ? 1 : 0;
   return guard;
 }
 
@@ -314,7 +308,7 @@ bool ComputerQuickPass() {
 
 void PlayGridChosen(int position) {
   if (!AttackIsAsked() || position < 1 || position > kPositions || Offense().Lineup[position] == 0) return;
-  game.call.CallKind = game.call.CallPlayer = 0;
+  ForgetCall();
   if (Offense().QuickShot == 1 && game.GameClock < 100 + Rnd(600)) {
     FindShooter();
     return SetPlayBox();
@@ -336,20 +330,30 @@ void PlayGridChosen(int position) {
 void DefensePlayCallChosen() {
   if (game.GameOver || game.GameState != "DEFENSE-CALL") return;
   const int asked = game.call.DefenseCall;
-  const int call = asked >= kOffCall && asked <= kDoubleTeamCall ? asked : kNormalCall;
+  const bool answered = asked >= kOffCall && asked <= kDoubleTeamCall;
+  const int call = answered ? asked : kNormalCall;
+  if (answered) Defense().DefenseList = call;
   game.possession.PassFirst = 0;
   game.call.ShotConfirmed = 1;
   if (!program.Autoplaying) KeepCoverage();
   const PlayKind ordered = game.PlayKind;
   const Guard guard = CoverBall(call);
   const bool passes = PassesFirst(guard, call) && PassToAnother();
-  const bool keepsClock = ordered == "HOLD BALL" || ordered == "BURN";
-  game.PlayKind = keepsClock ? ordered : KindOfPick(ManAt(game.OffenseSide, game.BallPlayer).ShotPick);
+  // A putback that is passed out of the crowd is a putback no more.
+  const bool keepsKind = ordered == "HOLD BALL" || ordered == "BURN" || (ordered == "OFFREB" && !passes);
+  game.PlayKind = keepsKind ? ordered : KindOfPick(ManAt(game.OffenseSide, game.BallPlayer).ShotPick);
   if (!guard.doubled && !passes && !PickIsOn()) MaybeDrives(call);
   if (game.call.PickBall > 0) {
     GiveBall(game.call.PickBall);
     game.PlayKind = "DRIVE";
   }
+  FindResult();
+  SetPlayBox();
+}
+
+void ComputerDefenseChosen() {
+  if (game.GameOver || game.GameState != "DEFENSE-CALL") return;
+  ComputerDefenseCall(game.DefenseSide);
   FindResult();
   SetPlayBox();
 }

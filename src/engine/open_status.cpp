@@ -224,9 +224,7 @@ double Usage(const StatLine& s) { return (s.To + s.FGA + s.FTA) / (s.Min + 1.0);
 
 int ByZone(const Man& man, const PlayerRecord& p, int g) {
   constexpr double kCoverage[7] = {1, 1.5, 1.2, 1, 0.8, 0.5, 1};
-  const int coverage = man.ShotPick == kInside  ? man.CoverageInside
-                       : man.ShotPick == kThree ? man.CoverageThree
-                                                : man.CoverageOutside;
+  const int coverage = CoverageOf(man, man.ShotPick);
   Scale(g, kCoverage[coverage >= 0 && coverage <= 6 ? coverage : 3]);
   if (man.ShotPick == kInside && p.RateOffense > Rnd(100)) Scale(g, 2);
   if (man.ShotPick == kOutside) {

@@ -138,9 +138,9 @@ void RenewMatchups() {
   }
 }
 
-/// A computer defense thinks again, one time in `odds`.
+/// A computer defense thinks again, one time in `odds`. What a human has set stays, in a watched stretch too.
 void ComputerCalls(int side, int odds) {
-  const bool computer = ComputerRuns(side) || game.side[side].BothDefenses || Unattended();
+  const bool computer = ComputerRuns(side) || game.side[side].BothDefenses;
   if (computer && Rnd(odds) == 1) ComputerDefenseCall(side);
 }
 
@@ -222,7 +222,7 @@ void ActForComputer() {
   if (ballMatters && PositionOf(game.OffenseSide, game.BallPlayer) == 0) FindShooter();
   if ((game.NeedsInbound || game.NeedsMoveUp) && EndsInOffense(state)) return FindResult();
   if (state == "DEFENSE-CALL") {
-    ComputerCalls(game.DefenseSide, DefenseCallOdds());
+    if (Rnd(DefenseCallOdds()) == 1) ComputerDefenseCall(game.DefenseSide);  // nobody else answers the call
     FindResult();
   } else if (state == "TIMEOUT-DEFENSE") {
     ComputerCalls(game.DefenseSide, 1);
@@ -323,7 +323,7 @@ void JumpBall() {
   }
   game.DefenseSide = 3 - game.OffenseSide;
   game.PossessionArrow = game.DefenseSide;
-  if (opening) {
+  if (opening) {  // who won the opening tip is kept: later jumps leave it
     game.OpeningTipWinner = game.OffenseSide;
     for (int s = 1; s <= 2; ++s) {
       game.side[s].Starters = game.side[s].Lineup;

@@ -26,7 +26,8 @@ void ClearPlay() {
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
   game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
-  if (game.GameState != "OFFREB") game.PutbackClass = 0;
+  // Late in a period the defense is asked first: the shot at the offensive board stays what it is.
+  if (game.GameState != "OFFREB" && game.PlayKind != "OFFREB") game.PutbackClass = 0;
   const int passer = game.possession.LastPasserSlot;
   if (passer > 0) game.play.Assister = Offense().Lineup[passer];
 }
@@ -132,9 +133,7 @@ void CountDoubleTeams() {
   game.DoubleTeamCount = 0;
   for (int p = 1; p <= kPositions; ++p) {
     const Man& man = ManAt(game.OffenseSide, Offense().Lineup[p]);
-    game.DoubleTeamCount += man.ShotPick == kInside  ? man.DoubleTeamInside
-                            : man.ShotPick == kThree ? man.DoubleTeamThree
-                                                     : man.DoubleTeamOutside;
+    game.DoubleTeamCount += DoubleOf(man, man.ShotPick);
   }
 }
 

@@ -153,9 +153,7 @@ void Scout() {
     Man& man = ManAt(game.OffenseSide, slot);
     const PlayerRecord& player = PlayerAt(game.OffenseSide, slot);
     const int zone = man.ShotPick == kInside || man.ShotPick == kThree ? man.ShotPick : kOutside;
-    int& coverage = zone == kInside  ? man.CoverageInside
-                    : zone == kThree ? man.CoverageThree
-                                     : man.CoverageOutside;
+    int& coverage = CoverageOf(man, zone);
     if (coverage == 0) coverage = 3;
     const int rating = zone == kInside  ? player.RateOffInside
                        : zone == kThree ? player.RateOffThree
@@ -319,6 +317,7 @@ void AfterTheDraw() {
 void BurnClock() {
   if (game.PlayKind != "BURN" || !(Defense().QuickFoul == 0 || Rnd(100) <= 9)) return;
   game.play.Blocked = false;
+  game.play.Blocker = game.play.BlockerSlot = 0;
   const PlayResult result = game.PlayResult;
   if (IsShot(result)) {
     Replace("BURN");

@@ -210,6 +210,8 @@ void LogPlay(int side, PlayKind kind) {
     AddPlayLog(clock, side, slot, kind, r, kAssistedBy, side, play.Assister);
   } else if (play.Blocker > 0) {
     AddPlayLog(clock, side, slot, kind, r, kBlockedBy, other, play.Blocker);
+    // Who fouled for the loose ball stands in a line of his own.
+    if (play.Fouler > 0) AddPlayLog(clock, play.FoulingSide, play.Fouler, kind, game.PlayResult);
   } else if (r == "ST") {
     AddPlayLog(clock, side, slot, kind, r, kStolenBy, other, play.Stealer);
   } else if (play.Fouler > 0) {

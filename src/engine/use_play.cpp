@@ -188,17 +188,14 @@ int PassesUpShot() {
 /// The man with the ball is covered too closely to begin the play himself.
 bool PassesFirst() {
   const Man& man = ManAt(game.OffenseSide, game.BallPlayer);
-  const int coverage = man.ShotPick == kInside  ? man.CoverageInside
-                       : man.ShotPick == kThree ? man.CoverageThree
-                                                : man.CoverageOutside;
-  const int doubled = man.ShotPick == kInside  ? man.DoubleTeamInside
-                      : man.ShotPick == kThree ? man.DoubleTeamThree
-                                               : man.DoubleTeamOutside;
+  const int coverage = CoverageOf(man, man.ShotPick);
+  const int doubled = DoubleOf(man, man.ShotPick);
   const int passing = BallHandler().RatePassing;
   bool passes = coverage == 4 && Rnd(2) == 1 && passing > Rnd(9);
   if (doubled == 1 && Rnd(10) < 10 && passing > Rnd(9)) passes = true;
   if (coverage > Rnd(2) && (Rnd(20) == 1 || (passing > Rnd(9) && Rnd(7) == 1))) passes = true;
-  if (game.call.DefenseCall == kLooseCall && Rnd(10) <= 9) passes = false;
+  // A defense that stood off him at its last call is expected to do so again.
+  if (Defense().DefenseList == kLooseCall && Rnd(10) <= 9) passes = false;
   return passes && game.call.CallKind != kCallPickRoll && !game.call.ExtraPassCall;
 }
 

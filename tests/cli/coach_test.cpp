@@ -9,6 +9,7 @@
 #include "base/random.h"
 #include "cli/coach_session.h"
 #include "cli/coach_table.h"
+#include "cli/columns.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "harness/game_book.h"
@@ -22,7 +23,7 @@ namespace {
 
 void SetUpCoachedGame(const char* preset, std::uint64_t seed, const char* visitor, const char* home) {
   OpenSmallLeague(preset, seed);
-  tipline::random.Seed(seed);
+  SeedRandom(seed);
   SetUpMatch(MemoryTeams()[0], MemoryTeams()[1]);
   game.side[1].CoachMode.Set(visitor);
   game.side[2].CoachMode.Set(home);
@@ -158,8 +159,9 @@ TEST(CoachSession, AnyCoachReachesTheEndUnderAnyRulesWithAnyMen) {
     std::istream in(&coach);
     EXPECT_TRUE(CoachSession(in, out, err, {}).Run());
     EXPECT_TRUE(game.GameOver);
-    const auto steers = [](char c) { return c != '\n' && (static_cast<unsigned char>(c) < 32 || c == 127); };
-    EXPECT_TRUE(std::none_of(out.view().begin(), out.view().end(), steers));
+    std::string text = out.str();
+    std::erase(text, '\n');
+    EXPECT_EQ(Plain(text), text);
   }
 }
 
@@ -200,7 +202,10 @@ TEST(CoachSession, LeavesAGameOnlyWhenTheCoachIsSure) {
 }
 
 TEST(CoachSession, LinesFitTheScreenAndArePlain) {
-  const Played played = PlayScript(ManyLines(), 2, "H");
+  std::string script = ManyLines().substr(0, ManyLines().size() / 2);
+  script +=
+      "box\nstats\nstats 1\nbench\nbench ratings\ndefense\nplan\nset\nstrategy\nhelp all\nhelp call\nauto\n";
+  const Played played = PlayScript(script + ManyLines(), 2, "H");
   std::istringstream lines(played.out);
   for (std::string line; std::getline(lines, line);) EXPECT_LT(line.size(), 80u) << line;
   EXPECT_EQ(played.out.find('\033'), std::string::npos);
@@ -225,6 +230,13 @@ TEST(CoachSession, TellsWhatChangedOrWhyNot) {
        [] { return ManAt(1, game.side[1].Lineup[5]).DoubleTeamThree == 1; }},
       {"order 3 three", false, "is told to shoot: three.",
        [] { return ManAt(2, game.side[2].Lineup[3]).GlobalOffense == kThree; }},
+      {"match computer", false, "A zone has no match-ups: nothing was searched",
+       [] { return game.side[2].StoredMatchup[1] == 1; }},
+      {"match c", true, "match ATTACKER DEFENDER", [] { return true; }},
+      {"safe", true, "safe WHO [off].", [] { return true; }},
+      {"help off", true, "There is no command \"off\"; help defense goes: Normal, Inside",
+       [] { return game.side[2].DefenseHelp == 0; }},
+      {"help i", true, "There is no command \"i\"", [] { return game.side[2].DefenseHelp == 0; }},
       {"safe 4", false, "defends safely.", [] { return ManAt(2, game.side[2].Lineup[4]).SafeStyle == 1; }},
       {"plan Drive 3", false, "Drive: 3, for this game.", [] { return game.coach[2].Coverage2[0] == 3; }},
       {"plan Crash 3", true, "More than one slider", [] { return true; }},
@@ -234,17 +246,26 @@ TEST(CoachSession, TellsWhatChangedOrWhyNot) {
       {"lineup free throw", false, "On the floor:",
        [] { return OnFloor(2, 1).RotationOrder[4] == 1 && OnFloor(2, 5).RotationOrder[4] == 5; }},
       {"sub 1 #99", true, "There is no man #99 on the team.", [] { return true; }},
+      {"sub 1 #6 2", true, "Who plays position 2?", [] { return game.side[2].Lineup[1] != 6; }},
+      {"sub 1 2 2 van dyke", false, "On the floor: ",
+       [] { return game.side[2].Lineup[1] != 7 && game.side[2].Lineup[2] == 7; }},
       {"sub 1", true, "sub POSITION MAN", [] { return true; }},
       {"delegate defense on", false, "The computer calls your defense.",
        [] { return game.side[2].BothDefenses == 1; }},
       {"auto 1st 13:00", true, "no mark ahead", [] { return !Watching(); }},
+      {"auto :00", true, "no mark ahead", [] { return !Watching(); }},
+      {"auto 123 6:00", true, "no mark ahead", [] { return !Watching(); }},
       {"shoot", true, "Not at this stop: shoot. Open: continue", [] { return true; }},
       {"xyzzy", true, "There is no command \"xyzzy\".", [] { return true; }},
+      {"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyy", true, "\"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyy..\"", [] { return true; }},
   };
   // clang-format on
   for (const auto& c : cases) {
     SetUpCoachedGame("pro", 1, "C", "H");
-    league.rules.ZoneLegalCheck = 1;
+    league.rules.ZoneLegalCheck = league.rules.AllowComputerManMatchupsCheck = 1;
+    game.side[1].DefenseType =
+        std::string_view(c.line) == "match computer" ? 3 : 0;  // before the tip it counts
+    PlayerAt(2, 7).LastName = "Van Dyke";
     std::istringstream in(std::string(c.line) + "\nquit\ny\n");
     std::ostringstream out, err;
     EXPECT_FALSE(CoachSession(in, out, err, {}).Run()) << c.line;

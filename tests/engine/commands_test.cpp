@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "engine/engine.h"
 #include "engine/shot_selection.h"
 #include "platform/dialogs.h"
@@ -226,6 +228,55 @@ TEST(DefenseCall, LeavesABurnedClockBurning) {
   const auto burn = [] { BurnChosen(), DefensePlayCallChosen(); };
   EXPECT_GT(Share([] {}, burn, [] { return game.PlayResult == "BURN"; }), 0.75);
   EXPECT_EQ(Share([] {}, burn, [] { return O().GameFGA > 0; }), 0);
+}
+
+TEST(DefenseCall, NobodyBlocksABurnedClock) {
+  const auto blocked = [] {
+    return std::any_of(game.PlayLog.begin(), game.PlayLog.end(),
+                       [](const PlayLogRow& row) { return row.Outcome == "BURN" && row.Note == kBlockedBy; });
+  };
+  EXPECT_EQ(Share([] {}, [] { BurnChosen(), DefensePlayCallChosen(); }, blocked), 0);
+}
+
+/// The rebounder stands beyond the arc with a minute to go; in the set before he had a shot outside.
+void LateLongRebound() {
+  game.GameState = "OFFREB", game.PlayKind = "OFFREB";
+  game.PutbackClass = 3, game.GameClock = 500;
+}
+
+TEST(DefenseCall, LeavesALatePutbackWhereItIs) {
+  const auto three = [] { return Shooter().ShotAttOffReb3[3] > 0; };
+  const auto closer = [] { return Shooter().ShotAttOffReb2[3] + Shooter().ShotAttOutside[3] > 0; };
+  const auto computer = [] { LateLongRebound(), D().CoachMode = "C"; };
+  const auto answered = [] { ShootChosen(), DefensePlayCallChosen(); };
+  EXPECT_GT(Share(computer, ShootChosen, three), 0.5);
+  EXPECT_EQ(Share(computer, ShootChosen, closer), 0);
+  EXPECT_GT(Share(LateLongRebound, answered, three), 0.4);
+  EXPECT_EQ(Share(LateLongRebound, answered, closer), 0);
+}
+
+void CoveredTightly() {
+  game.call.CallKind = 2;
+  for (int slot = 1; slot <= kPositions; ++slot) {
+    OMan(slot).CoverageOutside = 4;
+    game.player[2][slot].RatePassing = 9;
+  }
+}
+
+void AnsweredLooseBefore() {
+  game.GameState = "DEFENSE-CALL";
+  game.call.DefenseCall = 2;
+  DefensePlayCallChosen();
+  const int last = D().DefenseList;
+  SetUpCommands();
+  D().DefenseList = last;
+  CoveredTightly();
+}
+
+TEST(UsePlay, AManWhoWasLeftAloneBeginsThePlayHimself) {
+  const auto passes = [] { return game.possession.PassFirst == 1; };
+  EXPECT_GT(Share(CoveredTightly, UsePlayNowRoutine, passes), 0.35);
+  EXPECT_LT(Share(AnsweredLooseBefore, UsePlayNowRoutine, passes), 0.15);
 }
 
 TEST(UsePlay, NeedsTime) {

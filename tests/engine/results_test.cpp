@@ -50,6 +50,27 @@ TEST(Results, WhatEachLeaves) {
   }
 }
 
+TEST(Results, AFoulOverABlockedShotHasALineOfItsOwn) {
+  SetUpResult("INSIDE", "OFFENSE", "M");
+  game.GameClock = 6000;
+  game.play.Blocked = true;
+  game.play.Blocker = 3;
+  game.play.Fouler = game.play.FoulerSlot = game.play.FoulingSide = 0;
+  int fouls = 0;
+  EachSeed(400, [&] {
+    PostPlay();
+    const bool fouled = O().LooseBalls > 0;
+    fouls += fouled ? 1 : 0;
+    EXPECT_EQ(game.PlayLog[1].Note, kBlockedBy);
+    EXPECT_EQ(game.PlayLogCount, fouled ? 2 : 1);
+    if (!fouled || game.PlayLogCount != 2) return;
+    const PlayLogRow& foul = game.PlayLog[2];
+    EXPECT_EQ(PlayerAt(foul.Side, foul.Slot).Stats[3].Pf, 1);
+    EXPECT_TRUE(foul.Outcome == (foul.Side == 1 ? PlayResult("LOOSE-DEF") : PlayResult("LOOSE-OFF")));
+  });
+  EXPECT_GT(fouls, 5);
+}
+
 TEST(Results, ABasketLateInAHalfGivesTheDefenseAStop) {
   const struct {
     int period, clock;

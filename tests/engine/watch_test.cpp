@@ -65,6 +65,20 @@ TEST(WatchUntil, HumansAreNotAskedBeforeTheMarkAndAreBehindIt) {
   }
 }
 
+TEST(WatchUntil, WhatAHumanDefendsWithStaysUnlessHeLeavesItToTheComputer) {
+  OpenSmallLeague("pro");
+  random.Seed(1);
+  SetUpMatch(MemoryTeams()[0], MemoryTeams()[1]);
+  SeatHumans();
+  NewGame();
+  for (Side& side : game.side) side.Pressure = 4, side.DefenseHelp = 3;
+  game.side[2].BothDefenses = 1;
+  game.WatchUntil = "End 1st Period";
+  SetPlayBox();
+  EXPECT_TRUE(game.side[1].Pressure == 4 && game.side[1].DefenseHelp == 3);
+  EXPECT_FALSE(game.side[2].Pressure == 4 && game.side[2].DefenseHelp == 3);
+}
+
 TEST(WatchUntil, AMarkThatNeverComesEndsWithTheGame) {
   OpenSmallLeague("college");  // two halves
   SetUpMatch(MemoryTeams()[0], MemoryTeams()[1]);
