@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/calendar.h"
 #include "frontoffice/schedule_generator.h"
 #include "frontoffice/schedule_rules.h"
 

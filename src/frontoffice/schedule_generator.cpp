@@ -298,6 +298,11 @@ std::string ScheduleRequestProblem(int activeTeams, int games, int divisional) {
   if (divisional < 0 || divisional > 20 || divisional % 2 != 0) {
     return "Divisional games must be zero or an even number between 2 and 20 games.";
   }
+  // Stopped at the last row the season would come out uneven, and drawing it would take minutes.
+  if (activeTeams * games / 2 > kMostScheduleRows) {
+    return "A schedule holds at most " + std::to_string(kMostScheduleRows) + " games, these would be " +
+           std::to_string(activeTeams * games / 2) + ".";
+  }
   return "";
 }
 

@@ -141,19 +141,7 @@ TEST(ScheduleGenerator, TellsHowItCameOut) {
   EXPECT_EQ(ScheduleMessage(draft), "Schedule complete!");
 }
 
-TEST(ScheduleGenerator, FewMeetingsComeFirstWhereAskedFor) {
-  const auto mostMeetings = [](int most) {
-    int sum = 0;
-    for (std::uint64_t seed = 1; seed <= 10; ++seed) {
-      random.Seed(seed);
-      int highest = 0;
-      for (const auto& [pair, games] : Tally(DrawSchedule({28, 2, most}, Teams(24, 4))).at)
-        highest = std::max(highest, games);
-      sum += highest;
-    }
-    return sum;
-  };
-  EXPECT_LE(mostMeetings(1), mostMeetings(5));
+TEST(ScheduleGenerator, TeamsAndDatesAreShuffled) {
   std::set<std::pair<int, int>> openers;
   for (std::uint64_t seed = 1; seed <= 20; ++seed) {
     random.Seed(seed);
@@ -162,7 +150,7 @@ TEST(ScheduleGenerator, FewMeetingsComeFirstWhereAskedFor) {
       if (game.slot == 1 && (game.home == 1 || game.visitor == 1)) openers.insert({game.visitor, game.home});
     }
   }
-  EXPECT_GT(openers.size(), 4u) << "teams and dates are shuffled";
+  EXPECT_GT(openers.size(), 4u);
 }
 
 TEST(ScheduleGenerator, OnlyUnevenSeasonsAreTriedAgain) {
