@@ -7,6 +7,7 @@
 
 #include "engine/game_state.h"
 #include "harness/memory_league.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {
@@ -16,9 +17,6 @@ constexpr int kRegular = 20;  // minutes a game
 
 const ManSums& SumsOf(const SeasonSums& sums, const PlayerRecord& man) {
   return sums.man[static_cast<std::size_t>(man.RecNo)];
-}
-double RealMinutes(const PlayerRecord& man) {
-  return man.Stats[1].G > 0 ? static_cast<double>(man.Stats[1].Min) / man.Stats[1].G : 0;
 }
 double ReplayMinutes(const SeasonSums& sums, const PlayerRecord& man) {
   const ManSums& m = SumsOf(sums, man);
@@ -96,7 +94,7 @@ void PrintGroup(std::ostream& out, const char* title, const SeasonSums& sums, Wa
     }
   };
   Scatter minutes;
-  each([&](const PlayerRecord& man) { minutes.Add(RealMinutes(man), ReplayMinutes(sums, man)); });
+  each([&](const PlayerRecord& man) { minutes.Add(MinutesPerGame(man), ReplayMinutes(sums, man)); });
   PrintScatter(out, "minutes a game", minutes, 0.9);
   for (const Measure& measure : kMeasures) {
     Scatter scatter;
@@ -139,7 +137,7 @@ void PrintMinutes(std::ostream& out, const SeasonSums& sums) {
       }
       if (k >= kRanks) continue;
       ++count[k];
-      real[k] += RealMinutes(man), target[k] += man.TargetMinutes, replay[k] += minutes;
+      real[k] += MinutesPerGame(man), target[k] += man.TargetMinutes, replay[k] += minutes;
       games[k] += SumsOf(sums, man).games / teamGames * 100;
     }
   }
@@ -189,7 +187,7 @@ void PrintPositions(std::ostream& out, const SeasonSums& sums) {
 
 void PrintFollowers(std::ostream& out, const SeasonSums& sums) {
   PrintGroup(out, "regulars, 20+ min", sums, [&](const PlayerRecord& man) {
-    return RealMinutes(man) >= 20 && ReplayMinutes(sums, man) >= 20 && SumsOf(sums, man).games >= 20;
+    return MinutesPerGame(man) >= 20 && ReplayMinutes(sums, man) >= 20 && SumsOf(sums, man).games >= 20;
   });
   PrintGroup(out, "500+ replay minutes", sums,
              [&](const PlayerRecord& man) { return SumsOf(sums, man).minutes >= 500; });

@@ -55,7 +55,9 @@ void Print(std::ostream& out, const char* what, double seconds, double aim) {
 void OpenBench() {
   if (!LoadRules()) throw std::runtime_error("the rules can't be read");
   LoadAllTeams();
+  LoadLeaguePlayers();
   LoadSchedule();
+  if (league.ActiveTeams != 30) throw std::runtime_error("the league was not opened");
 }
 
 /// Seconds of one load, over the teams of the open league.

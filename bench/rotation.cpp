@@ -13,19 +13,6 @@
 namespace tipline {
 namespace {
 
-Roster RosterOf(int teamNo) {
-  Roster roster;
-  roster.TeamNo = teamNo;
-  roster.team = league.team[teamNo];
-  roster.coach = league.coach[teamNo];
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (const int row = roster.team.Roster[slot]; row > 0) {
-      roster.player[slot] = league.player[static_cast<std::size_t>(row)];
-    }
-  }
-  return roster;
-}
-
 void KeepRoster(const Roster& roster) {
   league.coach[roster.TeamNo] = roster.coach;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {

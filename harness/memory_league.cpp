@@ -77,6 +77,19 @@ std::vector<int> MemoryTeams() {
   return teams;
 }
 
+Roster RosterOf(int teamNo) {
+  Roster roster;
+  roster.TeamNo = teamNo;
+  roster.team = league.team[teamNo];
+  roster.coach = league.coach[teamNo];
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (const int row = roster.team.Roster[slot]; row > 0) {
+      roster.player[slot] = league.player[static_cast<std::size_t>(row)];
+    }
+  }
+  return roster;
+}
+
 void SeatTeam(int teamNo, int side) {
   game.GameTeam[side] = teamNo;
   game.team[side] = league.team[teamNo];

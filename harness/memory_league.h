@@ -20,6 +20,8 @@ void OpenSmallLeague(const char* preset, std::uint64_t seed = 1);
 /// Numbers of its teams, ascending.
 std::vector<int> MemoryTeams();
 
+/// A team with its men as the league has them, in a copy.
+Roster RosterOf(int teamNo);
 /// A team takes its side of the game, as after a load from the files.
 void SeatTeam(int teamNo, int side);
 /// Both teams seated with the computer on both benches and the game prepared.

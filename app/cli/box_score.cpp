@@ -6,6 +6,7 @@
 #include "cli/columns.h"
 #include "cli/commands.h"
 #include "engine/game_state.h"
+#include "league/player_values.h"
 
 namespace tipline::cli {
 namespace {
@@ -77,8 +78,7 @@ void PrintSide(std::ostream& out, int side) {
     const std::string label = place == s.Starters.end()
                                   ? ""
                                   : league.PositionLabel[static_cast<int>(place - s.Starters.begin()) + 1];
-    const std::string name =
-        p.FirstName.Str().substr(0, 1) + "." + p.LastName.Str().substr(0, kLongestName - 2);
+    const std::string name = InitialName(p).substr(0, kLongestName);
     table.Row(LineCells(name, label, man.PlayerGameTime, p.Stats[3], Signed(man.PlusMinus)));
     AddTo(sum, p.Stats[3]);
     time += man.PlayerGameTime;

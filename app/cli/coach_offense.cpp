@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "cli/coach_marks.h"
 #include "cli/coach_screen.h"
 #include "cli/coach_table.h"
 #include "coach/computer_coach.h"
@@ -103,72 +104,13 @@ void SetFocus(int side, int focus) {
   game.side[side].TimeoutFocus.Set(TimeoutFocusWords::kTexts[static_cast<std::size_t>(focus)]);
 }
 
-// The mark of a watched stretch.
-
-int TenthsOf(std::string_view word) {
-  constexpr std::array<std::string_view, 4> kShort{"6:00", "2:00", "1:00", "0:30"};
-  constexpr std::array<std::string_view, 4> kLong{"six", "two", "one", "30"};
-  constexpr int kTenths[] = {3600, 1200, 600, 300};
-  for (std::size_t i = 0; i < kShort.size(); ++i) {
-    if (word == kShort[i] || Squeezed(word) == kLong[i]) return kTenths[i];  // ":30" is a short "30"
-  }
-  return 0;
-}
-
-/// 1 to 4 for "2nd" or "2"; 0 for anything else.
-int PeriodOf(std::string_view said) {
-  constexpr std::array<std::string_view, 4> kNth{"1st", "2nd", "3rd", "4th"};
-  for (std::size_t i = 0; i < kNth.size(); ++i) {
-    if (said == kNth[i] || said == kNth[i].substr(0, 1)) return static_cast<int>(i) + 1;
-  }
-  return 0;
-}
-
-/// The mark that is meant, by its own text or by period and clock: "end 2", "4th 2:00", "2:00" in this
-/// period. "NONE" when there is none.
-WatchUntil ReadMark(const Words& words) {
-  WatchUntil mark;
-  int period = game.Period, below = 0;
-  for (const auto text : WatchUntilWords::kTexts) {
-    if (Squeezed(text) == Squeezed(Joined(words))) {
-      mark.Set(text);
-      return mark;
-    }
-  }
-  for (const std::string& word : words) {
-    const std::string said = Squeezed(word);
-    if (const int tenths = TenthsOf(word)) {
-      below = tenths;
-    } else if (said == "end") {
-      below = 1;
-    } else if (const int named = PeriodOf(said)) {
-      period = named;
-    } else if (said != "period" && said != "minutes" && said != "minute" && said != "seconds") {
-      return mark;
-    }
-  }
-  for (const auto text : WatchUntilWords::kTexts) {
-    WatchUntil candidate;
-    candidate.Set(text);
-    const WatchMark at = MarkOf(candidate);
-    if (below > 0 && at.period == period && at.below == below) mark = candidate;
-  }
-  return mark;
-}
-
-bool Ahead(WatchUntil until) {
-  const WatchMark mark = MarkOf(until);
-  if (mark.period == 0 || mark.period > league.rules.PeriodList) return false;
-  return mark.period > game.Period || (mark.period == game.Period && game.GameClock >= mark.below);
-}
-
 /// The marks that are ahead, one behind the other; "" for none.
 std::string MarksAhead() {
   std::string text;
   for (const auto word : WatchUntilWords::kTexts) {
     WatchUntil mark;
     mark.Set(word);
-    if (Ahead(mark)) text += (text.empty() ? "" : "; ") + std::string(word);
+    if (Ahead(mark, game.Period, game.GameClock)) text += (text.empty() ? "" : "; ") + std::string(word);
   }
   return text;
 }
@@ -288,8 +230,8 @@ Answer DoAuto(CoachSession& session, const Words& words) {
     session.Say("Marks ahead: " + ahead + ".");
     return Answer::kStays;
   }
-  const WatchUntil mark = ReadMark(words);
-  if (!Ahead(mark)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
+  const WatchUntil mark = ReadMark(words, game.Period);
+  if (!Ahead(mark, game.Period, game.GameClock)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
   return session.GoOn("Both sides play on alone: " + std::string(mark.Text()) + ".", [mark] {
     game.WatchUntil = mark;
     SetPlayBox();

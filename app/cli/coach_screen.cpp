@@ -7,10 +7,12 @@
 #include "cli/coach_events.h"
 #include "cli/coach_words.h"
 #include "cli/columns.h"
+#include "cli/team_work.h"
 #include "coach/substitutions.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
+#include "league/player_values.h"
 
 namespace tipline::cli {
 namespace {
@@ -168,15 +170,6 @@ std::string BenchStatus(int side, int slot) {
   return fouls >= FoulTroubleLimit() ? "foul trouble" : "";
 }
 
-std::string Positions(const PlayerRecord& p) {
-  std::string text;
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= kPositions)
-      text += (text.empty() ? "" : "-") + league.PositionLabel[position];
-  }
-  return text;
-}
-
 StatLine SumOf(int side) {
   StatLine sum;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
@@ -279,9 +272,7 @@ void PrintMan(std::ostream& out, int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
   const StatLine& now = p.Stats[3];
   const StatLine& real = p.Stats[1];
-  out << Plain(p.FirstName.Str() + " " + p.LastName.Str() + " (#" + Str(slot) + ", " + Positions(p) + "), " +
-               ShortTeam(side))
-      << '\n';
+  out << Plain(FullName(p) + " (#" + Str(slot) + ", " + Positions(p) + "), " + ShortTeam(side)) << '\n';
   Columns lines({"<", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "Pts"});
   lines.Row({"This game", Str(MinutesOf(ManAt(side, slot))), Of(now.FGM, now.FGA), Of(now.F3M, now.F3A),
              Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St),

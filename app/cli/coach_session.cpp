@@ -9,6 +9,7 @@
 #include "cli/columns.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
+#include "league/program.h"
 
 namespace tipline::cli {
 namespace {
@@ -203,6 +204,11 @@ void CoachSession::HandOver() {
 
 bool CoachSession::Run() {
   NewGame();
+  return GoOnFromHere();
+}
+
+bool CoachSession::GoOnFromHere() {
+  if (program.ScenarioGame) toldPeriod_ = game.Period;  // nothing was played before
   while (!game.GameOver) {
     TellSinceLastStop();
     ShowTheStop();

@@ -39,6 +39,8 @@ class CoachSession : private platform::Dialogs {
   /// Plays the prepared game, whose human sides it asks, to its end. At the end of the input the computer
   /// takes the humans' sides. False when the coach leaves the game unfinished.
   bool Run();
+  /// The same from the stop where the game stands; of a game that is over it tells the course.
+  bool GoOnFromHere();
 
   // For the commands.
   /// One line, or more below one another, set in by `indent`, where it is longer than the screen is wide.

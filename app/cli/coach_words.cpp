@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "engine/game_state.h"
+#include "league/player_values.h"
 
 namespace tipline::cli {
 namespace {
@@ -44,18 +45,18 @@ int PositionLabelled(std::string_view said) {
   return found;
 }
 
-std::string WholeName(const PlayerRecord& p) { return p.FirstName.Str() + " " + p.LastName.Str(); }
-
 /// How well a name fits: 3 it is the last or the whole name, 2 the last name begins so, 1 it holds it.
 int NameFit(const PlayerRecord& p, const std::string& said) {
   const std::string last = Squeezed(p.LastName.View());
-  const std::string whole = Squeezed(WholeName(p));
+  const std::string whole = Squeezed(FullName(p));
   if (said == last || said == whole || said == Squeezed(p.ShortName.View())) return 3;
   if (Begins(last, said)) return 2;
   return whole.find(said) != std::string::npos ? 1 : 0;
 }
 
-Found ByName(int side, std::string_view said) {
+/// Who answers to a name; `manAt` gives the man of the team at a roster slot, nullptr for none.
+template <class ManAt>
+Found ByName(ManAt manAt, std::string_view said) {
   const std::string name = Squeezed(said);
   const std::string nobody = "Nobody on the team answers to \"" + Shortened(said) + "\".";
   if (name.empty()) return {0, nobody};
@@ -63,19 +64,31 @@ Found ByName(int side, std::string_view said) {
   Words found;
   Found man;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot)) continue;
-    const int fit = NameFit(PlayerAt(side, slot), name);
+    const PlayerRecord* const p = manAt(slot);
+    const int fit = p ? NameFit(*p, name) : 0;
     if (fit == 0 || fit < best) continue;
     if (fit > best) found.clear();
     best = fit;
     man.value = slot;
-    found.push_back(WholeName(PlayerAt(side, slot)) + " #" + std::to_string(slot));
+    found.push_back(FullName(*p) + " #" + std::to_string(slot));
   }
   if (found.empty()) return {0, nobody};
   if (found.size() == 1) return man;
   std::string which = "Which one: ";
   for (std::size_t i = 0; i < found.size(); ++i) which += (i ? ", " : "") + found[i];
   return {0, which + "?"};
+}
+
+bool IsMarked(std::string_view said) { return !said.empty() && said[0] == '#'; }
+int NumberIn(std::string_view said) { return SmallNumber(IsMarked(said) ? said.substr(1) : said); }
+
+/// By roster number or name.
+template <class ManAt>
+Found OnRoster(ManAt manAt, std::string_view said) {
+  const int number = NumberIn(said);
+  if (number == 0 && !IsMarked(said)) return ByName(manAt, said);
+  if (number >= 1 && number <= kRosterSlots && manAt(number)) return {number, ""};
+  return {0, "There is no man " + std::string(said) + " on the team."};
 }
 
 }  // namespace
@@ -144,19 +157,20 @@ int OnOff(std::string_view said) {
 }
 
 Found FindMan(int side, std::string_view said) {
-  const bool marked = !said.empty() && said[0] == '#';
-  const int number = SmallNumber(marked ? said.substr(1) : said);
-  const int position = marked ? 0 : number >= 1 && number <= kPositions ? number : PositionLabelled(said);
+  const int number = NumberIn(said);
+  const bool onFloor = number >= 1 && number <= kPositions;
+  const int position = IsMarked(said) ? 0 : onFloor ? number : PositionLabelled(said);
   if (position > 0) {
     const int slot = game.side[side].Lineup[position];
     if (slot > 0) return {slot, ""};
     return {0, "Nobody stands at position " + std::to_string(position) + "."};
   }
-  if (number > 0 || marked) {
-    if (number >= 1 && number <= kRosterSlots && OnTeam(side, number)) return {number, ""};
-    return {0, "There is no man " + Shortened(said) + " on the team."};
-  }
-  return ByName(side, said);
+  return OnRoster([side](int slot) { return OnTeam(side, slot) ? &PlayerAt(side, slot) : nullptr; }, said);
+}
+
+Found FindMan(const Roster& roster, std::string_view said) {
+  return OnRoster([&roster](int slot) { return OnTeam(roster, slot) ? &roster.player[slot] : nullptr; },
+                  said);
 }
 
 Found FindPosition(int side, std::string_view said) {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "league/roster.h"
+
 namespace tipline::cli {
 
 using Words = std::vector<std::string>;
@@ -38,6 +40,8 @@ struct Found {
 /// Roster slot of the man of a side that is meant: "#9" or 9 roster number 9, 1 to 5 and position labels
 /// ("PG") the man on the floor there, else a part of his name.
 Found FindMan(int side, std::string_view said);
+/// The same away from a game: "#9" or 9, else a part of his name.
+Found FindMan(const Roster& roster, std::string_view said);
 /// Position 1 to 5 on a side's floor: its number, its label, or its man by name.
 Found FindPosition(int side, std::string_view said);
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frontoffice/league_maker.h"
@@ -17,10 +18,20 @@ struct Common {
   bool Csv = false;
 };
 
+/// A calendar date as the user says it.
+struct MonthDay {
+  int month = 0, day = 0;
+};
+
 struct PlayRequest {
   std::string Visitor, Home;   ///< number, abbreviation, city or nickname
   std::string Coach = "none";  ///< who is coached by the user: "none", "visitor", "home", "both"
   std::string Calls = "";      ///< how often he is asked: "none", "default", "all", "" by his preferences
+  std::string Date = "";       ///< "MM-DD", "" the first of October
+  std::string From = "";       ///< league of the visitor, "" the open one
+  std::string Scenario = "";  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
+  std::string Until = "";     ///< mark up to which both sides play alone, "" none
+  bool Neutral = false;
 };
 
 int NewLeague(LeagueRequest request, const Common& common);
@@ -33,13 +44,25 @@ struct CoachRequest {
   std::string team, opponent;
   std::vector<std::string> settings;  ///< CAPTION=VALUE
   bool make = false, clear = false;
+  bool all = false;  ///< made for every team of the league; `team` is not read
+  bool importPlan = false, exportPlan = false, clearDefense = false;
 };
 /// The depth chart by rank and the special lineups.
 int ShowDepth(const CoachRequest& request, const Common& common);
 /// The rotation grid, minute by minute.
 int ShowRotation(const CoachRequest& request, const Common& common);
-/// Sliders, and against an opponent the coverage of his men.
+/// Sliders, and against an opponent the coverage of his men. A plan is imported before anything else is done
+/// to it and exported at the end.
 int ShowPlan(const CoachRequest& request, const Common& common);
+
+struct DailyRequest {
+  std::string team;
+  std::vector<std::pair<std::string, std::string>> toggle;  ///< a man, by name or roster number, and MM-DD
+  bool activateAll = false, inactivateAll = false;
+  std::string use;  ///< "on" or "off": games go by these lists; "" as before
+};
+/// Who sits out on which game day. All that is asked for is done, or nothing.
+int ShowDaily(const DailyRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
@@ -55,8 +78,13 @@ int Start(const Common& common);
 bool EnsureEra();
 /// Opens the league of the command, or tells why not. True when it is open.
 bool OpenTheLeague(const Common& common);
+/// "MM-DD"; false, told, for any other text and for days that no month has.
+bool ReadDate(const std::string& text, MonthDay& date);
+std::string DateText(const MonthDay& date);
 /// Team number for what a user types: number, abbreviation, city, nickname or both; 0, told, when it names no
 /// team or more than one.
 int FindTeam(const std::string& text);
+/// The same among the teams of another league, by number.
+int FindTeam(const std::string& text, const std::vector<TeamRecord>& teams);
 
 }  // namespace tipline::cli

@@ -5,12 +5,14 @@
 #include "base/random.h"
 #include "cli/columns.h"
 #include "cli/commands.h"
+#include "cli/team_work.h"
 #include "cli/terminal.h"
 #include "frontoffice/rating_run.h"
 #include "league/data_tree.h"
 #include "league/dump.h"
 #include "league/files.h"
 #include "league/league_check.h"
+#include "league/player_values.h"
 #include "league/program.h"
 #include "league/roster.h"
 #include "league/rules.h"
@@ -18,17 +20,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string PlayerName(const PlayerRecord& p) {
-  return p.FirstName.Empty() ? p.LastName.Str() : p.FirstName.Str() + " " + p.LastName.Str();
-}
-
-std::string Positions(const PlayerRecord& p) {
-  std::string text;
-  for (const int position : {p.PrimaryPosition, p.SecondaryPosition, p.SpotPosition}) {
-    if (position >= 1 && position <= 5) text += (text.empty() ? "" : "-") + league.PositionLabel[position];
-  }
-  return text;
-}
 
 std::string HeightText(const PlayerRecord& p) { return Str(p.HeightFeet) + "-" + Str(p.HeightInches); }
 
@@ -68,10 +59,7 @@ std::vector<std::string> RatingCells(const PlayerRecord& p) {
 }
 
 std::vector<int> ByMinutes(const Roster& roster) {
-  std::vector<int> slots;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (roster.player[slot].TeamNo == roster.TeamNo && roster.player[slot].RecNo > 0) slots.push_back(slot);
-  }
+  std::vector<int> slots = MenOf(roster);
   std::stable_sort(slots.begin(), slots.end(), [&](int a, int b) {
     return roster.player[a].Stats[1].Min > roster.player[b].Stats[1].Min;
   });
@@ -109,14 +97,18 @@ bool OpenTheLeague(const Common& common) {
   if (!EnsureEra()) return false;
   const bool rules = LoadRules();
   LoadAllTeams();
-  if (!rules) SaveRules();
-  return true;
+  LoadLeaguePlayers();
+  return rules || SaveRules();
 }
 
-int FindTeam(const std::string& text) {
+namespace {
+
+/// at(n): the record of team n.
+template <class At>
+int FindAmong(const std::string& text, At&& at) {
   std::vector<int> found;
   for (int t = 1; t <= kTeams; ++t) {
-    const TeamRecord& team = league.team[t];
+    const TeamRecord& team = at(t);
     if (team.TeamActive != 1) continue;
     if (text == Str(t)) return t;
     if (SameText(team.Abbrev.View(), text)) return t;
@@ -128,9 +120,19 @@ int FindTeam(const std::string& text) {
   if (found.size() == 1) return found[0];
   std::string message = found.empty() ? "there is no team \"" + text + "\" in this league; see: tipline teams"
                                       : "\"" + text + "\" names more than one team:";
-  for (const int t : found) message += " " + league.team[t].Abbrev.Str();
+  for (const int t : found) message += " " + at(t).Abbrev.Str();
   Refuse(message);
   return 0;
+}
+
+}  // namespace
+
+int FindTeam(const std::string& text) {
+  return FindAmong(text, [](int t) -> const TeamRecord& { return league.team[t]; });
+}
+
+int FindTeam(const std::string& text, const std::vector<TeamRecord>& teams) {
+  return FindAmong(text, [&teams](int t) -> const TeamRecord& { return teams[static_cast<std::size_t>(t)]; });
 }
 
 int NewLeague(LeagueRequest request, const Common& common) {
@@ -187,7 +189,7 @@ int ShowRoster(const std::string& text, const std::string& view, const Common& c
   Columns table(headings);
   for (const int slot : ByMinutes(roster)) {
     const PlayerRecord& p = roster.player[slot];
-    std::vector<std::string> cells{p.UniformNumber.Str(), PlayerName(p), Positions(p),
+    std::vector<std::string> cells{p.UniformNumber.Str(), FullName(p),   Positions(p),
                                    HeightText(p),         Str(p.Weight), Str(p.Age)};
     const auto rest = view == "ratings" ? RatingCells(p) : StatCells(p.Stats[view == "real" ? 1 : 2]);
     cells.insert(cells.end(), rest.begin(), rest.end());

@@ -34,6 +34,7 @@ struct Arguments {
   int record = 1;
   bool all = false, realLifeToo = false;
   cli::CoachRequest coach;
+  cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
 };
 
@@ -98,6 +99,15 @@ void AddPlay(CLI::App& app, Arguments& a) {
           "plays that you are asked for: none, default (more when it counts) or all; without it your "
           "preferences, at first default")
       ->check(CLI::IsMember({"none", "default", "all"}));
+  play->add_option("--date", a.play.Date, "date of the game, MM-DD (default: 10-01)");
+  play->add_flag("--neutral", a.play.Neutral, "on a neutral court");
+  play->add_option("--from", a.play.From, "the visitor comes from this league; such a game is not kept");
+  play->add_option(
+      "--scenario", a.play.Scenario,
+      "where the game begins: period, clock, points of visitor and home, and whose ball (visitor, "
+      "home or jump), such as \"P4 1:30 100-98 home\"");
+  play->add_option("--until", a.play.Until,
+                   "both sides play alone up to this mark, such as \"end 2\" or \"4th 2:00\"");
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");
@@ -105,11 +115,29 @@ void AddPlay(CLI::App& app, Arguments& a) {
   app.add_subcommand("start", "the menu; without a terminal one exhibition game");
 }
 
+void AddPlan(CLI::App& app, Arguments& a) {
+  auto* plan = app.add_subcommand("plan", "a coach's plan: sliders and coverage");
+  plan->add_option("team", a.coach.team, "number, abbreviation, city or nickname")->required();
+  plan->add_flag("--make", a.coach.make, "have the computer set the plan");
+  plan->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  plan->add_flag("--import", a.coach.importPlan, "take the team's exported plan over first");
+  plan->add_flag("--export", a.coach.exportPlan,
+                 "save, and write the plan with the rotation as \"<City> Coach.coa\" to the league folder");
+  plan->add_flag("--clear-defense", a.coach.clearDefense, "usual coverage of every opponent, nobody doubled");
+  plan->add_option("--opponent", a.coach.opponent, "the plan against this team; made where there is none");
+  plan->add_option("--set", a.coach.settings,
+                   "CAPTION=VALUE, 0 least to 4 most; \"Off Crash Boards\" and \"Def Crash Boards\" tell "
+                   "the two apart");
+}
+
 void AddCoach(CLI::App& app, Arguments& a) {
   const auto add = [&](const char* name, const char* help, const char* make) {
     auto* command = app.add_subcommand(name, help);
-    command->add_option("team", a.coach.team, "number, abbreviation, city or nickname")->required();
-    command->add_flag("--make", a.coach.make, make);
+    auto* team = command->add_option("team", a.coach.team, "number, abbreviation, city or nickname");
+    auto* makes = command->add_flag("--make", a.coach.make, make);
+    command->add_flag("--all", a.coach.all, "every team of the league, without asking")
+        ->needs(makes)
+        ->excludes(team);
     command->add_flag("--csv", a.common.Csv, "as comma-separated text");
     return command;
   };
@@ -117,11 +145,25 @@ void AddCoach(CLI::App& app, Arguments& a) {
   auto* rotation = add("rotation", "who stands where in each minute", "have the computer set the grid");
   rotation->add_flag("--clear", a.coach.clear, "empty the grid")->excludes("--make");
   rotation->add_flag("--yes", a.yes, "without asking");
-  auto* plan = add("plan", "a coach's plan: sliders and coverage", "have the computer set the plan");
-  plan->add_option("--opponent", a.coach.opponent, "the plan against this team; made where there is none");
-  plan->add_option("--set", a.coach.settings,
-                   "CAPTION=VALUE, 0 least to 4 most; \"Off Crash Boards\" and \"Def Crash Boards\" tell "
-                   "the two apart");
+  AddPlan(app, a);
+  auto* daily = app.add_subcommand("daily", "who sits out on which game day");
+  daily->add_option("team", a.daily.team, "number, abbreviation, city or nickname")->required();
+  daily->add_option("--toggle", a.daily.toggle, "PLAYER MM-DD: out for that game, or back in")
+      ->allow_extra_args(false);
+  daily->add_flag("--activate-all", a.daily.activateAll, "everybody plays, on every date");
+  daily->add_flag("--inactivate-all", a.daily.inactivateAll, "nobody plays on any game date")
+      ->excludes("--activate-all");
+  daily->add_option("--use", a.daily.use, "on or off: games go by this list")
+      ->check(CLI::IsMember({"on", "off"}));
+  daily->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  daily->add_flag("--yes", a.yes, "without asking");
+}
+
+/// One team is named, or all are meant; false, told, otherwise.
+bool OneOrAll(const std::string& team, bool all) {
+  if (team.empty() == all) return true;
+  std::cerr << "tipline: name one team, or say --all\n";
+  return false;
 }
 
 int RunLeague(CLI::App& group, Arguments& a) {
@@ -136,14 +178,14 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("teams")) return cli::ShowTeams(a.common);
   if (app.got_subcommand("roster")) return cli::ShowRoster(a.team, a.view, a.common);
   if (app.got_subcommand("ratings")) {
-    if (a.team.empty() == !a.all) {
-      std::cerr << "tipline: name one team, or say --all\n";
-      return kWrongUsage;
-    }
-    return cli::RateTeams(a.team, a.all, a.common);
+    return OneOrAll(a.team, a.all) ? cli::RateTeams(a.team, a.all, a.common) : kWrongUsage;
   }
-  if (app.got_subcommand("depth")) return cli::ShowDepth(a.coach, a.common);
-  if (app.got_subcommand("rotation")) return cli::ShowRotation(a.coach, a.common);
+  if (app.got_subcommand("depth") || app.got_subcommand("rotation")) {
+    if (!OneOrAll(a.coach.team, a.coach.all)) return kWrongUsage;
+    return app.got_subcommand("depth") ? cli::ShowDepth(a.coach, a.common)
+                                       : cli::ShowRotation(a.coach, a.common);
+  }
+  if (app.got_subcommand("daily")) return cli::ShowDaily(a.daily, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);

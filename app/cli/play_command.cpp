@@ -4,13 +4,18 @@
 #include <iostream>
 
 #include "cli/box_score.h"
+#include "cli/coach_marks.h"
 #include "cli/coach_session.h"
 #include "cli/commands.h"
+#include "cli/game_request.h"
 #include "cli/terminal.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
+#include "gamesetup/team_pick_screen.h"
+#include "league/data_tree.h"
 #include "league/files.h"
+#include "league/league_check.h"
 #include "league/program.h"
 #include "league/setup.h"
 
@@ -21,21 +26,47 @@ bool Coaches(const PlayRequest& request, int side) {
   return request.Coach == "both" || request.Coach == (side == 1 ? "visitor" : "home");
 }
 
-/// Who sits where, and how often he is asked.
-void SeatCoaches(const PlayRequest& request) {
-  for (int s = 1; s <= 2; ++s) game.side[s].CoachMode = "C";
-  for (int s = 1; s <= 2; ++s) {
-    if (Coaches(request, s)) game.side[s].CoachMode = "H";
+/// The screens of a game as the terminal has them: the options answer the preference screen.
+class TerminalGame : public GameScreens {
+ public:
+  TerminalGame(const PlayRequest& request, WatchUntil until) : request_(request), until_(until) {}
+  bool Preview(const ScheduleRecord&) override { return true; }
+  void GameSetupScreen(HCGAMEsetup& screen) override;
+  void OpenViewer() override { viewed_ = true; }
+  void OpenGame() override { Coach(); }
+
+  /// The game came to its end; a viewed one is told from the first play on.
+  bool Finished() {
+    if (viewed_ && game.GameOver) Coach();
+    return game.GameOver;
   }
-  if (request.Calls == "none") CallNoPlays();
-  if (request.Calls == "default") UseDefaultCalls();
-  if (request.Calls == "all") CallAllPlays();
+
+ private:
+  void UseRequest() const;
+  void Coach() const;
+
+  const PlayRequest& request_;
+  WatchUntil until_;
+  bool viewed_ = false;
+};
+
+void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
+  for (int s = 1; s <= 2; ++s) screen.ComputerOption[s] = !Coaches(request_, s);
+  if (request_.Neutral) screen.ClickNeutral(true);
+  screen.Zoom(until_);
+  screen.Ok();
+  UseRequest();
+  std::cout << TeamName(game.team[1]) << (game.NeutralGame ? " and " : " at ") << TeamName(game.team[2])
+            << (game.NeutralGame ? " on a neutral court" : ", " + screen.ArenaLabel) << "\n";
+  if (screen.PointSpreadLabel != "No Line") std::cout << screen.PointSpreadLabel << "\n";
 }
 
-/// A human starts with what his preferences leave to the computer.
-bool PlayCoached() {
-  for (int s = 1; s <= 2; ++s) {
-    Side& side = game.side[s];
+/// How often a human is asked, this game alone, and what his preferences leave to the computer.
+void TerminalGame::UseRequest() const {
+  if (request_.Calls == "none") CallNoPlays();
+  if (request_.Calls == "default") UseDefaultCalls();
+  if (request_.Calls == "all") CallAllPlays();
+  for (Side& side : game.side) {
     if (side.CoachMode != "H") continue;
     side.AutoSubWhenTired = setup.SubWhenTiredCheck;
     side.AutoSubWhenFoulTrouble = setup.SubWhenInFoulTroubleCheck;
@@ -43,46 +74,68 @@ bool PlayCoached() {
     side.BothOffenses = setup.BothOffensesCheck;
     side.BothDefenses = setup.BothDefensesCheck;
   }
-  CoachSession session(std::cin, std::cout, std::cerr,
-                       {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0});
-  return session.Run();
 }
 
-/// Loads both teams. 0, or the exit code of the refusal, told.
-int LoadTeams(const PlayRequest& request) {
-  const int visitor = FindTeam(request.Visitor);
-  if (visitor == 0) return 1;
-  const int home = FindTeam(request.Home);
-  if (home == 0) return 1;
-  if (visitor == home) return Refuse("a team can't play itself");
-  LoadLeaguePlayers();
-  program.GameKind = "E";
+void TerminalGame::Coach() const {
+  CoachSession session(std::cin, std::cout, std::cerr,
+                       {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0});
+  session.GoOnFromHere();
+}
+
+/// The visitor's league, where he comes from another one.
+bool EnterFolder(const PlayRequest& request, HCGameTeams2008& screen) {
+  if (request.From.empty()) return true;
+  const auto folder = FindLeague(request.From);
+  if (folder.empty()) return Refuse("there is no league named \"" + request.From + "\""), false;
+  if (const auto fault = LeagueFault(folder); !fault.empty()) return Refuse(fault), false;
+  screen.PickFolder(1, folder);
+  return true;
+}
+
+bool EnterTeams(const PlayRequest& request, HCGameTeams2008& screen) {
   for (int s = 1; s <= 2; ++s) {
-    const int team = s == 1 ? visitor : home;
-    if (!LoadTeam(team, s)) return Refuse("team " + std::to_string(team) + " can't be loaded");
+    const int team = FindTeam(s == 1 ? request.Visitor : request.Home, screen.PickTeams[s]);
+    if (team == 0) return false;
+    screen.PickTeam(s, team);
+    if (game.GameTeam[s] == 0) return Refuse("team " + std::to_string(team) + " can't be loaded"), false;
     const int men = CountEligible(s);
     if (men < kPositions) {
-      return Refuse(TeamName(game.team[s]) + " has only " + std::to_string(men) + " men who can play");
+      Refuse(TeamName(game.team[s]) + " has only " + std::to_string(men) + " men who can play");
+      return false;
     }
   }
-  return 0;
+  return true;
+}
+
+/// The mark of --until; "NONE" without it. False, told, when it does not lie ahead.
+bool EnterMark(const std::string& text, const HCGameTeams2008& screen, WatchUntil& mark) {
+  if (text.empty()) return true;
+  const int period = screen.ScenarioPeriod + 1;
+  const int clock = screen.ScenarioMinutes * kMinute + screen.ScenarioSeconds * 10;
+  mark = ReadMark(SplitWords(text), period);
+  if (Ahead(mark, period, clock)) return true;
+  Refuse("\"" + text + "\" is no mark ahead of this game; say such as \"end 2\" or \"4th 2:00\"");
+  return false;
 }
 
 }  // namespace
 
 int PlayExhibition(const PlayRequest& request, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
-  if (const int refused = LoadTeams(request)) return refused;
-  SeatCoaches(request);
-  program.Autoplaying = request.Coach == "none";
-  game.WatchUntil = "NONE";
-  PrepareGame();
-  std::cout << TeamName(game.team[1]) << " at " << TeamName(game.team[2]) << ", "
-            << game.team[2].ArenaName.Str() << "\n";
-  if (program.Autoplaying) {
-    NewGame();
-    program.Autoplaying = false;
-  } else if (!PlayCoached()) {
+  program.GameKind = "E";
+  program.ScenarioGame = !request.Scenario.empty();
+  HCGameTeams2008 screen;
+  WatchUntil until;
+  if (!request.Date.empty() && !EnterDate(request.Date, screen)) return 1;
+  if (program.ScenarioGame && !EnterScenario(request.Scenario, screen)) return 1;
+  if (!EnterMark(request.Until, screen, until)) return 1;
+  if (!EnterFolder(request, screen) || !EnterTeams(request, screen)) return 1;
+  TerminalGame terminal(request, until);
+  const bool played = screen.PlayCommand(terminal);
+  const bool finished = played && terminal.Finished();
+  program.Autoplaying = program.ReplayLocked = program.ScenarioGame = false;
+  if (!played) return 1;
+  if (!finished) {
     std::cout << "The game was not finished.\n";
     return 0;
   }

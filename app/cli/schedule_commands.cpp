@@ -15,24 +15,6 @@
 namespace tipline::cli {
 namespace {
 
-struct MonthDay {
-  int month = 0, day = 0;
-};
-
-/// "MM-DD"; false, told, for any other text and for days that no month has.
-bool ReadDate(const std::string& text, MonthDay& date) {
-  const char* end = text.data() + text.size();
-  const auto month = std::from_chars(text.data(), end, date.month);
-  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
-  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
-  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
-      date.day <= ScheduleDays(date.month)) {
-    return true;
-  }
-  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
-  return false;
-}
-
 std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 bool OpenSchedule(const Common& common) { return OpenTheLeague(common) && LoadSchedule(); }
@@ -78,8 +60,7 @@ void PrintGames(const std::vector<const ScheduleRecord*>& rows, bool csv) {
     std::string note = row->GameType == 'R' ? "" : std::string(GameTypeWords(row->GameType.bytes[0]));
     if (row->NeutralSite == 1) note += note.empty() ? "neutral court" : ", neutral court";
     const bool sameDay = row->Month == month && row->Day == day;
-    table.Row({sameDay ? "" : TwoDigits(row->Month) + "-" + TwoDigits(row->Day), visitor, home,
-               ResultOf(*row), note});
+    table.Row({sameDay ? "" : DateText({row->Month, row->Day}), visitor, home, ResultOf(*row), note});
     month = row->Month, day = row->Day;
   }
   table.Print(std::cout, csv);
@@ -92,12 +73,28 @@ int RowOf(const ScheduleChoice& game) {
   int found = 0;
   ForScheduledGames([&](const ScheduleRecord& row, int n) {
     const bool same = row.Team[1] == game.visitor && row.Team[2] == game.home;
-    if (found == 0 && same && IsOn(row, game.month, game.day)) found = n;
+    if (!same || !IsOn(row, game.month, game.day)) return;
+    if (found == 0 || league.ScheduleGame[static_cast<std::size_t>(found)].Status == 'P') found = n;
   });
   return found;
 }
 
 }  // namespace
+
+bool ReadDate(const std::string& text, MonthDay& date) {
+  const char* end = text.data() + text.size();
+  const auto month = std::from_chars(text.data(), end, date.month);
+  const bool dash = month.ec == std::errc() && month.ptr != end && *month.ptr == '-';
+  const auto day = dash ? std::from_chars(month.ptr + 1, end, date.day) : month;
+  if (dash && day.ec == std::errc() && day.ptr == end && date.day >= 1 &&
+      date.day <= ScheduleDays(date.month)) {
+    return true;
+  }
+  Refuse("\"" + text + "\" is no date; write month and day as MM-DD, such as 10-30");
+  return false;
+}
+
+std::string DateText(const MonthDay& date) { return TwoDigits(date.month) + "-" + TwoDigits(date.day); }
 
 int MakeSchedule(const ScheduleArguments& a, const Common& common) {
   MonthDay start{10, 30};
@@ -153,7 +150,8 @@ int SummarizeSchedule(const Common& common) {
 }
 
 int ImportSchedule(const ScheduleArguments& a, const Common& common) {
-  if (!OpenSchedule(common)) return 1;
+  HCSCHEDULE editor;
+  if (!OpenTheLeague(common) || !editor.Open()) return 1;
   return HcImportCSVSchedule(std::filesystem::absolute(a.File)) ? 0 : 1;
 }
 
@@ -201,7 +199,7 @@ int ListSchedules(const ScheduleArguments& a, const Common& common) {
 }
 
 int NameSchedule(const ScheduleArguments& a, bool rename, const Common& common) {
-  if (!OpenTheLeague(common)) return 1;
+  if (!OpenSchedule(common)) return 1;
   const HCNEWSCHEDULE screen{a.Name};
   return (rename ? screen.RenameCommand() : screen.CreateCommand()) ? 0 : 1;
 }

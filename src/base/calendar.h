@@ -26,4 +26,7 @@ constexpr int DaysOfMonth(int month) {
   return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
 }
 
+/// Days of a calendar month that a game can be set on: February has 29.
+constexpr int ScheduleDays(int month) { return month == 2 ? 29 : DaysOfMonth(month); }
+
 }  // namespace tipline

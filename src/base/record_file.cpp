@@ -1,9 +1,14 @@
 #include "base/record_file.h"
 
+#include <fcntl.h>
+
+#include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <memory>
 #include <system_error>
+
+#include "base/file_handle.h"
+#include "base/undo_journal.h"
 
 namespace tipline {
 namespace {
@@ -20,45 +25,43 @@ File OpenFile(const std::filesystem::path& path, const char* mode) {
 }  // namespace
 
 bool RecordFile::Exists() const {
+  UndoUnfinished(path_);
   std::error_code error;
   return std::filesystem::is_regular_file(path_, error);
 }
 
-int RecordFile::Count() const {
+long long RecordFile::Bytes() const {
+  UndoUnfinished(path_);
   std::error_code error;
   const auto size = std::filesystem::file_size(path_, error);
-  return error ? 0 : static_cast<int>(size / static_cast<unsigned>(slot_));
+  return error ? 0 : static_cast<long long>(size);
 }
 
 void RecordFile::ReadBytes(int n, u8* bytes, int length) const {
   std::fill(bytes, bytes + length, u8{0});
   if (n < 1) return;
+  UndoUnfinished(path_);
   const File file = OpenFile(path_, "rb");
   if (!file || std::fseek(file.get(), static_cast<long>(n - 1) * slot_, SEEK_SET) != 0) return;
   [[maybe_unused]] const auto got = std::fread(bytes, 1, static_cast<std::size_t>(length), file.get());
 }
 
-bool RecordFile::WriteBytes(int n, const u8* bytes, int length) const {
-  if (n < 1) return false;
-  const long start = static_cast<long>(n - 1) * slot_;
-  File file = OpenFile(path_, "r+b");
-  if (!file) file = OpenFile(path_, "w+bx");  // x: a file that is there is never emptied
-  if (!file || std::fseek(file.get(), start, SEEK_SET) != 0) return false;
-  const auto size = static_cast<std::size_t>(length);
-  if (std::fwrite(bytes, 1, size, file.get()) != size) return false;
-  // A new slot at the end is filled up, so that the file's length stays a whole number of slots.
-  if (std::fseek(file.get(), 0, SEEK_END) != 0) return false;
-  if (std::ftell(file.get()) < start + slot_) {
-    if (std::fseek(file.get(), start + slot_ - 1, SEEK_SET) != 0) return false;
-    if (std::fputc(0, file.get()) == EOF) return false;
+bool RecordFile::WriteSlots(const Slots& slots) const {
+  std::vector<FilePiece> pieces;
+  long long end = 0;
+  for (const auto& [n, bytes] : slots) {
+    if (n < 1) return false;
+    pieces.push_back({(n - 1LL) * slot_, bytes});
+    end = std::max(end, static_cast<long long>(n) * slot_);
   }
-  return std::fclose(file.release()) == 0;
+  return pieces.empty() || ChangeInPlace(path_, pieces, end);
 }
 
 void RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& visit) const {
   constexpr int kSlotsAtOnce = 64;
   const auto slot = static_cast<std::size_t>(slot_);
   std::vector<u8> buffer(slot * kSlotsAtOnce);
+  UndoUnfinished(path_);
   const File file = OpenFile(path_, "rb");
   for (int n = 1; n <= count; n += kSlotsAtOnce) {
     const std::size_t got = file ? std::fread(buffer.data(), 1, buffer.size(), file.get()) : 0;
@@ -84,6 +87,7 @@ bool RecordFile::RewriteAll(int count, const std::function<void(int, u8*)>& fill
 
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok) {
   std::string bytes;
+  UndoUnfinished(path);
   const File file = OpenFile(path, "rb");
   std::size_t got = file ? 1 : 0;
   while (got > 0) {
@@ -100,16 +104,20 @@ std::string ReadWholeFile(const std::filesystem::path& path, bool* ok) {
 }
 
 bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
+  // Shorter files hold nothing that is not soon told again, and a flush takes as long as a game.
+  constexpr std::size_t kWorthAFlush = 4096;
+  UndoUnfinished(path);  // later it would put old bytes into the new file
   auto temporary = path;
   temporary += ".new";
   std::error_code error;
   {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (out) std::filesystem::rename(temporary, path, error);
-    if (out && !error) return true;
+    FileHandle out(temporary, O_WRONLY | O_CREAT | O_TRUNC);
+    if (!out.Open()) return false;
+    bool whole = out.WriteAt(0, reinterpret_cast<const u8*>(bytes.data()), bytes.size());
+    whole = whole && (bytes.size() < kWorthAFlush || out.Flush());
+    whole = out.Close() && whole;
+    if (whole) std::filesystem::rename(temporary, path, error);
+    if (whole && !error) return true;
   }
   std::filesystem::remove(temporary, error);
   return false;

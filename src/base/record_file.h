@@ -1,9 +1,11 @@
 #pragma once
 // Files of equal slots: record n (from 1) starts at byte (n - 1) x slot length, a record may be shorter than
-// its slot. A file is open for the length of one operation only.
+// its slot. A file is open for the length of one operation only. Whenever the program is killed, or the disk
+// is full, a file holds all that an operation writes or nothing of it.
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/record.h"
@@ -16,8 +18,11 @@ class RecordFile {
 
   const std::filesystem::path& Path() const { return path_; }
   bool Exists() const;
-  /// Whole slots in the file, 0 when there is no file.
-  int Count() const;
+  /// Length of the file, 0 when there is none.
+  long long Bytes() const;
+  /// Slots in it. A file may end with its last record instead of its slot: one that is more than half there
+  /// counts.
+  int Count() const { return static_cast<int>((Bytes() + slot_ / 2) / slot_); }
 
   /// Slot n filled into `record`; what lies past the end of the file, or of a missing one, reads as zeros.
   template <Described R>
@@ -31,8 +36,12 @@ class RecordFile {
   /// with zeros, as needed. False when the file could not be written.
   template <Described R>
   [[nodiscard]] bool Write(int n, const R& record) const {
-    return WriteBytes(n, RecordBytes(record).data(), R::kRecordSize);
+    return WriteSlots({{n, RecordBytes(record)}});
   }
+
+  /// Several records, each with the number of its slot, in the same way and in one step: all of them or none.
+  using Slots = std::vector<std::pair<int, std::vector<u8>>>;
+  [[nodiscard]] bool WriteSlots(const Slots& slots) const;
 
   /// One pass over slots 1 to `count` with one buffer; visit(n, bytes) sees whole slots, zeros past the end.
   void ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
@@ -44,7 +53,6 @@ class RecordFile {
 
  private:
   void ReadBytes(int n, u8* bytes, int length) const;
-  bool WriteBytes(int n, const u8* bytes, int length) const;
 
   std::filesystem::path path_;
   int slot_;
@@ -53,7 +61,8 @@ class RecordFile {
 /// The whole file as bytes; an empty text when it can't be read (then `*ok`, if given, is false).
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok = nullptr);
 
-/// Writes a temporary file beside `path` and renames it over it: a crash leaves the old file or the new one.
+/// Writes a temporary file beside `path`, flushes it and renames it over it: a crash, or power loss, leaves
+/// the old file or the new one. False, with the old one kept, when that failed.
 [[nodiscard]] bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace tipline

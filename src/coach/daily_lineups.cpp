@@ -1,5 +1,6 @@
 #include "coach/daily_lineups.h"
 
+#include "league/player_values.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -11,13 +12,10 @@ bool IsDate(int date) {
   return month >= 1 && month <= 12 && day >= 1 && day <= 31;
 }
 
-std::string NameOf(const PlayerRecord& p) {
-  return std::string(Trimmed(p.FirstName.Str() + " " + p.LastName.Str()));
-}
-
-bool Refuse(const std::string& message) {
-  platform::dialogs().Tell(message);
-  return false;
+/// Enters the date; false, told, when the man's entries are taken.
+bool Enter(Roster& own, int slot, int date) {
+  return EnterDate(own.daily[slot], date) ||
+         platform::RefusedWith(FullName(own.player[slot]) + " sits out on 100 days already!");
 }
 
 }  // namespace
@@ -29,13 +27,15 @@ std::string HcDailyLineups::Cell(int slot, int date) const {
 bool HcDailyLineups::Toggle(int slot, int date) {
   if (slot < 1 || slot > kRosterSlots || !OnTeam(own, slot) || !IsDate(date)) return false;
   const PlayerRecord& player = own.player[slot];
-  if (AwayOn(player, date)) return Refuse(NameOf(player) + " is not available for this day!");
+  if (AwayOn(player, date)) {
+    return platform::RefusedWith(FullName(player) + " is not available for this day!");
+  }
   DailyRecord& daily = own.daily[slot];
   if (SitsOut(daily, date)) {
     ClearDate(daily, date);
     return true;
   }
-  return EnterDate(daily, date) || Refuse(NameOf(player) + " sits out on 100 days already!");
+  return Enter(own, slot, date);
 }
 
 bool HcDailyLineups::ActivateAll() {
@@ -48,10 +48,8 @@ bool HcDailyLineups::InactivateAll(std::span<const int> gameDates) {
   if (!platform::dialogs().Ask("Inactivate all players for every game?")) return false;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(own, slot)) continue;
-    DailyRecord& daily = own.daily[slot];
-    daily.InactiveDates = {};  // dates of an older schedule make room
     for (const int date : gameDates) {
-      if (IsDate(date) && !SitsOut(daily, date) && !EnterDate(daily, date)) break;
+      if (IsDate(date) && !SitsOut(own.daily[slot], date) && !Enter(own, slot, date)) break;
     }
   }
   return true;

@@ -20,7 +20,8 @@ struct HcDailyLineups {
   bool Toggle(int slot, int date);
   /// After asking, clears every date of every man. False when the answer is no.
   bool ActivateAll();
-  /// After asking, enters the team's game dates for every man. False when the answer is no.
+  /// After asking, enters the team's game dates for every man beside those he has. A man whose 100 entries
+  /// are full plays on the dates that are left; the coach is told of him. False when the answer is no.
   bool InactivateAll(std::span<const int> gameDates);
   /// Whether games go by these lists.
   void UseDailyLinesIfAvailableCheck(bool on) { own.coach.UseDailyInactive = on ? 1 : 0; }

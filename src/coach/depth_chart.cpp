@@ -9,11 +9,6 @@ namespace {
 constexpr int kRanks = 6;
 constexpr int kSpecialLineups = 7;
 
-double MinutesPerGame(const PlayerRecord& player) {
-  const StatLine& real = player.Stats[1];
-  return real.G > 0 ? static_cast<double>(real.Min) / real.G : 0;
-}
-
 /// A man who played little counts for less.
 double ByGames(const PlayerRecord& player) {
   const StatLine& real = player.Stats[1];

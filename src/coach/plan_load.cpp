@@ -6,15 +6,16 @@
 #include "league/markers.h"
 
 namespace tipline {
+
 bool ReadyPlan(Roster& roster) {
+  const int version = PlanVersionOf(roster.team.Year);
+  const bool old = roster.coach.PlanVersion != version;
   bool changed = false;
-  if (TakeMark(roster.team.PlanMark, 9)) {
+  if (TakeMark(roster.team.PlanMark, 9) || old) {
     SetDefaultPlanSliders(roster);
     changed = true;
   }
-  const int version = PlanVersionOf(roster.team.Year);
-  if (roster.coach.PlanVersion == version) return changed;
-  SetDefaultPlanSliders(roster);
+  if (!old) return changed;
   SetDefaultDepthCharts(roster);
   ClearRotationGrid(roster);
   roster.coach.PlanVersion = static_cast<i16>(version);

@@ -8,6 +8,7 @@
 namespace tipline {
 namespace {
 
+constexpr int kNormalCoverage = 3;
 constexpr int kMostCoverage = 6;  // "Foul"
 constexpr int kMostUsage = 3;     // "100%"
 
@@ -123,10 +124,7 @@ std::string PlanScreen::Title() const {
 }
 
 bool PlanScreen::ChooseOpponent(int teamNo) {
-  if (plan == 0) {
-    platform::dialogs().Tell("You can't change the team for this gameplan!");
-    return false;
-  }
+  if (plan == 0) return platform::RefusedWith("You can't change the team for this gameplan!");
   if (teamNo != 0 && !HoldsTeam(teamNo)) return false;
   own.coach.PlanOpponent[plan] = static_cast<i16>(teamNo);
   return true;
@@ -158,7 +156,8 @@ bool PlanScreen::StepCell(int slot, PlanColumn column) {
     cells.usage = cells.usage >= kMostUsage ? 0 : static_cast<u8>(cells.usage + 1);
   } else if (index < cells.coverage.size()) {
     u8& cell = *cells.coverage[index];
-    cell = cell >= kMostCoverage ? 1 : static_cast<u8>(cell + 1);
+    const int shown = cell == 0 ? kNormalCoverage : cell;  // nobody has set it yet
+    cell = shown >= kMostCoverage ? 1 : static_cast<u8>(shown + 1);
   } else {
     u8& cell = *cells.doubled[index - cells.coverage.size()];
     cell = cell == 0 ? 1 : 0;

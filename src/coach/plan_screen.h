@@ -50,8 +50,8 @@ struct PlanScreen {
   /// "Computer Set Matchups": the computer finds the match-ups of the coach's games.
   void ComputerMatchupsCheck(bool on) { own.coach.ComputerMatchups = on ? 1 : 0; }
   /// Steps a cell of the grid for a man of the opponent: coverage on to the next and from "Foul" to "Off",
-  /// double team on and off, usage on and from "100%" to "25%". False, and nothing changes, for a slot
-  /// without a man.
+  /// one that was never set from "Normal"; double team on and off, usage on and from "100%" to "25%". False,
+  /// and nothing changes, for a slot without a man.
   bool StepCell(int slot, PlanColumn column);
   /// Every man of the plan is covered as usual, nobody doubled; the usage stays.
   void ClearPlayerDefense();

@@ -60,14 +60,14 @@ void SetComputerRotationGrid(Roster& roster, const RulesRecord& rules) {
   if (SumOfRanks(roster) <= kThinChart) SetDefaultDepthCharts(roster, rules);
   ClearRotationGrid(roster);
   const int regulation = rules.PeriodList == 2 ? 2 : 4;
-  // The grid has 20 minutes a period; what a damaged rule adds to them is played by the last one.
+  // A half is two builds of at most ten minutes; what a damaged rule adds is played by the twentieth.
   const int minutes = regulation == 2 ? Clamp(rules.MinuteList / 2, 1, kFoldMinute)
                                       : Clamp<int>(rules.MinuteList, 1, kGridMinutes);
-  const auto rejected = [&](const RotationSheet& sheet) { return sheet.Open() < regulation * minutes; };
-  for (int run = 1; run <= kMostRuns; ++run) {
+  for (int run = 1;; ++run) {
     const RotationSheet sheet = Draw(roster, regulation, minutes);
-    if (run < kMostRuns && rejected(sheet)) continue;
-    return Write(sheet, roster);
+    // A sheet with many holes stands as it is; a fuller one is drawn again, and the last one stands.
+    const bool full = sheet.Open() < regulation * minutes;
+    if (run == kMostRuns || !full) return Write(sheet, roster);
   }
 }
 

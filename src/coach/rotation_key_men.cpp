@@ -11,7 +11,7 @@ namespace {
 
 using KeyMen = Table<int, 1, 5>;
 
-constexpr int kMostTarget = 50;  // who should play more comes first all the same
+constexpr int kMostTarget = 50;  // higher targets count as this one
 constexpr int kOverTarget = 2;   // minutes above his target at which a first choice is full
 constexpr int kShortStint = 6;   // of a man who is needed elsewhere, too
 
@@ -40,8 +40,8 @@ KeyMen FindKeyMen(const RotationSheet& sheet) {
 
 /// He has played enough of a season to be counted on.
 bool Proven(const PlayerRecord& p) {
-  const int year = p.Year < 1920 || p.Year > 2100 ? 2020 : std::min<int>(p.Year, kLastEraYear);
-  return p.Stats[1].G > EraRow(year, IsCollegeLevel(p), year).Games / 4.0;
+  const int year = p.Year < 1920 || p.Year > 2100 ? 2020 : p.Year;
+  return p.Stats[1].G > EraRow(year, IsCollegeLevel(p), kLastEraYear).Games / 4.0;
 }
 
 /// Writes the stints of one first choice at his position.

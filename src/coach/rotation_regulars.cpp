@@ -4,6 +4,7 @@
 
 #include "base/numbers.h"
 #include "coach/rotation_sheet.h"
+#include "league/player_values.h"
 
 namespace tipline {
 namespace {
@@ -43,10 +44,6 @@ void PlaceRegular(RotationSheet& sheet, int slot, int round) {
     const int n = std::max(period == 4 ? 4 : 3, Int(man.target - man.placed / 4.0 + 0.5));
     sheet.PlaceBlock(slot, period, positions.In(period, round), n, kNoLimit);
   }
-}
-
-bool Lists(const PlayerRecord& p, int position) {
-  return p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;
 }
 
 /// He stands at this position in the minute before or after.

@@ -1,26 +1,21 @@
 #include "coach/sub_screens.h"
-#include "engine/eligible.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 
 #include "coach/substitutions.h"
+#include "engine/eligible.h"
 #include "engine/fatigue.h"
+#include "league/player_values.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
 
-std::string NameOf(int side, int slot) {
-  const PlayerRecord& p = PlayerAt(side, slot);
-  return std::string(Trimmed(p.FirstName.Str() + " " + p.LastName.Str()));
-}
+using platform::RefusedWith;
 
-bool Refuse(const std::string& message) {
-  platform::dialogs().Tell(message);
-  return false;
-}
+std::string NameOf(int side, int slot) { return FullName(PlayerAt(side, slot)); }
 
 int PlaceOf(const Table<int, 1, kPositions>& lineup, int slot) {
   for (int p = 1; p <= kPositions; ++p) {
@@ -33,7 +28,7 @@ int PlaceOf(const Table<int, 1, kPositions>& lineup, int slot) {
 bool ShooterMissing(int side, const Table<int, 1, kPositions>& lineup) {
   if (!IsFreeThrow(game.GameState) || side != game.OffenseSide || game.BallPlayer == 0) return false;
   if (PlaceOf(lineup, game.BallPlayer) != 0) return false;
-  return !Refuse(NameOf(side, game.BallPlayer) + " is at the line..he must be in the game!");
+  return !RefusedWith(NameOf(side, game.BallPlayer) + " is at the line..he must be in the game!");
 }
 
 /// Who a lineup names for a position, of those who may appear and are not taken yet; 0 nobody.
@@ -55,11 +50,12 @@ int NamedFor(int side, int index, int position, const Table<int, 1, kPositions>&
 bool KeptOff(int side, int slot) {
   const Side& s = game.side[side];
   if (s.AutoSubWhenTired == 1 && ManAt(side, slot).Energy < 80) {
-    return !Refuse(NameOf(side, slot) +
-                   " is tired!. Uncheck 'Auto Sub When Tired' to allow for tired players to be entered.");
+    return !RefusedWith(
+        NameOf(side, slot) +
+        " is tired!. Uncheck 'Auto Sub When Tired' to allow for tired players to be entered.");
   }
   if (s.AutoSubWhenFoulTrouble == 1 && PlayerAt(side, slot).Stats[3].Pf >= FoulTroubleLimit()) {
-    return !Refuse(
+    return !RefusedWith(
         NameOf(side, slot) +
         " is in foul trouble!. Uncheck 'Auto Sub When In Foul Trouble' to allow for players in foul "
         "trouble to be entered.");
@@ -70,7 +66,8 @@ bool KeptOff(int side, int slot) {
 }  // namespace
 
 bool HCQUICKSUB::PutIn(int position, int slot) {
-  if (slot < 1 || slot > kRosterSlots || !MayAppear(side, slot)) return Refuse("You must select a player!");
+  if (slot < 1 || slot > kRosterSlots || !MayAppear(side, slot))
+    return RefusedWith("You must select a player!");
   if (const int place = PlaceOf(lineup, slot)) {
     std::swap(lineup[place], lineup[position]);
     return true;
@@ -97,7 +94,7 @@ bool HCQUICKSUB::QuickLineup(int index) {
 }
 
 bool HCQUICKSUB::Ok() {
-  if (PlaceOf(lineup, 0) != 0) return Refuse("You must fill all 5 lineup spots!");
+  if (PlaceOf(lineup, 0) != 0) return RefusedWith("You must fill all 5 lineup spots!");
   if (ShooterMissing(side, lineup)) return false;
   game.side[side].Lineup = lineup;
   return true;
@@ -105,9 +102,7 @@ bool HCQUICKSUB::Ok() {
 
 bool HCquickOnePlayerSub::Choose(int slot) {
   if (slot >= 1 && slot <= kRosterSlots && MayAppear(side, slot)) {
-    const PlayerRecord& p = PlayerAt(side, slot);
-    const bool fits =
-        p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;
+    const bool fits = Lists(PlayerAt(side, slot), position);
     if (!fits && !platform::dialogs().Ask("Use " + NameOf(side, slot) + " out of position?")) return false;
   }
   HCQUICKSUB panel(side);

@@ -129,7 +129,7 @@ void WeighVersatility(Candidate& c) {
 
 // Men in foul trouble wait. So do those who have not played, as long as the rotation is not through.
 void WeighFoulsAndFirstEntry(Candidate& c, const Bench& bench, int foulLimit) {
-  if (bench.foulCheck && c.p.Stats[3].Pf >= foulLimit && RealMinutes(c.p) <= 45 + 3 * Rnd()) c.weight = 0;
+  if (bench.foulCheck && c.p.Stats[3].Pf >= foulLimit && MinutesPerGame(c.p) <= 45 + 3 * Rnd()) c.weight = 0;
   if (c.man.PlayerGameTime > 0 || LastPeriod() || game.Blowout == 1) return;
   const bool early = bench.played >= 2 && game.Period <= Rnd(3);
   if (early || (bench.played >= 12 && game.Period > 1)) c.Times(0.5);

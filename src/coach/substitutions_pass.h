@@ -1,6 +1,7 @@
 #pragma once
 // What the stages of LoadLineups share.
 #include "engine/game_state.h"
+#include "league/player_values.h"
 
 namespace tipline {
 
@@ -44,12 +45,6 @@ inline bool TiredCheck(const SubPass& pass, int side) {
 }
 inline bool AnySubCheck(int side) {
   return game.side[side].AutoSubWhenTired == 1 || game.side[side].AutoSubWhenFoulTrouble == 1;
-}
-inline bool Lists(const PlayerRecord& p, int position) {
-  return p.PrimaryPosition == position || p.SecondaryPosition == position || p.SpotPosition == position;
-}
-inline double RealMinutes(const PlayerRecord& p) {
-  return p.Stats[1].G > 0 ? static_cast<double>(p.Stats[1].Min) / p.Stats[1].G : 0;
 }
 /// Shoots free throws too badly to protect a lead with. Draws.
 inline bool PoorFreeThrower(const PlayerRecord& p) {

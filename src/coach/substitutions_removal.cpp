@@ -134,7 +134,7 @@ void RestTiredMan(const SubPass& pass, const FloorMan& f, bool betterManReady) {
 
 bool InFoulTrouble(const SubPass& pass, int side, int slot) {
   const PlayerRecord& p = PlayerAt(side, slot);
-  return p.Stats[3].Pf >= pass.foulLimit && RealMinutes(p) <= 45 + 3 * Rnd();
+  return p.Stats[3].Pf >= pass.foulLimit && MinutesPerGame(p) <= 45 + 3 * Rnd();
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "engine/chances_terms.h"
 
+#include "league/player_values.h"
+
 namespace tipline {
 
 namespace {
@@ -12,11 +14,6 @@ void Hurry(Thousandths& chance, double factor) {
   for (const int mark : {20, 15, 10, 5}) {
     if (game.GameClock <= mark) chance.Times(factor);
   }
-}
-
-bool PlaysAt(const PlayerRecord& player, int position) {
-  return player.PrimaryPosition == position || player.SecondaryPosition == position ||
-         player.SpotPosition == position;
 }
 
 }  // namespace
@@ -70,7 +67,7 @@ void Condition(const Duel& duel, Thousandths& chance, int mismatch) {
   OutOfPosition(duel, chance, -0.5);
   if (!duel.guarded || game.BallSlot < 1 || game.BallSlot > kPositions) return;
   const bool switched = duel.defense.Lineup[game.BallSlot] != game.BallDefender;
-  if (switched && !PlaysAt(duel.defender, game.BallSlot)) chance.Add(mismatch);
+  if (switched && !Lists(duel.defender, game.BallSlot)) chance.Add(mismatch);
 }
 
 void DefenseTerms(Thousandths& chance, double defenseFactor) {

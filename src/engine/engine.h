@@ -67,8 +67,8 @@ void TimeoutChosen();
 std::string Prompt();
 
 /// Loads a team and its roster into side 1 or 2 of the game: records, repaired where they need it and then
-/// written back once, days off, today's form, availability, shot mix, stints. False when `teamNo` is outside
-/// 1..720 or no team holds that slot; the side is then empty.
+/// written back once, days off, today's form, availability, shot mix, stints. False, and the side stays as it
+/// is, when `teamNo` is outside 1..720 or no team holds that slot.
 bool LoadTeam(int teamNo, int side);
 /// What a load works out for a side that holds its records already.
 void ReadySide(int side);

@@ -58,15 +58,14 @@ void KeepFormerMember(Roster& roster, int slot) {
 
 bool LoadTeam(int teamNo, int side) {
   Roster roster;
-  const bool found = ReadRoster(teamNo, roster);
-  game.GameTeam[side] = found ? teamNo : 0;
+  if (!ReadRoster(teamNo, roster)) return false;
+  game.GameTeam[side] = teamNo;
   game.team[side] = roster.team;
   game.coach[side] = roster.coach;
   for (int slot = 0; slot <= kRosterSlots; ++slot) {
-    game.player[side][slot] = found ? roster.player[slot] : PlayerRecord{};
+    game.player[side][slot] = roster.player[slot];
     game.loaded[side][slot] = {};
   }
-  if (!found) return false;
   GoByDailyList(roster, side);
   ReadySide(side);
   return true;
@@ -90,7 +89,11 @@ void ReadySide(int side) {
 
 bool SaveTeam(int teamNo, int side) {
   if (teamNo < 1 || teamNo > kTeams || game.GameTeam[side] != teamNo) return false;
-  if (program.PlayoffGame && game.team[side].TeamType == 'C') return true;
+  // The final of the in-season cup does not count.
+  const int row = game.ScheduleRow;
+  if (row > 0 && row <= league.GameCount() &&
+      league.ScheduleGame[static_cast<std::size_t>(row)].GameType == 'C')
+    return true;
   Roster roster;
   roster.TeamNo = teamNo;
   roster.team = game.team[side];

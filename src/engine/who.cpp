@@ -1,6 +1,5 @@
 // Blocks, steals, assists and fouls: each a draw among the five, by what a man does in a real season.
 #include "engine/who.h"
-#include "engine/eligible.h"
 
 #include <algorithm>
 #include <array>
@@ -9,9 +8,11 @@
 
 #include "engine/chances.h"
 #include "engine/court.h"
+#include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/fast_break.h"
 #include "engine/resolution.h"
+#include "league/player_values.h"
 #include "league/program.h"
 
 namespace tipline {
@@ -212,7 +213,7 @@ double FoulByPlace(int position, int slot) {
 double FoulTrouble(const PlayerRecord& f) {
   const StatLine& real = f.Stats[1];
   const int fouls = f.Stats[3].Pf;
-  const double minutes = real.G > 0 ? static_cast<double>(real.Min) / real.G : 0;
+  const double minutes = MinutesPerGame(f);
   double w = minutes < 43 + 5 * Rnd() ? 0.5 : 1;
   if (fouls >= 1) {
     if (league.rules.PeriodList == 2) {

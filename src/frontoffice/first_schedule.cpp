@@ -54,8 +54,9 @@ FirstSchedule MakeFirstSchedule(std::vector<int> teams, int games, int year, std
   random.Seed(seed);
   const ScheduleDraft draft = DrawFirstSchedule(teams, games);
   random = before;
-  return {ScheduleRows(draft, year), std::to_string(draft.games.size()) + " games are scheduled, " +
-                                         std::to_string(games) + " for a team. " + ScheduleMessage(draft)};
+  const std::string each = draft.missing == 0 ? ", " + std::to_string(games) + " for a team" : "";
+  return {ScheduleRows(draft, year),
+          std::to_string(draft.games.size()) + " games are scheduled" + each + ". " + ScheduleMessage(draft)};
 }
 
 }  // namespace tipline

@@ -36,13 +36,13 @@ int Number(std::string_view text) {
   return end.ec == std::errc() && end.ptr == text.data() + text.size() ? number : -1;
 }
 
-/// Calendar month by name, by its first three letters, or by its place in the season (1 is September); 0 for
-/// no month.
+/// Calendar month by the first three letters of its name, or by its place in the season (1 is September); 0
+/// for no month.
 int MonthOf(std::string_view text) {
   const std::string wanted = Upper(Trimmed(text));
   for (int season = 1; season <= 12; ++season) {
     const std::string name = Upper(kSeasonMonthNames[season - 1]);
-    if (wanted == name || wanted == name.substr(0, 3)) return CalendarMonth(season);
+    if (wanted.size() >= 3 && wanted.substr(0, 3) == name.substr(0, 3)) return CalendarMonth(season);
   }
   const int season = Number(text);
   return season >= 1 && season <= 12 ? CalendarMonth(season) : 0;
@@ -82,7 +82,7 @@ bool ReadGame(std::span<const std::string> fields, int n, ScheduleRecord& row) {
 bool Replace(std::vector<ScheduleRecord> rows) {
   std::swap(rows, league.ScheduleGame);
   const int year = league.ScheduleYear;
-  league.ScheduleYear = league.team[1].Year;
+  TakeSeasonOfLeague();
   if (SaveSchedule()) return LoadSchedule();
   std::swap(rows, league.ScheduleGame);
   league.ScheduleYear = year;
@@ -115,7 +115,6 @@ bool HcImportCSVSchedule(const std::filesystem::path& file) {
   if (items.size() / 4 > kMostImported) {
     return RefusedWith("At most " + std::to_string(kMostImported) + " games can be imported!");
   }
-  if (Number(items[0]) < 0 && items[0].size() >= 3) items[0].resize(3);
   std::vector<ScheduleRecord> rows(1);
   for (std::size_t k = 0; k < items.size(); k += 4) {
     ScheduleRecord row;

@@ -38,6 +38,11 @@ std::filesystem::path NewFile(std::string_view typed) {
   return LeagueFile(name);
 }
 
+/// The spare copy follows the schedule that becomes current, so that it never fills another one's empty file.
+bool FollowWithSpare(const std::filesystem::path& file) {
+  return Written(WriteWholeFile(SpareSchedule(), ReadWholeFile(file)), SpareSchedule());
+}
+
 /// The rules name the current schedule; false, told and as before, when they can't be written.
 bool SetCurrent(std::string_view name) {
   const auto before = league.rules.ScheduleFile;
@@ -64,7 +69,8 @@ std::vector<std::string> ScheduleFileList() {
 
 bool ChooseSchedule(std::string_view file) {
   for (const auto& name : ScheduleFileList()) {
-    if (name == file && name.size() <= kLongestName) return SetCurrent(name) && LoadSchedule();
+    if (name != file || name.size() > kLongestName) continue;
+    return FollowWithSpare(LeagueFile(name)) && SetCurrent(name) && LoadSchedule();
   }
   return RefusedWith("There is no schedule " + std::string(file) + " in this league!");
 }
@@ -72,7 +78,7 @@ bool ChooseSchedule(std::string_view file) {
 bool HCNEWSCHEDULE::CreateCommand() const {
   const auto file = NewFile(NameText);
   if (file.empty() || !Written(WriteWholeFile(file, ""), file)) return false;
-  if (SetCurrent(file.filename().string())) return LoadSchedule();
+  if (FollowWithSpare(file) && SetCurrent(file.filename().string())) return LoadSchedule();
   std::error_code error;
   std::filesystem::remove(file, error);
   return false;

@@ -128,8 +128,9 @@ void Placer::PlaceDivisional() {
   }
 }
 
-/// Teams of different divisions meet at most so often, while there are two dates to choose from. A most of
-/// two and more would rule nothing out here: those games are left to the second pass.
+/// Games between divisions for leagues where pairs should hardly meet twice: visitors who have met the host
+/// seldom, and who share two open dates with it, come first. With a most of two or more all these games are
+/// left to the second pass.
 void Placer::FirstPass() {
   if (most_ >= 2) return;
   const int last = games_ + extra_ + slack_;
@@ -297,10 +298,6 @@ std::string ScheduleRequestProblem(int activeTeams, int games, int divisional) {
   if (divisional < 0 || divisional > 20 || divisional % 2 != 0) {
     return "Divisional games must be zero or an even number between 2 and 20 games.";
   }
-  if (activeTeams * games / 2 > kMostScheduleRows) {
-    return "A schedule holds at most " + std::to_string(kMostScheduleRows) + " games, these would be " +
-           std::to_string(activeTeams * games / 2) + ".";
-  }
   return "";
 }
 
@@ -361,7 +358,7 @@ bool HCCOMPUTERSCHEDULE::GENERATECommand() {
     Caption += '.';
   });
   Caption.clear();
-  league.ScheduleYear = league.team[1].Year;  // the season of the league, as for an imported schedule
+  TakeSeasonOfLeague();
   const auto rows = ScheduleRows(draft, league.ScheduleYear);
   league.ScheduleGame.resize(1);
   league.ScheduleGame.insert(league.ScheduleGame.end(), rows.begin(), rows.end());

@@ -27,7 +27,7 @@ struct ScheduleDraft {
   std::vector<Date> dates;  ///< of the slots; slot 1 is `dates[0]`
   int missing = 0;          ///< games that could not be placed; below 0 when the divisions ask for too many
   int divisions = 0;        ///< in use
-  int slack = 0;            ///< more slots to choose from: 2 for uneven divisions or a single one
+  int slack = 0;            ///< more slots to choose from, where the divisions do not come out even
   bool filledIn = false;    ///< games were added without regard to divisions
 };
 

@@ -67,8 +67,6 @@ bool MeetInPoolPlay(const ScheduleChoice& choice, int except) {
 
 }  // namespace
 
-int ScheduleDays(int month) { return month == 2 ? 29 : DaysOfMonth(month); }
-
 bool ScheduleAllows(const ScheduleChoice& choice, int except) {
   const TournamentPools pools = ReadPools();
   const char type = DateTypeOf(pools, choice.month, choice.day);
@@ -79,11 +77,6 @@ bool ScheduleAllows(const ScheduleChoice& choice, int except) {
     return RefusedWith("Selected teams are already scheduled for a Pool Play game!", "Invalid Choice!");
   }
   return true;
-}
-
-bool RefusedWith(const std::string& message, std::string_view title) {
-  platform::dialogs().Tell(message, title);
-  return false;
 }
 
 }  // namespace tipline

@@ -1,9 +1,7 @@
 #pragma once
 // What a game put on the schedule by hand must keep.
-#include <string>
-#include <string_view>
-
 #include "league/schedule.h"
+#include "platform/dialogs.h"
 
 namespace tipline {
 
@@ -12,9 +10,6 @@ struct ScheduleChoice {
   int visitor = 0, home = 0;  ///< team numbers, 999 the undecided one, 0 none chosen
   int month = 0, day = 0;     ///< calendar date, 0 none chosen
 };
-
-/// Days that can be chosen in a calendar month, February with 29; 0 outside 1 to 12.
-int ScheduleDays(int month);
 
 /// Whether the league's rules of dates and pools let two different teams play on a date: asks or tells where
 /// they do not. `except` is the row that the game replaces, 0 for a new one.
@@ -29,7 +24,6 @@ void ForScheduledGames(Visit&& visit) {
   }
 }
 
-/// Tells why something is refused; false for the caller to give back.
-bool RefusedWith(const std::string& message, std::string_view title = "");
+using platform::RefusedWith;
 
 }  // namespace tipline

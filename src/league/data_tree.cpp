@@ -178,9 +178,16 @@ bool PushRecent(const std::string& folder) {
   return WriteRecentList();
 }
 
+bool PushSeason(const std::string& folder) {
+  constexpr std::size_t kSeasonsKept = 20;
+  auto& list = program.RecentList;
+  if (list.size() >= kSeasonsKept) list.erase(list.begin() + kSeasonsKept - 1);
+  return PushRecent(folder);
+}
+
 bool MakeCurrent(const std::string& name) {
   ReadRecentList();
-  return PushRecent(SeasonsRoot() + name);
+  return PushSeason(SeasonsRoot() + name);
 }
 
 std::string ShortEntry(std::string_view folder) {

@@ -39,7 +39,9 @@ void ReadRecentList();
 bool WriteRecentList();
 /// Puts a league's text at the head of the list and writes it.
 bool PushRecent(const std::string& folder);
-/// The same for a league of the seasons root.
+/// The same for a season picked from the seasons list or the playoff switch: what stood at place 20 leaves.
+bool PushSeason(const std::string& folder);
+/// The same for a league of the seasons root, by its name.
 bool MakeCurrent(const std::string& name);
 /// A list entry as screens show it: drive, "...", and the last folder.
 std::string ShortEntry(std::string_view folder);

@@ -277,9 +277,7 @@ bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
                         ? LeagueFile(fileName)
                         : format->path();
   const RecordFile file(given.has_parent_path() ? given : here, format->slot);
-  std::error_code error;
-  const auto size = std::filesystem::file_size(file.Path(), error);
-  if (error || size <= static_cast<std::uintmax_t>(n - 1) * static_cast<unsigned>(format->slot)) return false;
+  if (file.Bytes() <= (n - 1LL) * format->slot) return false;
   format->dump(file, n, out);
   return true;
 }

@@ -13,9 +13,7 @@ RecordFile Teams() { return {TeamsFile(), kTeamSlotBytes}; }
 RecordFile Coaches() { return {CoachesFile(), kCoachSlotBytes}; }
 RecordFile Players() { return {PlayersFile(), kPlayerSlotBytes}; }
 
-RecordFile CoachExport(int team) {
-  return {LeagueFile(CityInFileName(team) + " Coach.coa"), kCoachSlotBytes};
-}
+RecordFile CoachExport(int team) { return {CoachExportFile(team), kCoachSlotBytes}; }
 
 }  // namespace
 
@@ -79,7 +77,7 @@ int PlayerRows() { return Players().Count(); }
 
 void LoadLeaguePlayers() {
   const auto file = Players();
-  const int rows = file.Count();
+  const int rows = std::min(file.Count(), kMostPlayers);
   league.player.resize(static_cast<std::size_t>(rows) + 1);
   league.player[0] = {};
   file.ReadAll(rows, [](int row, const u8* bytes) {
@@ -96,6 +94,8 @@ bool SaveAllTeams() {
   return Written(written, TeamsFile());
 }
 
+std::filesystem::path CoachExportFile(int team) { return LeagueFile(CityInFileName(team) + " Coach.coa"); }
+
 bool ExportCoach(int team) {
   if (!IsTeamSlot(team)) return false;
   CoachRecord coach;
@@ -107,11 +107,14 @@ bool ExportCoach(int team) {
 
 bool ImportCoach(int team, CoachRecord& coach) {
   if (!IsTeamSlot(team)) return false;
+  const auto file = CoachExport(team);
+  if (!file.Exists()) {
+    return platform::RefusedWith(file.Path().filename().string() + " is not there!");
+  }
   CoachRecord read;
-  CoachExport(team).Read(1, read);
+  file.Read(1, read);
   if (read.TeamNo != team) {
-    platform::dialogs().Tell("You may only import a game plan for " + league.team[team].City.Str() + "!");
-    return false;
+    return platform::RefusedWith("You may only import a game plan for " + TeamName(league.team[team]) + "!");
   }
   coach = read;
   return true;

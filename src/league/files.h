@@ -54,10 +54,12 @@ void ZeroTeam(int team);
 /// and outside a game those of the playoff series. Any other block clears nothing. Markers stay.
 void ZeroPlayer(PlayerRecord& player, int block);
 
-/// The coach's plan of a team, as HCgameplan holds it, in a file of its own: `<City> Coach.coa` in the league
-/// folder. False when it could not be written.
+/// `<City> Coach.coa` in the league folder, for team 1 to 720.
+std::filesystem::path CoachExportFile(int team);
+/// Writes the coach's plan of a team, as HCgameplan holds it, into that file. False when it could not be
+/// written.
 bool ExportCoach(int team);
-/// Reads such a file over `coach`. Refused, with its message and nothing changed, when the file is missing or
+/// Reads that file over `coach`. Refused, with its message and nothing changed, when there is none or it
 /// belongs to another team.
 bool ImportCoach(int team, CoachRecord& coach);
 

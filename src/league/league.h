@@ -15,11 +15,12 @@
 
 namespace tipline {
 
-inline constexpr int kTeams = 720;          ///< team slots that are stored
-inline constexpr int kDivisions = 36;       ///< of 20 slots each
-inline constexpr int kRosterSlots = 30;     ///< players of a team
-inline constexpr int kFreeAgent = 999;      ///< TeamNo of a free agent; team slot of an undecided game
-inline constexpr int kFormerMember = 1000;  ///< TeamNo = team + this: a part of a season with a former team
+inline constexpr int kTeams = 720;           ///< team slots that are stored
+inline constexpr int kDivisions = 36;        ///< of 20 slots each
+inline constexpr int kRosterSlots = 30;      ///< players of a team
+inline constexpr int kMostPlayers = 100000;  ///< rows to which a player file is read
+inline constexpr int kFreeAgent = 999;       ///< TeamNo of a free agent; team slot of an undecided game
+inline constexpr int kFormerMember = 1000;   ///< TeamNo = team + this: a part of a season with a former team
 inline constexpr int kFirstEraYear = 1946;
 inline constexpr int kLastEraYear = 2050;
 inline constexpr int kTeamSlotBytes = 1500;

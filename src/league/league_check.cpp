@@ -11,16 +11,10 @@ namespace {
 constexpr double kHighestFigure = 1000;  // no team has so many of anything in a game
 constexpr int kEraRecords = 305;         // 105 pro rows, 95 unused, 105 college rows
 
-std::uintmax_t SizeOf(const std::filesystem::path& file) {
-  std::error_code error;
-  const auto size = std::filesystem::file_size(file, error);
-  return error ? 0 : size;
-}
-
-std::string MissingOrShort(const std::filesystem::path& file, std::uintmax_t bytes) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return file.string() + " is missing.";
-  if (SizeOf(file) < bytes) return file.string() + " is too short to be whole.";
+std::string MissingOrShort(const std::filesystem::path& path, long long bytes) {
+  const RecordFile file(path, 1);
+  if (!file.Exists()) return path.string() + " is missing.";
+  if (file.Bytes() < bytes) return path.string() + " is too short to be whole.";
   return "";
 }
 
@@ -47,7 +41,7 @@ std::string LeagueFault(const std::filesystem::path& folder) {
 std::string EraFault(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) return "";
-  const auto whole = std::uintmax_t{kEraRecords - 1} * kEraSlotBytes + EraRecord::kRecordSize;
+  const int whole = (kEraRecords - 1) * kEraSlotBytes + EraRecord::kRecordSize;
   if (auto fault = MissingOrShort(file, whole); !fault.empty()) return fault;
   bool sound = true;
   RecordFile(file, kEraSlotBytes).ReadAll(kEraRecords, [&sound](int record, const u8* bytes) {

@@ -67,6 +67,7 @@ bool EmptyUnusedRows(const InUse& inUse) {
 }  // namespace
 
 bool CleanLeagueFolderRoutine() {
+  LoadLeaguePlayers();  // men whom no roster names are entered in their team's before the rows are looked at
   InUse inUse(static_cast<std::size_t>(PlayerRows()) + 1);
   for (int team = 1; team <= kTeams; ++team) {
     if (league.team[team].TeamActive == 1 && !CleanTeam(team, inUse)) return false;

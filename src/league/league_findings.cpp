@@ -175,7 +175,7 @@ class Doctor {
         if (row.LegacyTeam[side] != 0) row.Team[side] = row.LegacyTeam[side];
       }
       if (row.Status == 'D') return;
-      const int days = row.Month >= 1 && row.Month <= 12 ? DaysOfMonth(row.Month) : 0;
+      const int days = row.Month >= 1 && row.Month <= 12 ? ScheduleDays(row.Month) : 0;
       if (row.Day < 1 || row.Day > days) ++undated;
       if (!HasPlace(row.Team[1]) || !HasPlace(row.Team[2])) ++strangers;
     });

@@ -107,6 +107,8 @@ bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
   if (!ZeroSchedule() || !Truncate("SCORES") || !DeleteBoxes(label)) return false;
   Say(label, "Deleting team stats..");
   for (int team = 1; team <= kTeams; ++team) ZeroTeam(team);
+  league.Scores.assign(1, {});
+  if (league.player.size() > 1) LoadLeaguePlayers();
   return SaveAllTeams();
 }
 

@@ -103,10 +103,12 @@ void ReadPlayerTables(NameTables& names) {
     return true;
   });
   ReadTable("VTX-Uniforms.csv", 1, 3, [&](const Fields& f) {
+    if (f[2].size() > 2) return false;
     names.Uniform[Key(f)] = f[2];
-    return f[2].size() <= 2;
+    return true;
   });
   ReadTable("VTX-Nicknames.csv", 1, 3, [&](const Fields& f) {
+    if (f[2].size() > 30) return false;
     names.Nickname[Key(f)] = f[2];
     return true;
   });

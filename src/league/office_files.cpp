@@ -12,9 +12,13 @@ namespace {
 constexpr std::size_t kBookSlot = 30000;
 constexpr std::size_t kDraftSlot = 32000;
 
-/// A whole file, filled up with zeros to `bytes`.
-std::string ReadUpTo(std::string_view name, std::size_t bytes) {
-  std::string text = ReadWholeFile(LeagueFile(name));
+/// A whole file, filled up with zeros to `bytes`. `*known`, where given, is false for one that is there and
+/// can't be read: nothing may be written over it.
+std::string ReadUpTo(std::string_view name, std::size_t bytes, bool* known = nullptr) {
+  bool read = false;
+  std::string text = ReadWholeFile(LeagueFile(name), &read);
+  std::error_code error;
+  if (known) *known = read || !std::filesystem::exists(LeagueFile(name), error);
   text.resize(std::max(text.size(), bytes), '\0');
   return text;
 }
@@ -34,7 +38,9 @@ void LoadAddressBook(AddressBook& book) {
 }
 
 bool SaveAddressBook(const AddressBook& book) {
-  std::string bytes = ReadUpTo("HCADDRESSBOOK", kBookSlot);
+  bool known = true;
+  std::string bytes = ReadUpTo("HCADDRESSBOOK", kBookSlot, &known);
+  if (!known) return Written(false, LeagueFile("HCADDRESSBOOK"));
   WriteRecord(book, At(bytes, AddressBook::kOffset));
   return WriteFile("HCADDRESSBOOK", bytes);
 }
@@ -46,7 +52,9 @@ void LoadDraftLog(DraftLog& log) {
 }
 
 bool SaveDraftLog(const DraftLog& log) {
-  std::string bytes = ReadUpTo("DraftLog", 2 * kDraftSlot);
+  bool known = true;
+  std::string bytes = ReadUpTo("DraftLog", 2 * kDraftSlot, &known);
+  if (!known) return Written(false, LeagueFile("DraftLog"));
   WriteRecord(log.settings, At(bytes, 0));
   WriteRecord(log.selections, At(bytes, kDraftSlot));
   return WriteFile("DraftLog", bytes);

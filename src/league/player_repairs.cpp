@@ -44,9 +44,9 @@ struct PlayerRepair {
   }
 
   void FirstName() {
-    if (!TakeMark(p.FirstNameMark, 99)) return;
     const auto& known = Names().FirstNamePlayer;
-    p.UsePlayerFirstName = !known.empty() && known.contains(NameKey(p)) ? 1 : 0;
+    if (!TakeMark(p.FirstNameMark, 99) || known.empty()) return;
+    p.UsePlayerFirstName = known.contains(NameKey(p)) ? 1 : 0;
   }
 
   /// A surname cut short is found whole in the name that screens show. One with an initial before it holds
@@ -145,10 +145,14 @@ struct PlayerRepair {
   }
 
   void Bounds() {
+    constexpr i16 kMostCarried = 20000;
     constexpr int kMostShots = 4000, kMostShares = 20000, kMostHalfShares = 10000;
     for (const int line : {2, 3}) {
       const bool rubbish = IsOutside(p.OppFGA[line], kMostShots) || IsOutside(p.OppFGM[line], kMostShots);
       if (rubbish || p.OppFGM[line] > p.OppFGA[line]) p.OppFGA[line] = p.OppFGM[line] = 0;
+    }
+    for (auto* totals : {&p.CarriedTotal1, &p.CarriedTotal2, &p.CarriedTotal3, &p.CarriedTotal4}) {
+      for (i16& total : *totals) total = Clamp<i16>(total, -kMostCarried, kMostCarried);
     }
     if (IsOutside(p.ShareShots, kMostShares) || IsOutside(p.ShareBlocks, kMostShares) ||
         IsOutside(p.ShareAssists, kMostHalfShares) || IsOutside(p.ShareOffReb, kMostHalfShares) ||
@@ -168,15 +172,15 @@ struct PlayerRepair {
   }
 
   void KnownMen() {
-    if (TakeMark(p.UniformMark, 33)) {
+    if (TakeMark(p.UniformMark, 33) && !Names().Uniform.empty()) {
       const auto* number = Known(Names().Uniform, p);
       p.UniformNumber = number ? *number : "";
     }
-    if (TakeMark(p.NicknameMark, 199)) {
+    if (TakeMark(p.NicknameMark, 199) && !Names().Nickname.empty()) {
       const auto* nickname = Known(Names().Nickname, p);
       p.Nickname = nickname ? *nickname : "";
     }
-    if (TakeMark(p.FavoriteShotMark, 33)) {
+    if (TakeMark(p.FavoriteShotMark, 33) && !Names().Shot.empty()) {
       const auto* shot = Known(Names().Shot, p);
       p.FavoriteShot = static_cast<u8>(shot ? shot->Shot : 0);
       p.FavoriteShotText = shot ? shot->Text : "";
@@ -207,7 +211,7 @@ struct PlayerRepair {
   void CommonSurname() {
     if (p.ShortNameMark == 99) return;
     const auto& surnames = Names().Surname;
-    if (!HasInitial(p) && surnames.contains(Upper(p.ShortName.View()))) {
+    if (!HasInitial(p) && !p.FirstName.Empty() && surnames.contains(Upper(p.ShortName.View()))) {
       p.ShortName = p.FirstName.Str().substr(0, 1) + "," + p.LastName.Str();
     }
     p.ShortNameMark = 99;

@@ -82,6 +82,15 @@ double RawValue(const PlayerRecord& player) {
 
 }  // namespace
 
+std::string FullName(const PlayerRecord& player) {
+  return std::string(Trimmed(player.FirstName.Str() + " " + player.LastName.Str()));
+}
+
+std::string InitialName(const PlayerRecord& player) {
+  const std::string first = player.FirstName.Str();
+  return first.empty() ? player.LastName.Str() : first.substr(0, 1) + "." + player.LastName.Str();
+}
+
 double PositionDefense(const PlayerRecord& player, int position) {
   if (position < 1 || position > 5) return 0;
   constexpr double kInside[] = {0, 0.069, 0.044, 0.147, 0.539, 0.739};

@@ -1,5 +1,7 @@
 #pragma once
 // Values worked out from a player's record alone.
+#include <string>
+
 #include "league/player_record.h"
 
 namespace tipline {
@@ -7,6 +9,22 @@ namespace tipline {
 /// A man of a college or international league: measured against college figures and forty minutes.
 inline bool IsCollegeLevel(const PlayerRecord& player) {
   return player.PlayerType == 'C' || player.PlayerType == 'O';
+}
+
+/// "Al Ray".
+std::string FullName(const PlayerRecord& player);
+/// "A.Ray", for a table; the last name alone when he has no first.
+std::string InitialName(const PlayerRecord& player);
+
+/// One of his three positions is this one.
+inline bool Lists(const PlayerRecord& player, int position) {
+  return player.PrimaryPosition == position || player.SecondaryPosition == position ||
+         player.SpotPosition == position;
+}
+/// Minutes a game of his real season; 0 without a game.
+inline double MinutesPerGame(const PlayerRecord& player) {
+  const StatLine& real = player.Stats[1];
+  return real.G > 0 ? static_cast<double>(real.Min) / real.G : 0;
 }
 
 /// Defence of a man at position 1 to 5, 0.0 to 10.0: outside and inside defence weighted by position, less

@@ -26,10 +26,11 @@ struct Program {
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
   bool PlayoffGame = false;
-  int CurrentRound = 0;  ///< playoff round 1 to 4, 0 none
-  bool ScenarioGame = false;
-  bool ReplayLocked = false;  ///< a game, or its set-up, holds the data
-  bool Autoplaying = false;   ///< bulk play: the computer acts at every stop, nothing is shown
+  int CurrentRound = 0;        ///< playoff round 1 to 4, 0 none
+  bool ScenarioGame = false;   ///< the team pick screen sets up a scenario
+  bool TwoFolderGame = false;  ///< an exhibition of teams from two leagues: it is neither saved nor stored
+  bool ReplayLocked = false;   ///< a game, or its set-up, holds the data
+  bool Autoplaying = false;    ///< bulk play: the computer acts at every stop, nothing is shown
 };
 
 extern Program program;

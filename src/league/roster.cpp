@@ -125,9 +125,8 @@ void WriteChanges(Roster& roster, RosterChanges changes) {
 
 bool WriteCoachOf(const Roster& roster) {
   const RecordFile file(CoachesFile(), kCoachSlotBytes);
-  const auto saved = std::make_unique<Roster>(roster);
-  CopyRotationToCoach(*saved);
-  CoachRecord& coach = saved->coach;
+  CoachRecord coach = roster.coach;
+  CopyRotationToCoach(roster, coach);
   coach.TeamNo = static_cast<i16>(roster.TeamNo);
   if (!Written(file.Write(roster.TeamNo, coach), file.Path())) return false;
   league.coach[roster.TeamNo] = coach;
@@ -135,10 +134,12 @@ bool WriteCoachOf(const Roster& roster) {
 }
 
 bool WriteMen(const Roster& roster) {
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (roster.player[slot].RecNo > 0 && !WritePlayer(roster.player[slot])) return false;
+  const RecordFile file(PlayersFile(), kPlayerSlotBytes);
+  RecordFile::Slots men;
+  for (const PlayerRecord& man : roster.player) {
+    if (man.RecNo > 0) men.emplace_back(man.RecNo, RecordBytes(man));
   }
-  return true;
+  return Written(file.WriteSlots(men), file.Path());
 }
 
 bool WriteTeamOf(const Roster& roster) {
@@ -153,11 +154,13 @@ bool WriteTeamOf(const Roster& roster) {
 }
 
 bool WriteDaysOff(const Roster& roster) {
+  const RecordFile file(DailyFile(), kDailySlotBytes);
+  RecordFile::Slots lists;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(roster, slot) || roster.player[slot].RecNo < 1) continue;
-    if (!WriteDaily(roster.player[slot].RecNo, roster.daily[slot])) return false;
+    const int recNo = roster.player[slot].RecNo;
+    if (OnTeam(roster, slot) && recNo >= 1) lists.emplace_back(recNo, RecordBytes(roster.daily[slot]));
   }
-  return true;
+  return Written(file.WriteSlots(lists), file.Path());
 }
 
 }  // namespace
@@ -179,8 +182,9 @@ bool LookAtRoster(int teamNo, Roster& roster) {
   roster.team = team;
   coaches.Read(teamNo, roster.coach);
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (team.Roster[slot] > 0) players.Read(team.Roster[slot], roster.player[slot]);
-    ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
+    if (team.Roster[slot] <= 0) continue;
+    players.Read(team.Roster[slot], roster.player[slot]);
+    ReadDaily(team.Roster[slot], roster.daily[slot]);
   }
   return true;
 }

@@ -1,14 +1,13 @@
 #include "league/rules.h"
 
 #include "base/record_file.h"
+#include "league/data_tree.h"
 #include "league/files.h"
 #include "league/program.h"
-#include "platform/folders.h"
+#include "league/schedule.h"
 
 namespace tipline {
 namespace {
-
-constexpr const char* kBasketballFolder = "C:\\orvex-data\\Basketball\\";
 
 std::string LastFolder(const std::filesystem::path& folder) {
   return folder.has_filename() ? folder.filename().string() : folder.parent_path().filename().string();
@@ -27,21 +26,32 @@ bool ReadRules(const std::filesystem::path& file) {
   return true;
 }
 
+/// Dates and pools of the cup that were never set are set to none.
+bool MarkPools() {
+  TournamentPools pools = ReadPools();
+  if (pools.PoolMark == TournamentPools::kSetMark) return false;
+  pools.PoolMark = TournamentPools::kSetMark;
+  league.tournamentPools.resize(kRulesSlotBytes);
+  WriteRecord(pools, league.tournamentPools.data());
+  return true;
+}
+
 }  // namespace
 
 bool LoadRules() {
   league.LeagueFolderName = LastFolder(program.LeagueFolder);
   ReadTeam(1);
   const bool read = ReadRules(RulesFile());
-  if (!read && !ReadRules(platform::RealPath(program.Home, kBasketballFolder) / "HCRULES")) {
+  if (!read && !ReadRules(TreePath("Basketball\\HCRULES"))) {
     league.rules = {};
     league.tournamentPools.clear();
   }
   const TeamRecord& first = league.team[1];
+  const bool marked = MarkPools();
   const bool repaired = RepairRules(first.Year, first.TeamType.bytes[0]);
   DerivePhotoRatio();
   DerivePositionLabels();
-  if (read && repaired) SaveRules();
+  if (read && (marked || repaired)) SaveRules();
   FindPhotoFolder();
   return read;
 }
@@ -81,7 +91,7 @@ void DerivePhotoRatio() {
 }
 
 void FindPhotoFolder() {
-  league.PhotoFolder = platform::RealPath(program.Home, kBasketballFolder) / "PlayerPhotos";
+  league.PhotoFolder = TreePath("Basketball\\PlayerPhotos");
   if (league.rules.PrivateLeaguePhotoFolderCheck != 1 || league.LeagueFolderName.empty()) return;
   league.PhotoFolder /= league.LeagueFolderName;
   std::error_code ignored;  // photos are for show: without the folder there are none

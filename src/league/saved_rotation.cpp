@@ -7,8 +7,8 @@ constexpr int kRanks = 6;
 constexpr int kDates = 100;
 
 /// Visits each pair of a man's field and its copy with the coach.
-template <class Visit>
-void ForSavedFields(PlayerRecord& p, CoachRecord& c, int slot, Visit visit) {
+template <class Player, class Coach, class Visit>
+void ForSavedFields(Player& p, Coach& c, int slot, Visit visit) {
   visit(p.Status, c.SavedStatus[slot]);
   visit(p.OnlyPlayInBlowouts, c.SavedOnlyBlowouts[slot]);
   visit(p.NeverPlayInBlowouts, c.SavedNeverBlowouts2[slot]);
@@ -55,12 +55,11 @@ void ChartFromCoach(const CoachRecord& coach, int slot, PlayerRecord& player) {
 
 }  // namespace
 
-void CopyRotationToCoach(Roster& roster) {
-  CoachRecord& coach = roster.coach;
+void CopyRotationToCoach(const Roster& roster, CoachRecord& coach) {
   coach.DepthChart = {};
   coach.RotationByRank = {};
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    PlayerRecord& player = roster.player[slot];
+    const PlayerRecord& player = roster.player[slot];
     ForSavedFields(player, coach, slot, [](const u8& own, u8& copy) { copy = own; });
     coach.SavedNeverBlowouts[slot] = player.NeverPlayInBlowouts;
     for (int k = 1; k <= kDates; ++k) {
@@ -71,7 +70,7 @@ void CopyRotationToCoach(Roster& roster) {
 }
 
 void CopyRotationFromCoach(Roster& roster) {
-  CoachRecord& coach = roster.coach;
+  const CoachRecord& coach = roster.coach;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(roster, slot)) continue;
     PlayerRecord& player = roster.player[slot];

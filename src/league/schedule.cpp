@@ -1,6 +1,8 @@
 #include "league/schedule.h"
 
+#include <algorithm>
 #include <fstream>
+#include <utility>
 
 #include "base/calendar.h"
 #include "base/numbers.h"
@@ -58,14 +60,28 @@ void TakeLegacyTeams(ScheduleRecord& row) {
   }
 }
 
+/// Number of a game type; what is no type is a game of the regular season.
+int NumberOf(char letter) {
+  for (int number = 2; number <= 7; ++number) {
+    if (kGameTypes[number - 1].letter == letter) return number;
+  }
+  return 1;
+}
+
 std::span<ScheduleRecord> Rows() { return std::span(league.ScheduleGame).subspan(1); }
 
-/// All rows over file and spare copy.
-bool WriteRows(std::span<const ScheduleRecord> rows) {
+/// All rows, in the season of the schedule, over file and spare copy. A spare that can't be written is told
+/// of, and the schedule is saved all the same.
+bool WriteRows(std::vector<ScheduleRecord> rows) {
+  for (ScheduleRecord& row : rows) row.Year = static_cast<i16>(league.ScheduleYear);
   const auto file = ScheduleFile();
-  return Written(WriteSchedule(file, rows), file) &&
-         Written(WriteSchedule(SpareSchedule(), rows), SpareSchedule());
+  if (!Written(WriteSchedule(file, rows), file)) return false;
+  Written(WriteSchedule(SpareSchedule(), rows), SpareSchedule());
+  return true;
 }
+
+/// Place of a calendar month in the year of basketball, which begins in October.
+int PlaceInYear(int month) { return month >= 10 ? month - 9 : month + 3; }
 
 }  // namespace
 
@@ -84,6 +100,11 @@ std::filesystem::path ScheduleFile() {
 }
 
 std::filesystem::path SpareSchedule() { return LeagueFile("SKED"); }
+
+void TakeSeasonOfLeague() {
+  const int year = league.team[1].Year;
+  if (year >= 1900 && year <= 2100) league.ScheduleYear = year;
+}
 
 bool LoadSchedule() {
   league.ScheduleGame.assign(1, {});
@@ -110,26 +131,23 @@ bool SaveSchedule() {
   league.team[kFreeAgent].TeamActive = 1;
   league.team[kFreeAgent].City = "TBD";
   std::vector<ScheduleRecord> kept;
-  for (ScheduleRecord& row : Rows()) {
+  for (const ScheduleRecord& row : Rows()) {
     if (!IsScheduleTeam(row.Team[1]) || !IsScheduleTeam(row.Team[2])) continue;
-    row.Year = static_cast<i16>(league.ScheduleYear);
     if (row.Status != 'D') kept.push_back(row);
   }
-  return WriteRows(kept);
+  return WriteRows(std::move(kept));
 }
 
 bool UnloadSortedSchedule() {
   std::vector<ScheduleRecord> sorted;
-  for (int i = 1; i <= 12; ++i) {
-    const int month = i + 9 > 12 ? i - 3 : i + 9;  // the year of basketball begins in October
-    for (int day = 1; day <= 31; ++day) {
-      for (const ScheduleRecord& row : Rows()) {
-        const bool teams = row.Team[1] != 0 && row.Team[2] != 0;
-        if (IsOn(row, month, day) && teams && row.Status != 'D') sorted.push_back(row);
-      }
-    }
+  for (const ScheduleRecord& row : Rows()) {
+    const bool dated = row.Month >= 1 && row.Month <= 12 && row.Day >= 1 && row.Day <= 31;
+    if (dated && row.Team[1] != 0 && row.Team[2] != 0 && row.Status != 'D') sorted.push_back(row);
   }
-  return WriteRows(sorted);
+  std::stable_sort(sorted.begin(), sorted.end(), [](const ScheduleRecord& a, const ScheduleRecord& b) {
+    return std::pair(PlaceInYear(a.Month), a.Day) < std::pair(PlaceInYear(b.Month), b.Day);
+  });
+  return WriteRows(std::move(sorted));
 }
 
 bool WriteSchedule(const std::filesystem::path& file, std::span<const ScheduleRecord> rows) {
@@ -186,18 +204,14 @@ void TakeDateType(ScheduleRecord& row, const TournamentPools& pools) {
 Table<GameTypeCount, 1, 7> CountGameTypes() {
   Table<GameTypeCount, 1, 7> counts;
   const TournamentPools pools = ReadPools();
-  for (int number = 1; number <= 7; ++number) {
-    const char letter = kGameTypes[number - 1].letter;
-    for (int month = 1; month <= 12; ++month) {
-      for (int day = 1; day <= DaysOfMonth(month); ++day) {
-        if (DateTypeOf(pools, month, day) == letter) ++counts[number].dates;
-      }
-    }
-    for (const ScheduleRecord& row : Rows()) {
-      if (row.GameType != letter) continue;
-      if (row.Status == 'P' || row.Status == 'N' || row.Status == 'U') ++counts[number].games;
-      if (row.Status == 'P') ++counts[number].played;
-    }
+  for (int month = 1; month <= 12; ++month) {
+    for (int day = 1; day <= ScheduleDays(month); ++day)
+      ++counts[NumberOf(DateTypeOf(pools, month, day))].dates;
+  }
+  for (const ScheduleRecord& row : Rows()) {
+    GameTypeCount& count = counts[NumberOf(row.GameType.bytes[0])];
+    if (row.Status == 'P' || row.Status == 'N' || row.Status == 'U') ++count.games;
+    if (row.Status == 'P') ++count.played;
   }
   return counts;
 }

@@ -31,6 +31,9 @@ std::string_view GameTypeWords(char type);
 std::filesystem::path ScheduleFile();
 std::filesystem::path SpareSchedule();  ///< "SKED"
 
+/// A schedule made anew is of the season of team 1; where that says nothing, of the season it was.
+void TakeSeasonOfLeague();
+
 /// Reads the current file, made empty when there is none, into `league.ScheduleGame`, with `ScheduleYear` and
 /// the flags of its months. The default file heals itself from the spare copy when it is empty and that is
 /// not. False, after telling the user, when the file can't be read or made; the schedule is then empty. Rows

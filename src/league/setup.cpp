@@ -10,11 +10,11 @@
 namespace tipline {
 namespace {
 
-constexpr std::uintmax_t kShortest = 1000;  // a shorter file was never a setup
+constexpr long long kShortest = 1000;  // a shorter file was never a setup
 
 void Blank() {
   (void)WriteWholeFile(SetupFile(), std::string(kSetupSlotBytes, ' '));  // it is repaired in memory anyway
-  ReadRecord(reinterpret_cast<const u8*>(std::string(SetupRecord::kRecordSize, ' ').data()), setup);
+  setup = {};  // what blanks would come to: no marker is set, every preference has its default
 }
 
 /// Two settings that no screen can have left like this.
@@ -37,12 +37,11 @@ std::filesystem::path SetupFile() {
 
 void LoadSetup() {
   ReadRecentList();
-  std::error_code error;
-  const auto size = std::filesystem::file_size(SetupFile(), error);
-  if (error || size < kShortest) {
+  const RecordFile file(SetupFile(), kSetupSlotBytes);
+  if (file.Bytes() < kShortest) {
     Blank();
   } else {
-    RecordFile(SetupFile(), kSetupSlotBytes).Read(1, setup);
+    file.Read(1, setup);
     if (Damaged()) Blank();
   }
   RepairSetup();

@@ -19,11 +19,9 @@ constexpr std::string_view kLeaderBoards[] = {"Basic", "Per Game", "Per 48 Minut
 // clang-format on
 constexpr int kSalaryView = 9;
 
-/// A file that was never filled: every preference takes its default, and the human calls some plays.
+/// The human calls some plays.
 void Layout() {
   if (!TakeMark(setup.LayoutMark, 77)) return;
-  setup = {};
-  setup.LayoutMark = 77;
   for (auto& band : setup.PlayCallFrequency) band.Fill(3);
   for (const int period : {2, 4, 5}) setup.PlayCallFrequency[3][period] = 10;
 }

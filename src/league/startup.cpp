@@ -38,6 +38,13 @@ std::string BareFolder() {
   return folder;
 }
 
+/// The folder of a tree text is there; otherwise the user is told.
+bool IsAvailable(const std::string& folder) {
+  if (IsFolder(RealFolder(folder))) return true;
+  platform::dialogs().Tell(folder + " is not available!");
+  return false;
+}
+
 bool Ask(std::string_view question) { return platform::dialogs().Ask(question); }
 
 bool HasUnplayedGames() {
@@ -71,10 +78,9 @@ bool ReloadLeague() {
   program.LeagueFolder = folder;
   const bool rules = LoadRules();
   LoadAllTeams();
-  if (league.ActiveTeams == 0) return false;
-  if (!rules) SaveRules();
-  LoadSchedule();
-  return true;
+  LoadLeaguePlayers();
+  const bool schedule = LoadSchedule();
+  return schedule && (rules || SaveRules());
 }
 
 bool OpenSeason(const std::string& name) {
@@ -83,11 +89,7 @@ bool OpenSeason(const std::string& name) {
 }
 
 bool OpenRecentLeague(const std::string& folder) {
-  if (!IsFolder(RealFolder(folder))) {
-    platform::dialogs().Tell(folder + " is not available!");
-    return false;
-  }
-  return PushRecent(folder) && ReloadLeague();
+  return IsAvailable(folder) && PushRecent(folder) && ReloadLeague();
 }
 
 std::string SeasonModeLabel() {
@@ -100,15 +102,18 @@ bool SwitchSeasonMode() {
   std::string folder = BareFolder();
   if (league.rules.IsPlayoffModule == 1) {
     program.PlayoffGame = false;
-    if (folder.size() > kModule.size()) folder.resize(folder.size() - kModule.size());
-    return PushRecent(folder) && ReloadLeague();
+    if (Upper(folder).ends_with(Upper(kModule))) folder.resize(folder.size() - kModule.size());
+    return IsAvailable(folder) && PushSeason(folder) && ReloadLeague();
   }
   if (HasUnplayedGames() && !Ask("There are unplayed games on the schedule. Continue?")) return false;
-  if (league.rules.HasPlayoffModule != 1) {
-    platform::dialogs().Tell("A playoff module does not exist for this league.");
+  if (league.rules.HasPlayoffModule == 0) {
+    if (Ask("A playoff module does not exist for this league. Create it now?")) {
+      platform::dialogs().Tell("This edition can't create a playoff module yet!");
+    }
     return false;
   }
-  return PushRecent(folder + std::string(kModule)) && ReloadLeague();
+  const std::string module = folder + std::string(kModule);
+  return IsAvailable(module) && PushSeason(module) && ReloadLeague();
 }
 
 HCSETUPFORM::HCSETUPFORM() : FolderLabel(program.RecentList.empty() ? "" : program.RecentList.front()) {}

@@ -14,7 +14,8 @@ void MarkClosed();
 std::string StatusFilePath();
 
 /// Reads the league in `program.LeagueFolder` anew, as every opening does: setup written and read, rules,
-/// teams with their repairs, schedule. A league without a rules file gets one. False when it has no team.
+/// teams with their repairs, players, schedule. A league without a rules file gets one, one without teams
+/// opens. False, told, when the schedule or that rules file can't be read or written.
 bool ReloadLeague();
 /// Makes a league of the seasons root current. False when there is no such folder, or it holds no league.
 bool OpenSeason(const std::string& name);

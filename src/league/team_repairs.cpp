@@ -13,6 +13,7 @@ namespace {
 constexpr int kMostRealGames = 100;      // more real wins or losses are rubbish
 constexpr int kMostTeamRebounds = 2000;  // of a season
 constexpr int kMostTeamReboundsAGame = 30;
+constexpr int kMostPossessions = 25000;
 constexpr int kMostPeriodPoints = 4000;
 
 int GamesOf(const TeamRecord& t) { return t.Wins + t.Losses; }
@@ -93,6 +94,7 @@ struct TeamRepair {
     }
     if (t.City.View().find_first_of("/\\+*?") != std::string_view::npos) {
       t.City = Trimmed(Without(t.City.View(), "/\\+*?"));
+      Abbreviation();  // it may have been taken from the city with them
     }
   }
 
@@ -127,6 +129,12 @@ struct TeamRepair {
     for (auto& period : t.PeriodPoints) {
       for (i16& points : period) {
         if (points < 0 || points > kMostPeriodPoints) points = 0;
+      }
+    }
+    if (t.ScheduleStrength < 1) t.ScheduleStrength = 1;
+    for (auto* counts : {&t.Possessions, &t.OppPossessions}) {
+      for (auto& count : *counts) {
+        if (count < 0 || count > kMostPossessions) count = 0;
       }
     }
   }

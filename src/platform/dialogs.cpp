@@ -17,6 +17,11 @@ Dialogs* inUse = &silent;
 Dialogs& dialogs() { return *inUse; }
 void UseDialogs(Dialogs* dialogs) { inUse = dialogs ? dialogs : &silent; }
 
+bool RefusedWith(std::string_view message, std::string_view title) {
+  dialogs().Tell(message, title);
+  return false;
+}
+
 bool ScriptedDialogs::Ask(std::string_view question, std::string_view) {
   asked.emplace_back(question);
   if (answers.empty()) {

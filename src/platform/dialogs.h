@@ -21,6 +21,8 @@ class Dialogs {
 Dialogs& dialogs();
 /// Puts `dialogs` in use until the next call; nullptr puts the silent one back. It must outlive its use.
 void UseDialogs(Dialogs* dialogs);
+/// Tells why something is refused; false for the caller to give back.
+bool RefusedWith(std::string_view message, std::string_view title = "");
 
 /// For tests: what was told and asked, and a queue of answers. A question with no answer left is kept in
 /// `unexpected`.

@@ -4,6 +4,7 @@
 
 #include "harness/temporary_home.h"
 #include "league/player_record.h"
+#include "support/small_disk.h"
 
 namespace tipline {
 namespace {
@@ -14,6 +15,7 @@ class RecordFiles : public testing::Test {
  protected:
   TemporaryLeague folder;
   std::filesystem::path path = program.LeagueFolder / "F";
+  std::filesystem::path undo = program.LeagueFolder / "F.undo";
   RecordFile file{path, kSlot};
 };
 
@@ -62,6 +64,46 @@ TEST_F(RecordFiles, AFolderInTheFilesPlaceIsRefused) {
   EXPECT_FALSE(file.RewriteAll(1, [](int, u8*) {}));
   EXPECT_FALSE(WriteWholeFile(path, "x"));
   EXPECT_FALSE(std::filesystem::exists(path.string() + ".new")) << "nothing is left behind";
+}
+
+TEST_F(RecordFiles, SlotsThatDoNotAllFitAreAllLeft) {
+  const std::string old(10 * kSlot, '\x07');
+  const std::vector<u8> slot(kSlot, 9);
+  const struct {
+    const char* why;
+    RecordFile::Slots slots;
+    rlim_t room;
+    bool there;
+  } cases[] = {
+      {"the second one lies behind the end of the room", {{1, slot}, {10, slot}}, 9 * kSlot, true},
+      {"the file had to grow", {{1, slot}, {11, slot}}, 10 * kSlot, true},
+      {"and had grown already", {{11, slot}, {12, slot}}, 11 * kSlot, true},
+      {"there was no file", {{1, slot}, {10, slot}}, 9 * kSlot, false},
+      {"no room for what stood there before", {{1, slot}}, 100, true},
+      {"no such slot", {{1, slot}, {0, slot}}, 20 * kSlot, true},
+  };
+  for (const auto& c : cases) {
+    std::filesystem::remove(path);
+    ASSERT_TRUE(!c.there || WriteWholeFile(path, old));
+    {
+      const SmallDisk full(c.room);
+      EXPECT_FALSE(file.WriteSlots(c.slots)) << c.why;
+    }
+    EXPECT_FALSE(std::filesystem::exists(undo)) << c.why;
+    EXPECT_EQ(std::filesystem::exists(path), c.there) << c.why;
+    EXPECT_TRUE(ReadWholeFile(path) == (c.there ? old : "")) << c.why;
+  }
+}
+
+TEST_F(RecordFiles, AnUndoThatIsNotWholeIsThrownAway) {
+  const std::string old(2 * kSlot, '\x07');
+  for (const std::string& bytes : {std::string(), std::string("TIPUNDO1"), std::string("TIPUNDO1") + old}) {
+    ASSERT_TRUE(WriteWholeFile(path, old));
+    ASSERT_TRUE(WriteWholeFile(undo, bytes));
+    EXPECT_EQ(file.Count(), 2);
+    EXPECT_FALSE(std::filesystem::exists(undo));
+    EXPECT_TRUE(ReadWholeFile(path) == old);
+  }
 }
 
 }  // namespace

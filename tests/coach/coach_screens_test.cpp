@@ -195,6 +195,7 @@ TEST_F(TeamScreens, APlanIsChosenAndItsGridSteps) {
     int from, to;
   } steps[] = {
       {PlanColumn::kInside, own.coach.DefendInside[10][2], 6, 1},
+      {PlanColumn::kInside, own.coach.DefendInside[10][2], 0, 4},  // never set: it was "Normal"
       {PlanColumn::kOutside, own.coach.DefendOutside[10][2], 3, 4},
       {PlanColumn::kThree, own.coach.DefendThree[10][2], 200, 1},
       {PlanColumn::kDoubleInside, own.coach.DoubleInside[10][2], 0, 1},
@@ -271,9 +272,11 @@ TEST_F(TeamScreens, APlanCarriesTheRotationAlong) {
   EXPECT_EQ(fresh.daily[2].InactiveDates[100], 412);
   EXPECT_EQ(again.Slider(4), 4);
   PlanScreen stranger(other);
+  EXPECT_FALSE(stranger.ImportPlan());
   std::filesystem::rename(program.LeagueFolder / "Salem Coach.coa", program.LeagueFolder / "Aston Coach.coa");
   EXPECT_FALSE(stranger.ImportPlan());
-  EXPECT_EQ(dialogs.told, Told{"You may only import a game plan for Aston!"});
+  const Told told{"Aston Coach.coa is not there!", "You may only import a game plan for Aston Five!"};
+  EXPECT_EQ(dialogs.told, told);
 }
 
 TEST_F(TeamScreens, PlansOfAnotherVersionAreMadeAnewOnce) {
@@ -285,6 +288,7 @@ TEST_F(TeamScreens, PlansOfAnotherVersionAreMadeAnewOnce) {
       {"right", 2019, 123, 4, 9, false, false},         {"right, later", 2020, 120, 4, 9, false, false},
       {"of a later year", 2019, 120, 4, 9, true, true}, {"of an earlier", 2020, 123, 4, 9, true, true},
       {"never made", 2019, 123, 4, 0, true, false},
+      {"never made, of a later year", 2019, 120, 4, 0, true, true},
   };
   for (const auto& c : cases) {
     Roster roster = own;
@@ -329,15 +333,21 @@ TEST_F(TeamScreens, DaysOff) {
                screen.Toggle(1, 432));
 
   const std::vector<int> dates{301, 302, 415};
+  own.daily[3].InactiveDates[1] = 1015;  // of another schedule
+  for (int entry = 1; entry <= 99; ++entry) own.daily[2].InactiveDates[entry] = 1015;
+  dialogs.told.clear();
   dialogs.answers = {false, true, true};
   EXPECT_FALSE(screen.InactivateAll(dates));
   EXPECT_EQ(screen.Cell(3, 301), "");
   EXPECT_TRUE(screen.InactivateAll(dates));
   EXPECT_EQ(screen.Cell(1, 415) + screen.Cell(3, 301), "XX");
+  EXPECT_EQ(screen.Cell(3, 1015), "X") << "what the coach has entered stays";
+  EXPECT_EQ(screen.Cell(2, 301) + screen.Cell(2, 302), "X") << "his hundredth day";
+  EXPECT_EQ(dialogs.told, Told{"Al Ray sits out on 100 days already!"});
   ASSERT_TRUE(WriteRoster(own));
   Roster again;
   ASSERT_TRUE(ReadRoster(5, again));
-  EXPECT_EQ(again.daily[3].InactiveDates[3], 415);
+  EXPECT_EQ(again.daily[3].InactiveDates[4], 415);
   EXPECT_TRUE(screen.ActivateAll());
   EXPECT_EQ(screen.Cell(1, 415), "");
   EXPECT_EQ(dialogs.asked.back(), "Activate all players for every game?");

@@ -68,6 +68,17 @@ TEST(DepthCharts, TargetsBelowTheLimitGoBackToRealMinutes) {
   }
 }
 
+TEST(DepthCharts, AreCleared) {
+  Roster roster = EmptyRoster();
+  PlayerRecord& p = Put(roster, 4, 1, 0, 80, 2400);
+  SetDefaultDepthCharts(roster, {});
+  SetDefaultSpecialLineups(roster);
+  ASSERT_EQ(p.DepthRank[1] + p.RotationOrder[1], 7);
+  ClearDepthCharts(roster);
+  ClearSpecialLineups(roster);
+  EXPECT_EQ(p.DepthRank[1] + p.RotationOrder[1], 0);
+}
+
 TEST(SpecialLineups, TheBestAtEachPosition) {
   Roster roster = EmptyRoster();
   auto& starter = Put(roster, 1, 1, 2, 80, 80 * 35);

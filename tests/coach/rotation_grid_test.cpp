@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "base/random.h"
-#include "coach/depth_chart.h"
 #include "coach/rotation_sheet.h"
 #include "harness/memory_league.h"
 #include "league/rules.h"
@@ -87,6 +87,30 @@ TEST(RotationGrid, AManOfTwoPositionsIsSpreadThinnerAndPaidBackAtTheOther) {
   }
 }
 
+TEST(RotationGrid, AFullSheetIsDrawnUpToThirtyTimesAndTheLastOneStands) {
+  const struct {
+    const char* why;
+    int minutes;
+    std::size_t runs;
+  } cases[] = {{"five men of 38 leave 50 holes", 36, 1}, {"of 39, 45", 37, 30}};
+  for (const auto& c : cases) {
+    Roster roster = OneMan(c.minutes);
+    for (int position = 2; position <= 5; ++position) {
+      PlayerRecord& p = roster.player[4 + position];
+      p = roster.player[4];
+      p.RecNo = static_cast<i16>(44 + position), p.PrimaryPosition = static_cast<u8>(position);
+    }
+    std::vector<double> draws(5 * c.runs, 2);      // each of the five closes the third period
+    std::fill(draws.end() - 5, draws.end(), 1.0);  // the last run has them rest at its end
+    draws.push_back(2);
+    random.Script(draws);
+    SetComputerRotationGrid(roster, RulesFor(4, 12));
+    EXPECT_EQ(random.ScriptLeft(), 1u) << c.why;
+    random.Script({});
+    EXPECT_EQ(Row(roster.player[9], 3, 12), "555555.555..") << c.why;
+  }
+}
+
 TEST(RotationGrid, AHalfIsTwoBuiltPeriods) {
   Roster roster = OneMan(36);
   roster.player[4].RotationGrid[3][2] = 5;  // of an older grid
@@ -115,12 +139,7 @@ TEST(RotationGrid, EveryTeamGetsAWholeSheet) {
     OpenSmallLeague(preset);
     const int minutes = league.rules.MinuteList;
     for (const int teamNo : MemoryTeams()) {
-      Roster roster;
-      roster.TeamNo = teamNo;
-      roster.team = league.team[teamNo];
-      for (int slot = 1; slot <= kRosterSlots; ++slot) {
-        roster.player[slot] = league.player[static_cast<std::size_t>(roster.team.Roster[slot])];
-      }
+      Roster roster = RosterOf(teamNo);
       SetComputerRotationGrid(roster);
       int filled = 0;
       for (int period = 1; period <= league.rules.PeriodList; ++period) {
@@ -248,14 +267,20 @@ TEST_F(Sheet, HolesAreFilledOnlyWhereFewAreLeft) {
   }
 }
 
-TEST(DepthCharts, AreCleared) {
-  Roster roster = OneMan(30);
-  SetDefaultDepthCharts(roster, RulesFor(4, 12));
-  SetDefaultSpecialLineups(roster);
-  ASSERT_EQ(roster.player[4].DepthRank[1] + roster.player[4].RotationOrder[1], 7);
-  ClearDepthCharts(roster);
-  ClearSpecialLineups(roster);
-  EXPECT_EQ(roster.player[4].DepthRank[1] + roster.player[4].RotationOrder[1], 0);
+TEST_F(Sheet, AManInAHoleStaysNearHisTarget) {
+  const struct {
+    int placed, want;
+  } cases[] = {{9, 11}, {10, 11}, {11, 11}};  // target 3: up to ten minutes let him in once more
+  for (const auto& c : cases) {
+    Put(1, 40, 1, 6);
+    Put(2, 3, 2, 6);
+    RotationSheet sheet(roster, 4, 12);
+    ChooseRegulars(sheet);
+    sheet.man[1].placed = 210;
+    sheet.man[2].placed = c.placed;
+    FillHoles(sheet);
+    EXPECT_EQ(sheet.man[2].placed, c.want) << c.placed;
+  }
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 #include "frontoffice/rating_run.h"
 #include "frontoffice/team_identity.h"
 #include "harness/temporary_home.h"
-#include "league/files.h"
 #include "league/data_tree.h"
+#include "league/files.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
 

@@ -155,9 +155,11 @@ TEST_F(ScheduleEditor, SavesInOrderOfDatesAndErasesForGood) {
   ASSERT_TRUE(screen.Open());
   ASSERT_TRUE(screen.AddGameCommand({1, 2, 1, 5}) && screen.AddGameCommand({3, 4, 11, 5}));
   EXPECT_FALSE(screen.CancelCommand());
+  league.ScheduleYear = 1985;
   ASSERT_TRUE(screen.SaveCommand());
   EXPECT_TRUE(screen.Closed);
   ASSERT_TRUE(screen.Open());
+  EXPECT_EQ(league.ScheduleYear, 1985) << "an added game is of the schedule's season";
   EXPECT_EQ(Row(1).Team[1], 3);
   const auto summary = screen.Summary();
   ASSERT_EQ(summary.size(), 8u);
@@ -219,7 +221,8 @@ TEST_F(ScheduleEditor, CsvNamesWhatItRefuses) {
       {"nothing", "\n \n", "This file is not in the proper format!"},
       {"a field too few", "10,2,Team 1", "This file is not in the proper format!"},
       {"no month 13", "13,2,Team 1,Team 2", "Invalid month: 13 Game:1"},
-      {"four letters", "May,2,Team 1,Team 2\nSept,2,Team 1,Team 2", "Invalid month: Sept Game:2"},
+      {"two letters", "May,2,Team 1,Team 2\nSe,2,Team 1,Team 2", "Invalid month: Se Game:2"},
+      {"four, and a blank in front", " September,2,Team 1,Team 2\nSept,3,Team 1,Team 2", "Imported 2 games!"},
       {"day 0", "May,0,Team 1,Team 2", "Invalid Day For May : 0"},
       {"day 32", "5,32,Team 1,Team 2", "Invalid Day For January : 32"},
       {"February 30", "feb,30,Team 1,Team 2", "Invalid Day For February : 30"},
@@ -265,6 +268,11 @@ TEST_F(ScheduleEditor, ALeagueKeepsSeveralSchedules) {
   ASSERT_TRUE(ChooseSchedule("Sked.skd"));
   EXPECT_EQ(league.GameCount(), 1);
   EXPECT_EQ(ScheduleFileList(), (std::vector<std::string>{"Cup.skd", "Sked.skd"}));
+  ASSERT_TRUE(HCNEWSCHEDULE{"Old"}.RenameCommand() && HCNEWSCHEDULE{"Sked"}.CreateCommand());
+  EXPECT_EQ(league.GameCount(), 0) << "the spare copy is of another schedule";
+  std::filesystem::remove(LeagueFile("Sked.skd"));
+  ASSERT_TRUE(ChooseSchedule("Old.skd") && HCNEWSCHEDULE{"Sked"}.RenameCommand());
+  EXPECT_EQ(league.GameCount(), 1);
   folder.Block(RulesFile());
   EXPECT_FALSE(ChooseSchedule("Cup.skd") || HCNEWSCHEDULE{"New"}.CreateCommand() ||
                HCNEWSCHEDULE{"New"}.RenameCommand());

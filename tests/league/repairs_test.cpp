@@ -120,6 +120,7 @@ TEST_F(Repairs, OfATeamWhateverItsAge) {
       {"two cities", [](T& t) { t.City = "Kansas City/Omaha"; }, [](const T& t) { return t.City == "Kansas City-Omaha" && t.Abbrev == "KCO"; }},
       {"two cities, other slash", [](T& t) { t.City = "Kansas City\\Omaha"; }, [](const T& t) { return t.City == "Kansas City-Omaha"; }},
       {"a city no file can have", [](T& t) { t.City = "A/b+c*?"; }, [](const T& t) { return t.City == "Abc"; }},
+      {"an abbreviation out of it", [](T& t) { t.City = "A/bc", t.Abbrev = "#"; }, [](const T& t) { return t.Abbrev == "Abc"; }},
       {"no nickname", [](T& t) { t.Nickname = ""; }, [](const T& t) { return t.Nickname == "Salem"; }},
       {"points of a period", [](T& t) { t.PeriodPoints[1][1] = 4000, t.PeriodPoints[2][1] = 4001, t.PeriodPoints[3][2] = -1; }, [](const T& t) { return t.PeriodPoints[1][1] == 4000 && t.PeriodPoints[2][1] == 0 && t.PeriodPoints[3][2] == 0; }},
       {"letters that can't be read", [](T& t) { t.RoadForeColor = t.RoadBackColor = 7; }, [](const T& t) { return t.RoadForeColor == 1 && t.RoadBackColor == 0; }},

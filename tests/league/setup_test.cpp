@@ -135,7 +135,10 @@ TEST(RecentList, IsReadNormalisedAndWrittenWithoutRepetition) {
   EXPECT_EQ(ReadWholeFile(file), "\"" + root + "One\\\"\n\"" + root + "Two\\\"\n")
       << "a repetition in another case and a path of ten characters are left out";
   for (int k = 0; k < 40; ++k) ASSERT_TRUE(MakeCurrent("League" + std::to_string(k)));
-  EXPECT_EQ(program.RecentList.size(), 30u);
+  EXPECT_EQ(program.RecentList.size(), 20u) << "the seasons list keeps twenty";
+  for (int k = 40; k < 60; ++k) ASSERT_TRUE(PushRecent(SeasonsRoot() + "League" + std::to_string(k)));
+  EXPECT_EQ(program.RecentList.size(), 30u) << "the recent list thirty";
+  ASSERT_TRUE(MakeCurrent("League39"));
   EXPECT_EQ(ShortEntry(program.RecentList.front()), "C:\\...League39");
 }
 

@@ -1,0 +1,295 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "base/record_file.h"
+#include "engine/engine.h"
+#include "engine/game_state.h"
+#include "frontoffice/league_maker.h"
+#include "gamesetup/team_pick_screen.h"
+#include "gamesetup/upcoming_games.h"
+#include "harness/temporary_home.h"
+#include "league/data_tree.h"
+#include "league/files.h"
+#include "league/program.h"
+#include "league/rules.h"
+#include "league/schedule.h"
+#include "platform/dialogs.h"
+
+namespace tipline {
+namespace {
+
+/// Notes which screens open; the preference screen is left by Ok after `choose`.
+struct NotedScreens : GameScreens {
+  std::function<void(HCGAMEsetup&)> choose = [](HCGAMEsetup&) {};
+  bool starts = true;
+  std::string opened;
+  tipline::GameState stop;
+
+  bool Preview(const ScheduleRecord&) override { return opened += "preview ", starts; }
+  void GameSetupScreen(HCGAMEsetup& screen) override {
+    opened += "setup ";
+    stop = game.GameState;
+    choose(screen);
+    EXPECT_TRUE(screen.Ok());
+  }
+  void OpenViewer() override { opened += "viewer "; }
+  void OpenGame() override { opened += "game "; }
+};
+
+void BothComputers(HCGAMEsetup& screen) { screen.ComputerOption.Fill(true); }
+
+class GameSetup : public testing::Test {
+ protected:
+  void SetUp() override {
+    game = {};
+    setup = {};
+    ASSERT_TRUE(UseShippedEras());
+    for (const char* name : {"Here", "There"}) {
+      LeagueRequest request;
+      request.Name = name;
+      request.Divisions = 2;
+      request.Teams = 4;
+      request.Games = 10;
+      std::string message;
+      ASSERT_TRUE(MakeLeague(request, message)) << message;
+    }
+    program.LeagueFolder = FindLeague("Here");
+    ASSERT_TRUE(LoadRules());
+    LoadAllTeams();
+    ASSERT_TRUE(LoadSchedule());
+    LoadLeaguePlayers();
+    for (int team = 1; team <= kTeams; ++team) {
+      if (league.team[team].TeamActive == 1) teams.push_back(team);
+    }
+    program.GameKind = "E";
+  }
+  void TearDown() override {
+    game = {};
+    setup = {};
+  }
+
+  TemporaryHome home;
+  platform::ScriptedDialogs dialogs;
+  std::vector<int> teams;
+  NotedScreens screens;
+};
+
+TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
+  const struct {
+    const char* why;
+    const char* kind;
+    int visitor, home;  // 1, 2: first and second team
+    bool dated;
+    std::string message;
+  } cases[] = {
+      {"league game without a date", "L", 1, 2, false,
+       "You must select a month, day, and year for this game!"},
+      {"the date is asked for first", "L", 0, 0, false,
+       "You must select a month, day, and year for this game!"},
+      {"no visitor", "E", 0, 2, true, "You must select two teams!"},
+      {"no home team", "L", 1, 0, true, "You must select two teams!"},
+      {"league game against itself", "L", 1, 1, true,
+       "You must select two different teams for a league game!"},
+      {"exhibition against itself", "E", 1, 1, true, ""},
+      {"exhibition without a date", "E", 1, 2, false, ""},
+      {"league game", "L", 1, 2, true, ""},
+  };
+  screens.choose = BothComputers;
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.why);
+    game = {};
+    dialogs.told.clear();
+    screens.opened.clear();
+    program.GameKind.Set(c.kind);
+    HCGameTeams2008 screen;
+    if (c.dated) screen.PickDate(9, 30, 2001);
+    if (c.visitor) screen.PickTeam(1, teams[static_cast<std::size_t>(c.visitor - 1)]);
+    if (c.home) screen.PickTeam(2, teams[static_cast<std::size_t>(c.home - 1)]);
+    EXPECT_EQ(screen.PlayCommand(screens), c.message.empty());
+    EXPECT_EQ(dialogs.told, c.message.empty() ? std::vector<std::string>{} : std::vector{c.message});
+    EXPECT_EQ(screens.opened, c.message.empty() ? "setup " : "");
+    EXPECT_EQ(game.GameOver, c.message.empty());
+    if (!c.message.empty()) continue;
+    EXPECT_EQ(game.GameMonth, c.dated ? 1 : 2);
+    EXPECT_EQ(game.GameCalendarMonth, c.dated ? 9 : 10);
+    EXPECT_EQ(game.GameDay, c.dated ? 30 : 1);
+    EXPECT_EQ(game.GameYear, c.dated ? 2001 : league.team[1].Year);
+  }
+}
+
+TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
+  const struct {
+    const char* why;
+    bool visitor, home;  // computers
+    int shown;
+    const char* opened;
+    bool over;
+  } cases[] = {
+      {"two humans", false, false, 0, "setup game ", false},
+      {"one human", true, false, 0, "setup game ", false},
+      {"computers at once", true, true, 0, "setup ", true},
+      {"computers shown", true, true, 1, "setup viewer ", true},
+  };
+  for (const auto& c : cases) {
+    HCGameTeams2008 screen;
+    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(2, teams[1]);
+    screens.opened.clear();
+    screens.choose = [&c](HCGAMEsetup& s) {
+      s.ComputerOption = {{c.visitor, c.home}};
+      s.Controls.ComputerCheck = static_cast<u8>(c.shown);
+    };
+    ASSERT_TRUE(screen.PlayCommand(screens));
+    EXPECT_EQ(screens.opened, c.opened) << c.why;
+    EXPECT_EQ(game.GameOver, c.over) << c.why;
+    EXPECT_EQ(program.Autoplaying, c.over && c.shown == 0) << c.why;
+  }
+}
+
+TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
+  const auto here = program.LeagueFolder, there = FindLeague("There");
+  const struct {
+    const char* why;
+    std::filesystem::path visitor, home;
+    bool two;
+  } cases[] = {
+      {"both from here", here, here, false},
+      {"here, with a separator", here / "", here, false},
+      {"the visitor from elsewhere", there, here, true},
+      {"both from elsewhere", there, there, false},
+  };
+  const auto before = RecordBytes(league.team[teams[0]]);
+  for (const auto& c : cases) {
+    HCGameTeams2008 screen;
+    screen.PickTeam(1, teams[0]);
+    screen.PickFolder(1, c.visitor);
+    EXPECT_EQ(game.GameTeam[1], 0) << "another folder takes the pick back";
+    EXPECT_EQ(screen.TeamLabel[1].Text, "Visiting Team");
+    screen.PickFolder(2, c.home);
+    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(2, teams[1]);
+    const auto city = [&](const std::filesystem::path& folder) {
+      TeamRecord team;
+      RecordFile(folder / "HCTEAMS", kTeamSlotBytes).Read(teams[0], team);
+      return team.City.Str();
+    };
+    EXPECT_EQ(game.team[1].City.Str(), city(c.visitor)) << c.why;
+    screens.choose = BothComputers;
+    ASSERT_TRUE(screen.PlayCommand(screens));
+    EXPECT_EQ(program.TwoFolderGame, c.two) << c.why;
+    EXPECT_EQ(program.LeagueFolder, here) << c.why;
+    EXPECT_EQ(RecordBytes(league.team[teams[0]]), before) << c.why;
+  }
+  program.GameKind = "L";
+  HCGameTeams2008 screen;
+  screen.PickFolder(1, there);
+  EXPECT_EQ(screen.TeamDir[1], here) << "both teams of a league game are from this league";
+}
+
+TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
+  program.ScenarioGame = true;
+  HCGameTeams2008 screen;
+  EXPECT_EQ(screen.ScenarioPeriodList.size(), league.rules.PeriodList + 1u);
+  const int full = league.rules.MinuteList;
+  const struct {
+    int minutes, seconds, keptMinutes, keptSeconds;
+  } cases[] = {{full, 59, full, 0},
+               {full + 1, 10, full, 0},
+               {-1, -1, 0, 0},
+               {full - 1, 60, full - 1, 59},
+               {0, 59, 0, 59}};
+  for (const auto& c : cases) {
+    screen.SetScenarioMinutes(c.minutes);
+    screen.SetScenarioSeconds(c.seconds);
+    EXPECT_EQ(screen.ScenarioMinutes, c.keptMinutes);
+    EXPECT_EQ(screen.ScenarioSeconds, c.keptSeconds);
+  }
+  screen.SetScenarioSeconds(30);
+  screen.SetScenarioMinutes(full);
+  EXPECT_EQ(screen.ScenarioSeconds, 0) << "the minutes came last";
+  screen.SetScenarioPoints(1, -5);
+  EXPECT_EQ(screen.ScenarioPoints[1], 0);
+}
+
+TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
+  program.ScenarioGame = true;
+  for (int situation = 0; situation <= 2; ++situation) {
+    HCGameTeams2008 screen;
+    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(2, teams[1]);
+    screen.ScenarioPeriod = 3;
+    screen.ScenarioSituation = situation;
+    screen.SetScenarioMinutes(1);
+    screen.SetScenarioSeconds(30);
+    screen.SetScenarioPoints(1, 100);
+    screen.SetScenarioPoints(2, 98);
+    screens.choose = [](HCGAMEsetup&) {};
+    ASSERT_TRUE(screen.PlayCommand(screens));
+    EXPECT_EQ(screens.stop == "JUMPBALL-1", situation == 0);
+    EXPECT_TRUE(situation == 0 || game.OffenseSide == situation);
+    EXPECT_EQ(game.Period, 4);
+    EXPECT_EQ(game.GameClock, 900);
+    EXPECT_EQ(game.side[1].Score - game.side[2].Score, 2);
+    screens.choose = BothComputers;
+    ASSERT_TRUE(screen.PlayCommand(screens));
+    EXPECT_TRUE(game.GameOver) << "computers play the rest";
+    EXPECT_GE(game.side[1].Score, 100);
+  }
+}
+
+TEST_F(GameSetup, SpreadAndCourt) {
+  const struct {
+    double visitor, home;
+    bool box, rule;
+    const char* label;  // V and H stand for the cities
+  } cases[] = {
+      {0, 9, false, false, "No Line"},  {9, 0, false, false, "No Line"},   {7.5, 4, false, false, "No Line"},
+      {8, 4, false, false, "V by 1"},   {7.9, 4, false, false, "No Line"}, {7, 4, false, false, "No Line"},
+      {6.9, 4, false, false, "H by 1"}, {7, 4, true, false, "V by 3"},     {7, 4, false, true, "V by 3"},
+  };
+  program.ReplayLocked = true;
+  for (const auto& c : cases) {
+    for (int s = 1; s <= 2; ++s) game.team[s].City = s == 1 ? "V" : "H";
+    game.team[1].PowerRating = c.visitor;
+    game.team[2].PowerRating = c.home;
+    league.rules.NeutralCheck = c.rule;
+    ASSERT_TRUE(SaveRules());
+    HCGAMEsetup screen;
+    EXPECT_EQ(screen.NeutralBox, c.rule);
+    if (c.box) screen.ClickNeutral(true);
+    EXPECT_EQ(game.NeutralGame, c.box || c.rule);
+    EXPECT_EQ(screen.PointSpreadLabel, c.label) << c.visitor << " " << c.home;
+    screen.ClickNeutral(false);
+    EXPECT_EQ(game.NeutralGame, c.rule) << "the rule is stronger than the box";
+  }
+}
+
+TEST_F(GameSetup, AGameOfTheScheduleTakesItsRow) {
+  ASSERT_GT(league.GameCount(), 3);
+  league.ScheduleGame[1].Year = 2004;
+  league.ScheduleGame[2].Month = 1;
+  league.ScheduleGame[2].NeutralSite = 1;
+  league.ScheduleGame[3].Team[2] = kFreeAgent;
+  EXPECT_FALSE(PlayUpcomingGame(0, screens) || PlayUpcomingGame(league.GameCount() + 1, screens));
+  EXPECT_FALSE(PlayUpcomingGame(3, screens));
+  EXPECT_EQ(dialogs.told, std::vector<std::string>{"Teams not selected for this game! Use Organize\\Schedule "
+                                                   "to select teams."});
+  EXPECT_EQ(screens.opened, "");
+  screens.starts = false;
+  EXPECT_FALSE(PlayUpcomingGame(2, screens));
+  EXPECT_EQ(screens.opened, "preview ");
+  screens.starts = true;
+  const int day = league.ScheduleGame[2].Day;
+  EXPECT_TRUE(PlayUpcomingGame(2, screens));
+  EXPECT_EQ(screens.opened, "preview preview setup game ");
+  EXPECT_EQ(game.GameYear, 2005) << "January lies in the year after the season's first";
+  EXPECT_EQ(game.GameMonth, 5);
+  EXPECT_EQ(game.GameDay, day);
+  EXPECT_TRUE(game.NeutralGame);
+  EXPECT_TRUE(program.GameKind == "L" && !program.ReplayLocked);
+  EXPECT_EQ(game.ScheduleRow, 0);
+}
+
+}  // namespace
+}  // namespace tipline
