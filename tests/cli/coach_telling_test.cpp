@@ -66,6 +66,7 @@ int Count(const std::string& text, const std::string& part) {
 
 TEST(EventLine, SaysWhoDidWhatWithWhom) {
   SetUpTold();
+  game.team[1].Abbrev = "RAL";
   PlayerAt(1, 1).ShortName = "Kane";
   PlayerAt(1, 2).ShortName = "Villa";
   PlayerAt(2, 1).ShortName = "Daly";
@@ -82,8 +83,8 @@ TEST(EventLine, SaysWhoDidWhatWithWhom) {
       {"OUTSIDE", "ST", kStolenBy, 1, 2, 1, "Kane loses the ball, stolen by Daly"},
       {"THREE", "G", kNoNote, 1, 0, 0, "Kane scores with a foot on the line"},
       {"HOLD BALL", "M", kNoNote, 1, 0, 0, "Kane misses at the end of the clock"},
-      {"", "TIMEOUT", kTimeoutNote, 1, 0, 0, "  timeout"},
-      {"", "TIMEOUT", kMediaTimeout, 1, 0, 0, "  media timeout"},
+      {"", "TIMEOUT", kTimeoutNote, 1, 0, 0, "RAL timeout"},
+      {"", "TIMEOUT", kMediaTimeout, 1, 0, 0, "RAL media timeout"},
       {"", "TIMEOUT", kInjuryNote, 1, 0, 0, "Kane is hurt and leaves the game"},
       {"", "TIMEOUT", kTechnicalNote, 1, 0, 0, "Kane is called for a technical foul"},
       {"", "TIMEOUT", kFightNote, 1, 2, 1, "Kane and Daly fight, and both are ejected"},
@@ -283,6 +284,7 @@ void SetUpRoughGame(std::uint64_t seed) {
   SetUpTold(seed);
   RulesRecord& rules = league.rules;
   rules.InjuryOption = rules.TemporaryGameInjuriesCheck = rules.IllegalDefenseList = 1;
+  game.Tension = 100;  // fights are near
   rules.FlagrantCheck = rules.ReplayReviewsCheck = rules.SuspensionsCheck = 1;
   for (int side = 1; side <= 2; ++side) {
     for (int slot = 1; slot <= kRosterSlots; ++slot) PlayerAt(side, slot).RateSportsmanship = 0;

@@ -230,7 +230,7 @@ TEST(CoachSession, TellsWhatChangedOrWhyNot) {
        [] { return ManAt(1, game.side[1].Lineup[5]).DoubleTeamThree == 1; }},
       {"order 3 three", false, "is told to shoot: three.",
        [] { return ManAt(2, game.side[2].Lineup[3]).GlobalOffense == kThree; }},
-      {"match computer", false, "A zone has no match-ups: nothing was searched",
+      {"match computer", false, "The rules leave the match-ups to you: nothing was searched",
        [] { return game.side[2].StoredMatchup[1] == 1; }},
       {"match c", true, "match ATTACKER DEFENDER", [] { return true; }},
       {"safe", true, "safe WHO [off].", [] { return true; }},
@@ -262,9 +262,8 @@ TEST(CoachSession, TellsWhatChangedOrWhyNot) {
   // clang-format on
   for (const auto& c : cases) {
     SetUpCoachedGame("pro", 1, "C", "H");
-    league.rules.ZoneLegalCheck = league.rules.AllowComputerManMatchupsCheck = 1;
-    game.side[1].DefenseType =
-        std::string_view(c.line) == "match computer" ? 3 : 0;  // before the tip it counts
+    league.rules.ZoneLegalCheck = 1;
+    league.rules.AllowComputerManMatchupsCheck = 0;
     PlayerAt(2, 7).LastName = "Van Dyke";
     std::istringstream in(std::string(c.line) + "\nquit\ny\n");
     std::ostringstream out, err;

@@ -252,7 +252,7 @@ TEST(DefenseCall, LeavesALatePutbackWhereItIs) {
   EXPECT_GT(Share(computer, ShootChosen, three), 0.5);
   EXPECT_EQ(Share(computer, ShootChosen, closer), 0);
   EXPECT_GT(Share(LateLongRebound, answered, three), 0.4);
-  EXPECT_EQ(Share(LateLongRebound, answered, closer), 0);
+  EXPECT_LT(Share(LateLongRebound, answered, closer), 0.02) << "only when the ball comes back to him";
 }
 
 void CoveredTightly() {

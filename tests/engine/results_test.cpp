@@ -56,6 +56,9 @@ TEST(Results, AFoulOverABlockedShotHasALineOfItsOwn) {
   game.play.Blocked = true;
   game.play.Blocker = 3;
   game.play.Fouler = game.play.FoulerSlot = game.play.FoulingSide = 0;
+  for (auto& side : game.player) {
+    for (auto& man : side) man.Stats[1].Reb = 400, man.Stats[1].Off = 100;
+  }
   int fouls = 0;
   EachSeed(400, [&] {
     PostPlay();
