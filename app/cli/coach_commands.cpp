@@ -14,7 +14,6 @@
 namespace tipline::cli {
 namespace {
 
-
 // Depth -------------------------------------------------------------------------------------------------
 
 constexpr std::string_view kPlaces[] = {"1st", "2nd", "3rd", "4th", "5th", "6th"};

@@ -231,7 +231,8 @@ Answer DoAuto(CoachSession& session, const Words& words) {
     return Answer::kStays;
   }
   const WatchUntil mark = ReadMark(words, game.Period);
-  if (!Ahead(mark, game.Period, game.GameClock)) return session.Refuse("That is no mark ahead of us; auto alone lists them.");
+  if (!Ahead(mark, game.Period, game.GameClock))
+    return session.Refuse("That is no mark ahead of us; auto alone lists them.");
   return session.GoOn("Both sides play on alone: " + std::string(mark.Text()) + ".", [mark] {
     game.WatchUntil = mark;
     SetPlayBox();

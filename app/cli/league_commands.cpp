@@ -20,7 +20,6 @@
 namespace tipline::cli {
 namespace {
 
-
 std::string HeightText(const PlayerRecord& p) { return Str(p.HeightFeet) + "-" + Str(p.HeightInches); }
 
 double PerGame(int count, int games) { return games > 0 ? static_cast<double>(count) / games : 0; }

@@ -16,8 +16,6 @@
 namespace tipline::cli {
 namespace {
 
-std::string Str(int value) { return std::to_string(value); }
-
 constexpr std::string_view kSliderWords[] = {"least", "little", "neutral", "much", "most"};
 
 /// "Drive" or, where a caption stands in two frames, "Off Crash Boards".

@@ -285,8 +285,10 @@ TEST_F(TeamScreens, PlansOfAnotherVersionAreMadeAnewOnce) {
     int year, version, slider, mark;
     bool changed, anew;
   } cases[] = {
-      {"right", 2019, 123, 4, 9, false, false},         {"right, later", 2020, 120, 4, 9, false, false},
-      {"of a later year", 2019, 120, 4, 9, true, true}, {"of an earlier", 2020, 123, 4, 9, true, true},
+      {"right", 2019, 123, 4, 9, false, false},
+      {"right, later", 2020, 120, 4, 9, false, false},
+      {"of a later year", 2019, 120, 4, 9, true, true},
+      {"of an earlier", 2020, 123, 4, 9, true, true},
       {"never made", 2019, 123, 4, 0, true, false},
       {"never made, of a later year", 2019, 120, 4, 0, true, true},
   };

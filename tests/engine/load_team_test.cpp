@@ -114,14 +114,17 @@ TEST_F(LoadedTeam, GoesBackToItsFiles) {
   EXPECT_EQ(daily.DailyMark, 99);
 }
 
-TEST_F(LoadedTeam, ACollegePlayoffGameWritesNothing) {
-  ASSERT_TRUE(LoadTeam(3, 1));
-  const std::string before = Files();
-  game.team[1].Wins = 1;
-  game.team[1].TeamType = "C";
-  program.PlayoffGame = true;
-  EXPECT_TRUE(SaveTeam(3, 1));
-  EXPECT_EQ(Files(), before);
+TEST_F(LoadedTeam, TheFinalOfTheCupWritesNothing) {
+  for (const char* type : {"C", "R"}) {
+    ASSERT_TRUE(LoadTeam(3, 1));
+    const std::string before = Files();
+    league.ScheduleGame.assign(2, {});
+    league.ScheduleGame[1].GameType = type;
+    game.ScheduleRow = 1;
+    game.team[1].Wins = static_cast<i16>(game.team[1].Wins + 1);
+    EXPECT_TRUE(SaveTeam(3, 1));
+    EXPECT_TRUE((Files() == before) == (type[0] == 'C')) << type;
+  }
 }
 
 }  // namespace

@@ -59,6 +59,7 @@ TEST(ScheduleGenerator, RefusesWhatIsNoSeason) {
       {"negative", 2, 10, -2, "Divisional games must be zero or an even number between 2 and 20 games."},
       {"too many", 2, 98, 22, "Divisional games must be zero or an even number between 2 and 20 games."},
       {"the longest file", 720, 54, 20, ""},
+      {"too long a file", 720, 56, 0, "A schedule holds at most 20000 games, these would be 20160."},
       {"the least", 2, 10, 0, ""},
   };
   for (const auto& c : cases) {
