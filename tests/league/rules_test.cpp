@@ -1,4 +1,5 @@
 #include "league/rules.h"
+#include "league/schedule.h"
 
 #include <gtest/gtest.h>
 
@@ -175,8 +176,11 @@ TEST_F(RuleFiles, AreRepairedOnceAndWrittenOnlyThen) {
   EXPECT_EQ(league.PhotoRatio, 1.5);
   EXPECT_EQ(league.PositionLabel[1], "PG");
   const auto saved = ReadWholeFile(RulesFile());
-  EXPECT_EQ(saved.substr(RulesRecord::kRecordSize), bytes.substr(RulesRecord::kRecordSize))
-      << "spare bytes and the tournament stay";
+  constexpr auto kSpare = kRulesSlotBytes - RulesRecord::kRecordSize;
+  EXPECT_EQ(saved.substr(RulesRecord::kRecordSize, kSpare), bytes.substr(RulesRecord::kRecordSize, kSpare));
+  EXPECT_EQ(saved.substr(kRulesSlotBytes + TournamentPools::kRecordSize),
+            bytes.substr(kRulesSlotBytes + TournamentPools::kRecordSize));
+  EXPECT_EQ(ReadPools().PoolMark, TournamentPools::kSetMark) << "a cup that was never set is none";
   EXPECT_NE(saved, bytes);
 
   std::filesystem::last_write_time(RulesFile(), {});
