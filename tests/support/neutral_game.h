@@ -3,6 +3,7 @@
 // period.
 #include "engine/game_state.h"
 #include "league/program.h"
+#include "league/setup.h"
 
 namespace tipline {
 
@@ -52,6 +53,8 @@ inline void SetUpNeutralGame() {
   random.Seed(1);
   league = {};
   program = {};
+  setup = {};
+  CallAllPlays();
   game = {};
   league.EraPro.Fill(PlainEra());
   league.EraCollege.Fill(PlainEra());
