@@ -145,7 +145,7 @@ void CoachSession::TellSinceLastStop() {
   while (toldRows_ < game.PlayLogCount) {
     ++toldRows_;
     for (; toldPeriod_ < game.PlayLog[toldRows_].Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
-    TellRow(toldRows_, toldRows_ == incident);
+    if (!manner_.told) TellRow(toldRows_, toldRows_ == incident);
   }
   for (; toldPeriod_ < game.Period; ++toldPeriod_) TellPeriodEnd(toldPeriod_);
   TellChanges();

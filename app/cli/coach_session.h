@@ -30,6 +30,7 @@ class CoachSession : private platform::Dialogs {
   struct Manner {
     bool prompt = false;  ///< somebody types: "> " is shown; a script's commands are echoed instead
     bool bold = false;    ///< the score line stands out
+    bool told = false;    ///< the announcer tells the plays: no line of the log for each
   };
   CoachSession(std::istream& in, std::ostream& out, std::ostream& err, Manner manner);
   ~CoachSession() override;

@@ -32,6 +32,9 @@ struct PlayRequest {
   std::string Scenario = "";  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
   std::string Until = "";     ///< mark up to which both sides play alone, "" none
   bool Neutral = false;
+  bool Brief = false;     ///< the short style of commentary, this game alone
+  bool Log = false;       ///< one line a play in place of the commentary
+  std::string Film = "";  ///< file that the game's film is written to, "" none
 };
 
 int NewLeague(LeagueRequest request, const Common& common);
@@ -64,6 +67,8 @@ struct DailyRequest {
 /// Who sits out on which game day. All that is asked for is done, or nothing.
 int ShowDaily(const DailyRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
+/// Shows the film of a game; at a terminal it is stepped through.
+int ShowFilm(const std::string& file);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
 /// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.

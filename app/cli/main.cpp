@@ -108,6 +108,11 @@ void AddPlay(CLI::App& app, Arguments& a) {
       "home or jump), such as \"P4 1:30 100-98 home\"");
   play->add_option("--until", a.play.Until,
                    "both sides play alone up to this mark, such as \"end 2\" or \"4th 2:00\"");
+  play->add_flag("--brief", a.play.Brief, "commentary in its short style");
+  play->add_flag("--log", a.play.Log, "no commentary: one line a play for a coach, else the box alone");
+  play->add_option("--film", a.play.Film, "write the commentary, play by play, to this film file");
+  auto* film = app.add_subcommand("film", "look at the film of a game");
+  film->add_option("file", a.file, "a film file, usually named .flm")->required();
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");
@@ -188,6 +193,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("daily")) return cli::ShowDaily(a.daily, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
+  if (app.got_subcommand("film")) return cli::ShowFilm(a.file);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);

@@ -2,11 +2,13 @@
 #include <unistd.h>
 
 #include <iostream>
+#include <optional>
 
 #include "cli/box_score.h"
 #include "cli/coach_marks.h"
 #include "cli/coach_session.h"
 #include "cli/commands.h"
+#include "cli/commentary_print.h"
 #include "cli/game_request.h"
 #include "cli/terminal.h"
 #include "engine/eligible.h"
@@ -18,6 +20,7 @@
 #include "league/league_check.h"
 #include "league/program.h"
 #include "league/setup.h"
+#include "narration/film.h"
 
 namespace tipline::cli {
 namespace {
@@ -29,7 +32,8 @@ bool Coaches(const PlayRequest& request, int side) {
 /// The screens of a game as the terminal has them: the options answer the preference screen.
 class TerminalGame : public GameScreens {
  public:
-  TerminalGame(const PlayRequest& request, WatchUntil until) : request_(request), until_(until) {}
+  TerminalGame(const PlayRequest& request, const Common& common, WatchUntil until)
+      : request_(request), quiet_(common.Quiet), until_(until) {}
   bool Preview(const ScheduleRecord&) override { return true; }
   void GameSetupScreen(HCGAMEsetup& screen) override;
   void OpenViewer() override { viewed_ = true; }
@@ -46,8 +50,10 @@ class TerminalGame : public GameScreens {
   void Coach() const;
 
   const PlayRequest& request_;
+  bool quiet_;
   WatchUntil until_;
   bool viewed_ = false;
+  std::optional<CommentaryPrinter> printer_;
 };
 
 void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
@@ -59,6 +65,9 @@ void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
   std::cout << TeamName(game.team[1]) << (game.NeutralGame ? " and " : " at ") << TeamName(game.team[2])
             << (game.NeutralGame ? " on a neutral court" : ", " + screen.ArenaLabel) << "\n";
   if (screen.PointSpreadLabel != "No Line") std::cout << screen.PointSpreadLabel << "\n";
+  const bool told = !quiet_ && !request_.Log;
+  if (told) printer_.emplace(std::cout);
+  game.CommentaryOn = told || !request_.Film.empty();
 }
 
 /// How often a human is asked, this game alone, and what his preferences leave to the computer.
@@ -66,6 +75,7 @@ void TerminalGame::UseRequest() const {
   if (request_.Calls == "none") CallNoPlays();
   if (request_.Calls == "default") UseDefaultCalls();
   if (request_.Calls == "all") CallAllPlays();
+  if (request_.Brief) setup.PBPOption = 1;
   for (Side& side : game.side) {
     if (side.CoachMode != "H") continue;
     side.AutoSubWhenTired = setup.SubWhenTiredCheck;
@@ -78,7 +88,7 @@ void TerminalGame::UseRequest() const {
 
 void TerminalGame::Coach() const {
   CoachSession session(std::cin, std::cout, std::cerr,
-                       {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0});
+                       {isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0, printer_.has_value()});
   session.GoOnFromHere();
 }
 
@@ -130,11 +140,12 @@ int PlayExhibition(const PlayRequest& request, const Common& common) {
   if (program.ScenarioGame && !EnterScenario(request.Scenario, screen)) return 1;
   if (!EnterMark(request.Until, screen, until)) return 1;
   if (!EnterFolder(request, screen) || !EnterTeams(request, screen)) return 1;
-  TerminalGame terminal(request, until);
+  TerminalGame terminal(request, common, until);
   const bool played = screen.PlayCommand(terminal);
   const bool finished = played && terminal.Finished();
-  program.Autoplaying = program.ReplayLocked = program.ScenarioGame = false;
+  program.Autoplaying = program.ReplayLocked = program.ScenarioGame = game.CommentaryOn = false;
   if (!played) return 1;
+  if (!request.Film.empty() && !SaveFilm(request.Film)) return 1;
   if (!finished) {
     std::cout << "The game was not finished.\n";
     return 0;

@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "coach/substitutions_pass.h"
 #include "league/program.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -147,6 +148,7 @@ void NoteChange() {
   if (game.GameClock != FullPeriod()) {
     game.PlayResult = "";
     game.LineupAnnounced = 1;
+    NarrateLineups();
   }
   game.LastSubClock = game.GameClock;
 }

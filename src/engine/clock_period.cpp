@@ -8,6 +8,7 @@
 #include "engine/execution.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -177,6 +178,7 @@ void NextPeriod() {
     GivePossession();
   }
   LoadLineups();
+  if (!league.rules.QuarterJumpCheck) NarrateOpening();
 }
 
 void Overtime() {
@@ -192,6 +194,7 @@ void EndPeriod() {
   if (last && IsFreeThrow(game.GameState) && game.PlayKind != "ENDPERIOD") return;
   CountPossession(game.OffenseSide);
   ClosePeriod();
+  NarratePeriodEnd();
   if (!last) {
     NextPeriod();
   } else if (game.side[1].Score == game.side[2].Score && game.Period < kMostPeriods) {

@@ -11,6 +11,7 @@
 #include "engine/shot_selection.h"
 #include "engine/who.h"
 #include "league/program.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -430,6 +431,7 @@ void PlayByPlay() {
   if (game.PlayResult == "NOSHOT") {
     game.play.NoShotEnd = 1;
     NotePosted();
+    NoteScene();
     if (game.GameClock == 0 && LastPeriod() && Margin() > 0) game.GameOver = true;
     if (!TimeLeft()) EndPeriodNotice();
     return;
@@ -439,6 +441,7 @@ void PlayByPlay() {
   if (game.PlayResult == "PASS" && !KickOut()) ShotBranch();
   if (IsShot(game.PlayResult)) game.LastShotKind = game.PlayKind;
   NotePosted();
+  NoteScene();
   Post();
   if (game.play.Posted.Index() >= PlayResult("MOVE-UP").Index()) game.play.Posted = game.PlayResult;
   if (game.PlayResult == "OFFENSE-BASKET-INTERFERENCE") {

@@ -7,10 +7,13 @@
 // position. Times are tenths of a second. Chances and weights are thousandths.
 #include "base/random.h"
 #include "base/tables.h"
+#include "engine/commentary_state.h"
 #include "engine/words.h"
 #include "league/league.h"
 
 namespace tipline {
+
+struct SayingTally;
 
 inline constexpr int kMinute = 600;  ///< tenths
 inline constexpr int kPositions = 5;
@@ -290,6 +293,23 @@ enum PlayNote : u8 {
   kTechnicalNote
 };
 
+/// A play as it stood when it was decided, before it was posted and the ball went on: what the announcer
+/// tells of it. What the posting added stands in `game.play`.
+struct Scene {
+  int OffenseSide = 2, DefenseSide = 1;
+  int BallPlayer = 0, BallSlot = 0, BallDefender = 0;
+  tipline::PlayKind PlayKind;
+  tipline::PlayResult PlayResult;
+  tipline::GameState GameState;
+  i32 GameClock = 0, ShotClock = 0, PlayTime = 0;
+  int DeadBallKind = 0, InboundSlot = 0, NeedsBringUp = 0;
+  int PutbackClass = 0;
+  Table<int, 1, 2> Score{};  ///< before the play
+  tipline::Call Call;
+  tipline::Possession Possession;
+  tipline::FastBreak FastBreak;
+};
+
 /// The coverage, double teams and help as they stood before a call for one play changed them.
 struct CoverageCopy {
   bool Taken = false;
@@ -360,6 +380,9 @@ struct GameRun {
   Table<ScoreLogRow, 1, kScoreLogRows> ScoreLog;
   int PlayLogCount = 0;
   Table<PlayLogRow, 1, kPlayLogRows> PlayLog;
+
+  Scene scene;
+  CommentaryState commentary;
 };
 
 struct Game : GameRun {
@@ -374,6 +397,8 @@ struct Game : GameRun {
   int ScheduleRow = 0;             ///< row of the running game in the schedule, 0 unscheduled
   bool AnalysisMode = false;       ///< the chances are run as a what-if
   tipline::WatchUntil WatchUntil;  ///< both sides run unattended up to this mark
+  bool CommentaryOn = false;       ///< somebody listens, or a film is made: plays are told
+  SayingTally* Tally = nullptr;    ///< counts what is said, for a survey; nullptr: nobody counts
 };
 
 extern Game game;

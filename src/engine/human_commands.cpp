@@ -13,6 +13,7 @@
 #include "engine/game_state.h"
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"
+#include "narration/narrator.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -197,6 +198,7 @@ void TimeoutChosen() {
   ChargeTimeout(side);
   game.PlayTime = 0;
   AddPlayLog(game.GameClock, side, 0, "", "TIMEOUT", kTimeoutNote);
+  NarrateTimeout(side, false);
   game.TimeoutTaken = 1;
   TimeoutRest();
   if (!StopGoesOn(game.GameState)) {

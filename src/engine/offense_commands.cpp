@@ -10,6 +10,7 @@
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"
 #include "league/program.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -158,6 +159,7 @@ void TryQuickPass() {
     possession.QuickPassReceiver = game.BallPlayer;
   }
   possession.JustQuickPassed = 1;
+  if (outcome == QuickPass::kPass) NarrateQuickPass();
   ChargePass(true);
 }
 

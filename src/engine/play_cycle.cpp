@@ -13,6 +13,7 @@
 #include "engine/shot_selection.h"
 #include "league/program.h"
 #include "league/setup.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -333,6 +334,7 @@ void JumpBall() {
     }
   }
   game.GameStarted = true;
+  NarrateOpening();
   game.possession = {};
   game.BallPlayer = game.BallSlot = 0;
   game.PlayKind = "";

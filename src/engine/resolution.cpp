@@ -14,6 +14,7 @@
 #include "engine/resolution_steps.h"
 #include "engine/shot_selection.h"
 #include "engine/weights.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -191,6 +192,7 @@ void FindResult() {
   PrepareWeights();
   if (game.GameOver) return;
   if (PlayIsInterrupted()) {
+    NarrateIncident();
     RestoreCoverage();
     ClearOrders();
     game.AfterTimeout = IsTimeout(game.GameState) ? 1 : 0;

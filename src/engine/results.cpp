@@ -8,6 +8,7 @@
 #include "engine/incidents.h"
 #include "engine/outcome.h"
 #include "engine/who.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -241,6 +242,7 @@ void PostPlay() {
   const int period = game.Period;
   PlayByPlay();
   LogPlay(side, kind);
+  NarratePlay();
   if (game.PlayKind == "ENDPERIOD" || !IsFreeThrow(kind)) EndPlay();
   if (game.GameOver || game.Period != period || IsJump(game.GameState)) return;
   if (game.PlayResult == "IN-OB-DEF" || game.PlayResult == "IN-5") {

@@ -6,6 +6,7 @@
 #include "engine/execution.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -21,6 +22,7 @@ void StopPlay(int side, PlayNote note) {
   game.possession = {};
   game.PlayResult = "";
   LogTimeout(side, note);
+  NarrateTimeout(side, note == kMediaTimeout);
 }
 
 void HonourWish(int side, int& wish) {

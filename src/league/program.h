@@ -6,6 +6,7 @@
 
 #include "base/words.h"
 #include "league/name_tables.h"
+#include "league/phrase_table.h"
 
 namespace tipline {
 
@@ -23,6 +24,7 @@ struct Program {
   std::string DataDrive = "C:";         ///< drive of the data tree
   std::vector<std::string> RecentList;  ///< tree texts of recent leagues, the current one first
   NameTables Names;                     ///< read at their first use, by Names()
+  PhraseTable Phrases;                  ///< the announcer's, read at their first use
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
   bool PlayoffGame = false;

@@ -1,0 +1,28 @@
+#include "cli/commentary_print.h"
+
+#include "cli/coach_events.h"
+#include "cli/columns.h"
+#include "narration/lines.h"
+
+namespace tipline::cli {
+
+std::string PbpScoreLine() {
+  const int regular = league.rules.PeriodList;
+  std::string period = OrdinalText(game.Period);
+  if (game.Period > regular)
+    period = game.Period == regular + 1 ? "OT" : OrdinalText(game.Period - regular) + " OT";
+  std::string line = period + " " + ClockText(game.scene.GameClock);
+  for (int s = 1; s <= 2; ++s) line += "   " + PbpTeamName(s) + " " + std::to_string(game.scene.Score[s]);
+  return line;
+}
+
+void CommentaryPrinter::Line(std::string_view text, int, int) {
+  if (game.scene.OffenseSide != offense_ || game.Period != period_) {
+    offense_ = game.scene.OffenseSide;
+    period_ = game.Period;
+    out_ << "\n" << Plain(PbpScoreLine()) << "\n";
+  }
+  out_ << "  " << Plain(std::string(text)) << "\n";
+}
+
+}  // namespace tipline::cli

@@ -1,0 +1,30 @@
+#pragma once
+// Commentary on a terminal: the lines as they come, and a score line where the ball changes hands.
+#include <ostream>
+#include <string>
+
+#include "platform/commentary_box.h"
+
+namespace tipline::cli {
+
+/// Shows the commentary of `game` on `out` while it lives.
+class CommentaryPrinter : private platform::CommentaryBox {
+ public:
+  explicit CommentaryPrinter(std::ostream& out) : out_(out) { platform::UseCommentaryBox(this); }
+  ~CommentaryPrinter() override { platform::UseCommentaryBox(nullptr); }
+  CommentaryPrinter(const CommentaryPrinter&) = delete;
+  CommentaryPrinter& operator=(const CommentaryPrinter&) = delete;
+
+ private:
+  void Line(std::string_view text, int side, int sound) override;
+  void Pause() override {}
+  void StopShown() override { out_.flush(); }
+
+  std::ostream& out_;
+  int offense_ = 0, period_ = 0;  ///< whose ball, and when, at the last score line
+};
+
+/// As the play that is told began: "2nd 4:32   Boston 45   Denver 43".
+std::string PbpScoreLine();
+
+}  // namespace tipline::cli

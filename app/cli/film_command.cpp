@@ -1,0 +1,66 @@
+// Looks at the film of a game: frame by frame at a terminal, all of it otherwise.
+#include <algorithm>
+#include <iostream>
+
+#include "cli/coach_events.h"
+#include "cli/columns.h"
+#include "cli/commands.h"
+#include "cli/terminal.h"
+#include "narration/film.h"
+
+namespace tipline::cli {
+namespace {
+
+void ShowPlay(const Film& film, int n) {
+  const FilmFrame& frame = film.frames[static_cast<std::size_t>(n - 1)];
+  std::cout << '\n';
+  for (int s = 1; s <= 2; ++s) {
+    std::cout << Plain(frame.FilmTeam[s].Str()) << ' ' << static_cast<int>(frame.FilmScore[s]) << "   ";
+  }
+  std::cout << "period " << static_cast<int>(frame.FilmPeriod) << "  " << ClockText(frame.FilmClock) << "   "
+            << n << " of " << film.frames.size() << '\n';
+  for (int line = 1; line <= frame.FilmLineCount; ++line) {
+    const std::string text = Plain(frame.FilmLine[line].Str());
+    if (text != "..") std::cout << "  " << text << '\n';
+  }
+}
+
+/// The frame that a command leads to from frame n; 0 to leave, -1 for what is none.
+int Step(const std::string& command, int n, int count) {
+  if (command.empty() || command == "n" || command == "next") return std::min(n + 1, count);
+  if (command == "p" || command == "previous") return std::max(n - 1, 1);
+  if (command == "f" || command == "first") return 1;
+  if (command == "l" || command == "last") return count;
+  if (command == "q" || command == "quit") return 0;
+  const bool digits = command.size() <= 4 && command.find_first_not_of("0123456789") == std::string::npos;
+  const int frame = digits ? std::stoi(command) : -1;
+  return frame >= 1 && frame <= count ? frame : -1;
+}
+
+int StepThrough(const Film& film) {
+  const int count = static_cast<int>(film.frames.size());
+  for (int n = 1; n != 0;) {
+    ShowPlay(film, n);
+    int next = -1;
+    while (next < 0) {
+      const auto command = AskLine("next, previous, first, last, a number, quit [next]: ");
+      if (!command) return 0;
+      next = Step(*command, n, count);
+      if (next < 0) std::cout << "There are frames 1 to " << count << ".\n";
+    }
+    n = next;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int ShowFilm(const std::string& file) {
+  const Film film = ReadFilm(file);
+  if (film.frames.empty()) return 1;
+  if (Interactive()) return StepThrough(film);
+  for (int n = 1; n <= static_cast<int>(film.frames.size()); ++n) ShowPlay(film, n);
+  return 0;
+}
+
+}  // namespace tipline::cli

@@ -1,0 +1,41 @@
+#pragma once
+// What the announcer works with: the lines of the present stop, and the play as it stood when it was decided.
+// It is filled only while somebody listens; no result depends on it.
+#include <string>
+#include <vector>
+
+#include "base/tables.h"
+#include "engine/words.h"
+#include "league/film_record.h"
+
+namespace tipline {
+
+inline constexpr int kPbpLines = 50;
+
+/// A line of commentary. ".." is a pause.
+struct PbpLine {
+  std::string Text;
+  int Side = 0;     ///< whose colours it takes, 0 none
+  int Sound = 0;    ///< 0 none, 2 score, 7 free throw, 9 free throw made, 22 horn
+  int Display = 0;  ///< cue of the court: 0 none, a floor position, 6 a shot in the air
+  int SpokenKind = 0;
+  std::string SpokenText;  ///< as the voice says it, up to 100 characters; "" when Text is said as it stands
+  bool IsPause() const { return Text == ".."; }
+};
+
+struct CommentaryState {
+  int PbpLineCount = 0;
+  Table<PbpLine, 1, kPbpLines> Line;
+  std::vector<FilmFrame> Film;  ///< up to 500 frames
+
+  // Marks that keep a remark from being made twice.
+  int NoShotSaid = 0, CantFoulSaid = 0, ForceScoreRemark = 0;
+  int SloppyCount = 0;                                                          ///< 0 to 4
+  int LastPerimeterSide = 0, LastPerimeterSlot = 0, LastPerimeterPosition = 0;  ///< of the last shot
+  Table2<u8, 1, 2, 0, 30> BioSaid;     ///< [side][slot] 1 = his line of biography was given
+  Table2<u8, 1, 2, 0, 30> DoubleSaid;  ///< [side][slot] 1 a double-double, 2 a triple-double was told
+  Table<const void*, 0, 23> Recent;    ///< sayings used last, so that the next is another one
+  int RecentCount = 0;
+};
+
+}  // namespace tipline

@@ -1,0 +1,174 @@
+// Which routines tell a play, and in which order.
+#include "narration/narrator.h"
+
+#include "narration/describe.h"
+#include "narration/incident_lines.h"
+#include "narration/lines.h"
+#include "narration/show.h"
+
+namespace tipline {
+namespace {
+
+/// A shot was let go, or its taker was fouled in the act.
+bool ShotWasTaken() { return IsShot(game.play.Posted); }
+
+bool NeverCameToAShot() {
+  const PlayResult r = game.play.Posted;
+  return r == "NOSHOT" || r == "HOLD BALL" || r == "BURN";
+}
+
+void TellEnd() { game.play.Posted == "NOSHOT" ? DescribeNoShot() : DescribeHoldBall(); }
+
+bool IsInbound(PlayResult r) {
+  return r.Index() >= PlayResult("IN-EZ").Index() && r.Index() <= PlayResult("IN-ST").Index();
+}
+bool IsMoveUp(PlayResult r) {
+  return r.Index() >= PlayResult("MOVE-UP").Index() && r.Index() <= PlayResult("MOVE-UP-ST").Index();
+}
+
+/// The board, a tip, and who fouled under it.
+void TellWhatFollowsAMiss() {
+  if (game.play.TipIn) DescribeTip();
+  if (game.PlayResult == "LOOSE-OFF" || game.PlayResult == "LOOSE-DEF") return DescribeLooseBallFoul();
+  if (game.play.TipIn != 2) DescribeRebound();
+}
+
+void TellShot() {
+  DescribeMovement();
+  DescribeShot();
+  const PlayResult r = game.play.Posted;
+  if (r == "M" || r == "M3") {
+    DescribeBegForCall();
+    TellWhatFollowsAMiss();
+  }
+}
+
+void TellFreeThrow() {
+  DescribeFreeThrow();
+  const bool last = scene().PlayKind == "SHOOT1" || scene().PlayKind == "SHOOT1-1";
+  if (game.play.Posted == "FTM" && last && game.play.ReboundSide > 0) DescribeRebound();
+}
+
+void TellLoss() {
+  DescribeMovement();
+  const PlayResult r = game.play.Posted;
+  if (r == "ST") {
+    DescribeSteal();
+  } else if (r == "SHOTCLOCK") {
+    DescribeShotClockViolation();
+  } else if (r == "OB") {
+    DescribeOutOfBounds();
+  } else {
+    DescribeTurnover();
+  }
+}
+
+void TellWhistle() {
+  const PlayResult r = game.play.Posted;
+  if (r == "2XPF") return DescribeDoubleFoul();
+  if (r == "DELAY") return DescribeDelay();
+  DescribeMovement();
+  if (r == "OF") return DescribeOffensiveFoul();
+  if (r == "JUMPBALL") return DescribeTieUp();
+  DescribeFoul();
+}
+
+void TellPlay() {
+  const PlayResult posted = game.play.Posted, decided = scene().PlayResult;
+  if (IsFreeThrow(scene().PlayKind)) {
+    TellFreeThrow();
+  } else if (IsInbound(decided)) {
+    DescribeInbound();
+  } else if (IsMoveUp(decided)) {
+    DescribeMoveUp();
+  } else if (NeverCameToAShot()) {
+    TellEnd();
+  } else if (ShotWasTaken()) {
+    TellShot();
+  } else if (posted == "TO" || posted == "ST" || posted == "OB" || posted == "SHOTCLOCK") {
+    TellLoss();
+  } else if (posted == "FORCED-TIMEOUT") {
+    DescribeTimeout(scene().OffenseSide, false);
+  } else {
+    TellWhistle();
+  }
+  if (game.play.FlagrantLevel > 0 || game.incident.Reviewed) DescribeFlagrant();
+}
+
+void TellIncident() {
+  for (std::string& line : IncidentLines()) NewLine(std::move(line), kSituationRemark);
+}
+
+}  // namespace
+
+void NoteScene() {
+  if (!Listening()) return;
+  Scene& s = game.scene;
+  s.OffenseSide = game.OffenseSide;
+  s.DefenseSide = game.DefenseSide;
+  s.BallPlayer = game.BallPlayer;
+  s.BallSlot = game.BallSlot;
+  s.BallDefender = game.BallDefender;
+  s.PlayKind = game.PlayKind;
+  s.PlayResult = game.PlayResult;
+  s.GameState = game.GameState;
+  s.GameClock = game.GameClock;
+  s.ShotClock = game.ShotClock;
+  s.PlayTime = game.PlayTime;
+  s.DeadBallKind = game.DeadBallKind;
+  s.InboundSlot = game.InboundSlot;
+  s.NeedsBringUp = game.NeedsBringUp;
+  s.PutbackClass = game.PutbackClass;
+  for (int side = 1; side <= 2; ++side) s.Score[side] = game.side[side].Score;
+  s.Call = game.call;
+  s.Possession = game.possession;
+  s.FastBreak = game.fastBreak;
+}
+
+void NarratePlay() {
+  if (!Listening()) return;
+  TellPlay();
+  DescribeScoreSituation();
+  ShowPlayByPlay();
+}
+
+void NarrateIncident() {
+  if (!Listening()) return;
+  TellIncident();
+  ShowPlayByPlay();
+}
+
+void NarrateOpening() {
+  if (!Listening()) return;
+  NoteScene();
+  DescribeOpening();
+  ShowPlayByPlay();
+}
+
+void NarrateQuickPass() {
+  if (!Listening()) return;
+  NoteScene();
+  DescribeQuickPass();
+  ShowPlayByPlay();
+}
+
+void NarrateTimeout(int side, bool media) {
+  if (!Listening()) return;
+  NoteScene();
+  DescribeTimeout(side, media);
+  ShowPlayByPlay();
+}
+
+void NarrateLineups() {
+  if (!Listening()) return;
+  DescribeLineupChanges();
+  ShowPlayByPlay();
+}
+
+void NarratePeriodEnd() {
+  if (!Listening()) return;
+  DescribePeriodEnd();
+  ShowPlayByPlay();
+}
+
+}  // namespace tipline
