@@ -33,6 +33,9 @@ int Schedules(std::ostream& out, const BenchOptions& options);
 /// What interrupts games, in a hundred of them, and the share of games that men miss over a season.
 int Incidents(std::ostream& out, const BenchOptions& options);
 
+/// How varied the commentary is, what is wrong in it, what is never said, and what it costs.
+int Commentary(std::ostream& out, const BenchOptions& options);
+
 /// Heap allocations of this program so far.
 std::uint64_t Allocations();
 

@@ -25,6 +25,7 @@ struct PbpLine {
 
 struct CommentaryState {
   int PbpLineCount = 0;
+  bool TellsPlay = false;  ///< the lines tell the play of the scene; else a timeout, an opening, an incident
   Table<PbpLine, 1, kPbpLines> Line;
   std::vector<FilmFrame> Film;  ///< up to 500 frames
 

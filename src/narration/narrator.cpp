@@ -127,9 +127,11 @@ void NoteScene() {
 
 void NarratePlay() {
   if (!Listening()) return;
+  game.commentary.TellsPlay = true;
   TellPlay();
   DescribeScoreSituation();
   ShowPlayByPlay();
+  game.commentary.TellsPlay = false;
 }
 
 void NarrateIncident() {
