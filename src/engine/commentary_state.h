@@ -31,7 +31,10 @@ struct CommentaryState {
 
   // Marks that keep a remark from being made twice.
   int NoShotSaid = 0, CantFoulSaid = 0, ForceScoreRemark = 0;
-  int SloppyCount = 0;                                                          ///< 0 to 4
+  int FreeThrowNo = 0, FreeThrowShooter = 0;  ///< the trip told last: its shots so far, and whose
+  i32 FreeThrowClock = 0;                     ///< and when: no time passes in a trip
+  bool FreeThrowStreakNote = false;           ///< a run at the line may be told
+  int SloppyCount = 0;                        ///< 0 to 4
   int LastPerimeterSide = 0, LastPerimeterSlot = 0, LastPerimeterPosition = 0;  ///< of the last shot
   Table2<u8, 1, 2, 0, 30> BioSaid;     ///< [side][slot] 1 = his line of biography was given
   Table2<u8, 1, 2, 0, 30> DoubleSaid;  ///< [side][slot] 1 a double-double, 2 a triple-double was told

@@ -304,6 +304,7 @@ struct Scene {
   i32 GameClock = 0, ShotClock = 0, PlayTime = 0;
   int DeadBallKind = 0, InboundSlot = 0, NeedsBringUp = 0;
   int PutbackClass = 0;
+  int Tension = 0;           ///< before the play
   Table<int, 1, 2> Score{};  ///< before the play
   tipline::Call Call;
   tipline::Possession Possession;

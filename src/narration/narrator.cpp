@@ -119,6 +119,7 @@ void NoteScene() {
   s.InboundSlot = game.InboundSlot;
   s.NeedsBringUp = game.NeedsBringUp;
   s.PutbackClass = game.PutbackClass;
+  s.Tension = game.Tension;
   for (int side = 1; side <= 2; ++side) s.Score[side] = game.side[side].Score;
   s.Call = game.call;
   s.Possession = game.possession;
