@@ -1,132 +1,114 @@
 #include "narration/incident_lines.h"
 
-#include <initializer_list>
-#include <string_view>
-
-#include "engine/game_state.h"
 #include "league/injury_names.h"
+#include "narration/describe.h"
+#include "narration/incident_sayings.h"
 
 namespace tipline {
 namespace {
 
+using namespace whistles;
 using Lines = std::vector<std::string>;
 
-std::string_view OneOf(std::initializer_list<std::string_view> words) {
-  return words.begin()[ShowRnd(static_cast<int>(words.size())) - 1];
-}
 bool Seldom() { return ShowRnd(10) <= 3; }
 
-std::string NameOf(int side, int slot) {
-  const PlayerRecord& p = PlayerAt(side, slot);
-  return std::string(p.ShortName.Empty() ? p.LastName.View() : p.ShortName.View());
-}
 std::string TheMan() { return NameOf(game.incident.Side, game.incident.Slot); }
 
-void Say(Lines& lines, std::string_view words) { lines.emplace_back(words); }
-void SayOf(Lines& lines, const std::string& name, std::string_view words) {
-  lines.push_back(name + std::string(words));
+void Tell(Lines& lines, const Family& family, const Cast& cast = {}) {
+  std::string text = Pick(family, cast);
+  if (!text.empty()) lines.push_back(std::move(text));
+}
+void TellOf(Lines& lines, const Family& family, const std::string& name) {
+  Tell(lines, family, {.who = name});
 }
 
 void InjuryTimeoutLines(Lines& lines) {
-  if (ShowRnd(10) == 1) Say(lines, "..");
-  Say(lines, OneOf({"Injury timeout", "Injury timeout on the court"}));
-  Say(lines, TheMan());
+  if (OneIn(10)) lines.emplace_back("..");
+  Tell(lines, kInjuryTimeout);
+  TellOf(lines, kHurtMan, TheMan());
+}
+
+void TellInjury(Lines& lines, bool shakenUp) {
+  if (shakenUp) Tell(lines, kShakenUp);
+  lines.emplace_back(InjuryName(game.incident.InjuryWord));
 }
 
 void ShakenUp(Lines& lines) {
   InjuryTimeoutLines(lines);
-  if (Seldom()) Say(lines, "he's shaken-up");
-  Say(lines, InjuryName(game.incident.InjuryWord));
-  // Words behind "but" can't be turned to a woman's.
-  if (game.team[1].TeamSex == 'W') return Say(lines, "he'll stay on the court");
-  Say(lines, OneOf({"he'll stay on the court", "but he'll be okay", "but he'll be fine",
-                    "but he'll remain in the game"}));
+  TellInjury(lines, Seldom());
+  Tell(lines, kStays);
 }
 
 void OutForAWhile(Lines& lines) {
   InjuryTimeoutLines(lines);
-  if (Seldom()) Say(lines, "he's shaken-up");
-  Say(lines, InjuryName(game.incident.InjuryWord));
-  Say(lines, Seldom() ? "he's leaving the court" : "he's leaving the game");
-  if (!LastPeriod() && ShowRnd(4) == 1) return Say(lines, "he'll be back");
-  Say(lines, OneOf({"he should return", "he should be back", "he'll return"}));
+  TellInjury(lines, Seldom());
+  Tell(lines, Seldom() ? kLeavesCourt : kLeavesGame);
+  const bool backSoon = !LastPeriod() && OneIn(4);
+  Tell(lines, backSoon ? kBackSoon : kShouldReturn);
 }
 
 /// How it looks from the stands: the longer the injury, the more is said, and in graver words.
 void HowBad(Lines& lines, int length) {
-  if (length > 30 + ShowRnd(60)) {
-    return Say(lines, OneOf({"looks pretty bad", "doesn't look good at all",
-                             "looks to be a significant injury", "looks pretty serious"}));
-  }
-  if (length > ShowRnd(20)) {
-    Say(lines, OneOf({"looks bad", "doesn't look good", "could be serious", "looks serious"}));
-  }
+  if (length > 30 + ShowRnd(60)) return Tell(lines, kVeryBad);
+  if (length > ShowRnd(20)) Tell(lines, kBad);
 }
 
 void HowLong(Lines& lines, int length) {
   if (length < 3 + ShowRnd(3)) {
-    Say(lines, "out for the game");
-    if (length > 1 && ShowRnd(2) == 1) Say(lines, "maybe more");
+    Tell(lines, kOutForGame);
+    if (length > 1 && OneIn(2)) Tell(lines, kMaybeMore);
   } else if (length >= 60) {
-    Say(lines, "he'll miss a few months!");
+    Tell(lines, kMonths);
   } else if (length >= 15) {
-    Say(lines, OneOf({"he'll miss a few weeks", "he'll miss quite a few games"}));
+    Tell(lines, kWeeks);
   } else if (length >= 5 && length <= 12) {
-    Say(lines, OneOf({"he'll miss about a week", "he'll miss a few games", "he'll miss quite a few games"}));
+    Tell(lines, kWeek);
   } else {
-    Say(lines, "he'll miss a few games");
+    Tell(lines, kFewGames);
   }
 }
 
 void Injury(Lines& lines) {
   const int length = game.incident.Length;
   InjuryTimeoutLines(lines);
-  if (ShowRnd(10) == 1 || length < 3) Say(lines, "he's shaken-up");
-  Say(lines, InjuryName(game.incident.InjuryWord));
+  TellInjury(lines, OneIn(10) || length < 3);
   HowBad(lines, length);
-  if (ShowRnd(2) == 1) {
-    Say(lines, OneOf({"he's leaving the court", "he's walking off the court", "he's leaving the game"}));
-  } else {
-    Say(lines, OneOf({"he's being taken to the locker room", "he's heading to the locker room",
-                      "he's being helped from the court"}));
-  }
+  Tell(lines, OneIn(2) ? kWalksOff : kTakenOff);
   HowLong(lines, length);
 }
 
-void SayShots(Lines& lines) {
+void TellShots(Lines& lines) {
   const Incident& i = game.incident;
   if (i.Shots == 0) return;
-  SayOf(lines, NameOf(i.ShooterSide, i.Shooter),
-        i.Shots == 2 ? " will shoot two" : " will shoot the technical");
+  TellOf(lines, i.Shots == 2 ? kTwoTechnicalShots : kOneTechnicalShot, NameOf(i.ShooterSide, i.Shooter));
 }
 
 void IllegalDefense(Lines& lines) {
-  Say(lines, OneOf({"illegal defense", "illegal defense is called", "there's an illegal defense"}));
-  if (game.incident.Warning) return Say(lines, "that's the warning");
-  SayShots(lines);
+  Tell(lines, kIllegalDefense);
+  if (game.incident.Warning) return Tell(lines, kWarning);
+  TellShots(lines);
 }
 
 void Fight(Lines& lines) {
   const Incident& i = game.incident;
   const std::string first = NameOf(i.Side, i.Slot), second = NameOf(3 - i.Side, i.OtherSlot);
-  Say(lines, "Fight!");
-  lines.push_back(first + " and " + second);
-  for (const std::string& name : {first, second}) SayOf(lines, name, " has been ejected!");
-  if (i.Suspension > 0) lines.push_back("(Suspension?) " + first);
-  if (i.OtherSuspension > 0) lines.push_back("(Suspension?) " + second);
-  SayShots(lines);
+  Tell(lines, kFight);
+  Tell(lines, kFighters, {.who = first, .other = second});
+  TellOf(lines, kEjected, first);
+  TellOf(lines, kEjected, second);
+  if (i.Suspension > 0) TellOf(lines, kSuspension, first);
+  if (i.OtherSuspension > 0) TellOf(lines, kSuspension, second);
+  TellShots(lines);
 }
 
-void Technical(Lines& lines) {
-  SayOf(lines, TheMan(),
-        OneOf({" is screaming at the ref", " must have said something to the ref",
-               " is giving the ref an earful", " won't let it go"}));
-  Say(lines, OneOf({"technical foul!", "he gets a technical"}));
-  if (game.incident.Ejected) SayOf(lines, TheMan(), " has been ejected!");
-  SayShots(lines);
+void TechnicalFoul(Lines& lines) {
+  TellOf(lines, kTemper, TheMan());
+  Tell(lines, kTechnical);
+  if (game.incident.Ejected) TellOf(lines, kEjected, TheMan());
+  TellShots(lines);
 }
 
-/// Somebody must be in an official's way: anybody of the ten.
+/// Somebody may be in an official's way: anybody of the ten.
 std::string AnyOfTheTen() {
   const int side = ShowRnd(2);
   const int position = ShowRnd(kPositions);
@@ -134,29 +116,26 @@ std::string AnyOfTheTen() {
 }
 
 void Delay(Lines& lines) {
-  Say(lines, "we have a delay");
-  if (ShowRnd(4) == 1) {
-    const std::string man = AnyOfTheTen();
-    if (!man.empty()) lines.push_back("a ref got tangled up with " + man);
-  } else {
-    Say(lines, OneOf({"the ball boys are cleaning a wet spot", "the refs want a wet spot cleaned",
-                      "we have a courtside disturbance"}));
-  }
-  Say(lines, OneOf({"we're ready", "now we're ready to roll", "now we're ready to continue"}));
+  Tell(lines, kDelay);
+  TellOf(lines, kDelayWhy, AnyOfTheTen());
+  Tell(lines, kReady);
+}
+
+void Verdict(Lines& lines) {
+  const int level = game.incident.FlagrantLevel;
+  TellOf(lines, level == 2 ? kFlagrantTwo : level == 1 ? kFlagrantOne : kCommon, TheMan());
 }
 
 void Flagrant(Lines& lines) {
-  const Incident& i = game.incident;
-  Say(lines, std::string(OneOf({"should be a flagrant on ", "should be called a flagrant on "})) + TheMan());
-  if (ShowRnd(3) == 1) Say(lines, "that one has to be a flagrant foul");
-  if (i.Reviewed) {
-    Say(lines, OneOf({"they're taking a long look at this one", "taking their time",
-                      "they're taking a close look"}));
-  }
-  if (i.FlagrantLevel == 0) return lines.push_back("ruled a common foul on " + TheMan());
-  SayOf(lines, TheMan(),
-        i.FlagrantLevel == 2 ? " is called for a flagrant 2!" : " is called for a flagrant 1!");
-  if (i.Ejected) Say(lines, "he'll be ejected!");
+  TellOf(lines, kShouldBeFlagrant, TheMan());
+  if (OneIn(3)) Tell(lines, kMustBeFlagrant);
+  if (game.incident.Reviewed) Tell(lines, kReview);
+  Verdict(lines);
+  if (game.incident.Ejected) Tell(lines, kSentOff);
+}
+
+void Show(const Lines& lines) {
+  for (const std::string& line : lines) NewLine(line, kSituationRemark);
 }
 
 }  // namespace
@@ -182,7 +161,7 @@ std::vector<std::string> IncidentLines() {
       Fight(lines);
       break;
     case IncidentKind::kTechnical:
-      Technical(lines);
+      TechnicalFoul(lines);
       break;
     case IncidentKind::kDelay:
       Delay(lines);
@@ -192,6 +171,19 @@ std::vector<std::string> IncidentLines() {
       break;
   }
   return lines;
+}
+
+void DescribeFlagrant() {
+  if (game.incident.Kind != IncidentKind::kFlagrant) return;
+  Lines lines;
+  Brief() ? Verdict(lines) : Flagrant(lines);
+  Show(lines);
+}
+
+void DescribeDelay() {
+  Lines lines;
+  Brief() ? Tell(lines, kDelay) : Delay(lines);
+  Show(lines);
 }
 
 }  // namespace tipline

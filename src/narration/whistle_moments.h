@@ -1,0 +1,76 @@
+#pragma once
+// What the sayings of whistles and lost balls ask of the play of `game.scene`.
+#include "engine/execution.h"
+#include "narration/lines.h"
+
+namespace tipline::whistles {
+
+// Who had a hand in it.
+inline int FoulingSide() { return game.play.FoulingSide == 0 ? scene().DefenseSide : game.play.FoulingSide; }
+inline const StatLine& FoulerLine() { return PlayerAt(FoulingSide(), game.play.Fouler).Stats[3]; }
+/// Slot of the man who was fouled: away from the ball that is another than the man who had it.
+inline int FouledSlot() {
+  const bool elsewhere = game.play.OffBallFoul && IsFloorFoul(game.play.Posted);
+  return elsewhere ? game.BallPlayer : scene().BallPlayer;
+}
+inline std::string FouledName() { return NameOf(scene().OffenseSide, FouledSlot()); }
+inline bool JustNamed(const std::string& name) {
+  return !name.empty() && !NoLineYet() && LastLine().Text.find(name) != std::string::npos;
+}
+inline bool BallManJustNamed() { return JustNamed(BallName()); }
+inline bool FouledManJustNamed() { return JustNamed(FouledName()); }
+
+inline bool ForMen() { return !WomensGame(); }
+inline bool ForWomen() { return WomensGame(); }
+
+// Where and how the play went.
+inline bool Inside() { return scene().PlayKind == "INSIDE"; }
+inline bool Driving() { return scene().PlayKind == "DRIVE"; }
+inline bool Running() { return scene().PlayKind == "FASTBREAK"; }
+inline bool OnTheBoards() { return scene().PlayKind == "OFFREB"; }
+inline bool TowardsTheBasket() { return Inside() || Driving() || Running(); }
+inline bool Holding() { return scene().PlayKind == "HOLD BALL" || scene().PlayKind == "BURN"; }
+inline bool Lobbed() { return scene().Call.LobFrom > 0; }
+inline bool Guard() { return scene().BallSlot == 1 || scene().BallSlot == 2; }
+inline bool BigMan() { return scene().BallSlot >= 4; }
+inline bool FullCourtPress() { return DefenseThen().Pressure >= 3; }
+inline bool SetOffense() { return !Running() && !OnTheBoards(); }
+inline bool LateAndClose() { return LastPeriod() && scene().GameClock < 3000 && MarginNow() <= 3; }
+
+// Fouls.
+inline bool HardFoul() { return game.Tension > scene().Tension; }
+inline bool ByHisDefender() { return game.play.Fouler == scene().BallDefender; }
+inline bool ByHelp() { return !ByHisDefender(); }
+/// The defense goes for the worst man at the line.
+inline bool HuntsTheWorst() { return DefenseThen().QuickFoul == 3; }
+inline bool StopsTheClock() { return DefenseThen().QuickFoul == 1 || DefenseThen().QuickFoul == 2; }
+/// Fouled as the ball comes up: the books give two shots for it, or the possession is still young.
+inline bool InBackcourt() {
+  constexpr int kToCross = 80;
+  const bool young = scene().ShotClock - scene().PlayTime > FullShotClock() - kToCross;
+  return game.play.IntentionalFoul && (league.rules.BackcourtTwoShotsCheck || young);
+}
+inline bool BadAtTheLine() {
+  const StatLine& real = PlayerAt(scene().OffenseSide, FouledSlot()).Stats[1];
+  return real.FTA > 20 && 10 * real.FTM < 6 * real.FTA;
+}
+inline bool OneFoulLeft() { return league.rules.DqList > 0 && FoulerLine().Pf == league.rules.DqList - 1; }
+inline bool FouledOut() { return league.rules.DqList > 0 && FoulerLine().Pf >= league.rules.DqList; }
+inline bool MayFoulOn() { return !FouledOut(); }
+/// More fouls than a coach likes to see by now.
+inline bool FoulTrouble() {
+  const int half = league.rules.PeriodList / 2;
+  const int fouls = FoulerLine().Pf;
+  return (game.Period <= half && fouls >= 3) || (!LastPeriod() && fouls >= 4);
+}
+
+// Free throws; the counts hold the shot that is told.
+inline const StatLine& ShooterLine() { return BallMan().Stats[3]; }
+inline bool FirstOfTrip() { return game.commentary.FreeThrowNo == 0; }
+inline bool Technical() { return game.TechnicalFreeThrow != 0; }
+/// One shot and no more, as it stands.
+inline bool OneShot() { return scene().PlayKind == "SHOOT1" && FirstOfTrip(); }
+inline bool MoreShots() { return !OneShot(); }
+inline bool FreeThrowMade() { return game.play.Posted == "FTG"; }
+
+}  // namespace tipline::whistles
