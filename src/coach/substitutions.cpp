@@ -141,14 +141,15 @@ bool RunPass(SubPass& pass) {
 
 /// After a change the stop's result is spent, and the next removals wait a little.
 void NoteChange() {
-  if (Watching()) return;
   if (game.side[1].Lineup == game.side[1].PreviousLineup &&
       game.side[2].Lineup == game.side[2].PreviousLineup)
     return;
-  if (game.GameClock != FullPeriod()) {
+  const bool fullClock = game.GameClock == FullPeriod();
+  if (!fullClock) NarrateLineups();
+  if (Watching()) return;
+  if (!fullClock) {
     game.PlayResult = "";
     game.LineupAnnounced = 1;
-    NarrateLineups();
   }
   game.LastSubClock = game.GameClock;
 }

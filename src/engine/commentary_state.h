@@ -36,9 +36,15 @@ struct CommentaryState {
   bool FreeThrowStreakNote = false;           ///< a run at the line may be told
   int SloppyCount = 0;                        ///< 0 to 4
   int LastPerimeterSide = 0, LastPerimeterSlot = 0, LastPerimeterPosition = 0;  ///< of the last shot
-  Table2<u8, 1, 2, 0, 30> BioSaid;     ///< [side][slot] 1 = his line of biography was given
-  Table2<u8, 1, 2, 0, 30> DoubleSaid;  ///< [side][slot] 1 a double-double, 2 a triple-double was told
-  Table<const void*, 0, 23> Recent;    ///< sayings used last, so that the next is another one
+  int ResultLine = 0;                         ///< where the stop tells the shot's result, 0 nowhere
+  int BasketPeriod = 0, LeadChangesSaid = 0;  ///< period of the last basket; count told last
+  tipline::PlayKind KindBefore;               ///< of the play told before
+  Table2<int, 1, 2, 0, 30> ShotRun;           ///< [side][slot] baskets in a row, below 0 misses
+  Table2<u8, 1, 2, 0, 30> VeteranSaid;        ///< [side][slot] 1 = his age was remarked on
+  int HolderSide = 0, Holder = 0;  ///< who has the ball, as it was told last; 0 nobody
+  Table2<u8, 1, 2, 0, 30> BioSaid;            ///< [side][slot] 1 = his line of biography was given
+  Table2<u8, 1, 2, 0, 30> DoubleSaid;         ///< [side][slot] 1 a double-double, 2 a triple-double was told
+  Table<const void*, 0, 23> Recent;           ///< sayings used last, so that the next is another one
   int RecentCount = 0;
 };
 

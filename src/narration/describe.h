@@ -12,6 +12,8 @@ namespace tipline {
 /// A shot in `game.scene.PlayKind`, from the look to the result: setup, shot, block, make or miss, foul,
 /// assist, lead, horn.
 void DescribeShot();
+/// A turn of the man with the ball, seldom told; also on the way to losing it.
+void DescribeSpin();
 void DescribeTip();             ///< of `game.play.Tipper`
 void DescribeScoreSituation();  ///< runs, lead, lead changes, schemes, droughts
 void DescribeHoldBall();
@@ -35,7 +37,8 @@ void DescribeBegForCall();  ///< behind a miss
 std::span<const Family> WhistleFamilies();
 
 // The ball and the floor.
-void DescribeMovement();  ///< the way of the ball up to the man of the play
+void DescribeMovement();      ///< the way of the ball up to the man of the play
+void DescribePressTrouble();  ///< behind a ball lost against pressure
 void DescribeInbound();
 void DescribeMoveUp();
 void DescribeRebound();
