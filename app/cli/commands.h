@@ -34,6 +34,7 @@ struct PlayRequest {
   bool Neutral = false;
   bool Brief = false;     ///< the short style of commentary, this game alone
   bool Log = false;       ///< one line a play in place of the commentary
+  bool Speak = false;     ///< the commentary is spoken, this game alone
   std::string Film = "";  ///< file that the game's film is written to, "" none
 };
 
@@ -67,8 +68,8 @@ struct DailyRequest {
 /// Who sits out on which game day. All that is asked for is done, or nothing.
 int ShowDaily(const DailyRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
-/// Shows the film of a game; at a terminal it is stepped through.
-int ShowFilm(const std::string& file);
+/// Shows the film of a game, and speaks it; at a terminal it is stepped through.
+int ShowFilm(const std::string& file, bool speak);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
 /// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.

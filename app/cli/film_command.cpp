@@ -1,12 +1,16 @@
 // Looks at the film of a game: frame by frame at a terminal, all of it otherwise.
 #include <algorithm>
 #include <iostream>
+#include <optional>
 
 #include "cli/coach_events.h"
 #include "cli/columns.h"
 #include "cli/commands.h"
+#include "cli/speaker.h"
 #include "cli/terminal.h"
+#include "league/program.h"
 #include "narration/film.h"
+#include "narration/speech.h"
 
 namespace tipline::cli {
 namespace {
@@ -21,7 +25,9 @@ void ShowPlay(const Film& film, int n) {
             << n << " of " << film.frames.size() << '\n';
   for (int line = 1; line <= frame.FilmLineCount; ++line) {
     const std::string text = Plain(frame.FilmLine[line].Str());
-    if (text != "..") std::cout << "  " << text << '\n';
+    if (text == "..") continue;
+    std::cout << "  " << text << std::endl;
+    SpeakLine(text, !Interactive());  // who steps through it may go on while it is said
   }
 }
 
@@ -37,29 +43,35 @@ int Step(const std::string& command, int n, int count) {
   return frame >= 1 && frame <= count ? frame : -1;
 }
 
-int StepThrough(const Film& film) {
+void StepThrough(const Film& film) {
   const int count = static_cast<int>(film.frames.size());
   for (int n = 1; n != 0;) {
     ShowPlay(film, n);
     int next = -1;
     while (next < 0) {
       const auto command = AskLine("next, previous, first, last, a number, quit [next]: ");
-      if (!command) return 0;
+      if (!command) return;
       next = Step(*command, n, count);
       if (next < 0) std::cout << "There are frames 1 to " << count << ".\n";
     }
     n = next;
   }
-  return 0;
 }
 
 }  // namespace
 
-int ShowFilm(const std::string& file) {
+int ShowFilm(const std::string& file, bool speak) {
   const Film film = ReadFilm(file);
   if (film.frames.empty()) return 1;
-  if (Interactive()) return StepThrough(film);
-  for (int n = 1; n <= static_cast<int>(film.frames.size()); ++n) ShowPlay(film, n);
+  std::optional<Speaker> speaker;
+  if (speak) speaker.emplace();
+  program.FilmReplay = true;
+  if (Interactive()) {
+    StepThrough(film);
+  } else {
+    for (int n = 1; n <= static_cast<int>(film.frames.size()); ++n) ShowPlay(film, n);
+  }
+  program.FilmReplay = false;
   return 0;
 }
 

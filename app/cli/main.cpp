@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "base/random.h"
+#include "cli/phrase_commands.h"
 #include "cli/schedule_commands.h"
 #include "cli/stop_signals.h"
 #include "cli/terminal.h"
@@ -36,6 +37,8 @@ struct Arguments {
   cli::CoachRequest coach;
   cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
+  cli::PhraseArguments phrases;
+  bool speak = false;
 };
 
 /// Options that every command takes, in front of it or behind it.
@@ -111,8 +114,10 @@ void AddPlay(CLI::App& app, Arguments& a) {
   play->add_flag("--brief", a.play.Brief, "commentary in its short style");
   play->add_flag("--log", a.play.Log, "no commentary: one line a play for a coach, else the box alone");
   play->add_option("--film", a.play.Film, "write the commentary, play by play, to this film file");
+  play->add_flag("--speak", a.play.Speak, "speak the commentary, with what your preferences say of it");
   auto* film = app.add_subcommand("film", "look at the film of a game");
   film->add_option("file", a.file, "a film file, usually named .flm")->required();
+  film->add_flag("--speak", a.speak, "speak it");
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
   ratings->add_flag("--all", a.all, "every team of the league");
@@ -193,9 +198,11 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("daily")) return cli::ShowDaily(a.daily, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
-  if (app.got_subcommand("film")) return cli::ShowFilm(a.file);
+  if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
+  if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
+  if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
@@ -227,6 +234,7 @@ int main(int argc, char** argv) {
   AddPlay(app, a);
   AddCoach(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
+  cli::AddPhrases(app, a.phrases, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -249,7 +257,7 @@ int main(int argc, char** argv) {
     LoadSetup();
     if (!MayStart(terminal, a.force)) return 1;
     const Opened opened;
-    terminal.AssumeYes = a.yes || a.schedule.Yes;
+    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

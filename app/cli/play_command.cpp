@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/commentary_print.h"
 #include "cli/game_request.h"
+#include "cli/speaker.h"
 #include "cli/terminal.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
@@ -54,6 +55,7 @@ class TerminalGame : public GameScreens {
   WatchUntil until_;
   bool viewed_ = false;
   std::optional<CommentaryPrinter> printer_;
+  std::optional<Speaker> speaker_;
 };
 
 void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
@@ -67,7 +69,11 @@ void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
   if (screen.PointSpreadLabel != "No Line") std::cout << screen.PointSpreadLabel << "\n";
   const bool told = !quiet_ && !request_.Log;
   if (told) printer_.emplace(std::cout);
-  game.CommentaryOn = told || !request_.Film.empty();
+  if (request_.Speak) {
+    TurnNarratorOn();
+    speaker_.emplace();
+  }
+  game.CommentaryOn = told || request_.Speak || !request_.Film.empty();
 }
 
 /// How often a human is asked, this game alone, and what his preferences leave to the computer.

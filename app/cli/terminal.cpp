@@ -25,6 +25,10 @@ bool Terminal::Ask(std::string_view question, std::string_view) {
   return answer && !answer->empty() && ((*answer)[0] == 'y' || (*answer)[0] == 'Y');
 }
 
+void Terminal::Beep() {
+  if (isatty(STDERR_FILENO)) std::cerr << '\a';
+}
+
 bool Interactive() { return isatty(STDIN_FILENO) && isatty(STDOUT_FILENO); }
 
 std::optional<std::string> AskLine(std::string_view prompt) {

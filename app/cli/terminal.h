@@ -14,6 +14,7 @@ class Terminal : public platform::Dialogs {
   ~Terminal() override { platform::UseDialogs(nullptr); }
   void Tell(std::string_view message, std::string_view title) override;
   bool Ask(std::string_view question, std::string_view title) override;
+  void Beep() override;
 
   bool AssumeYes = false;                ///< every question is answered so
   std::string_view YesOption = "--yes";  ///< the option that answers what nobody is there to answer

@@ -8,8 +8,12 @@
 #include "base/record_file.h"
 #include "league/daily.h"
 #include "league/files.h"
+#include "league/film_record.h"
+#include "league/phrase_table.h"
+#include "league/program.h"
 #include "league/schedule.h"
 #include "league/setup.h"
+#include "platform/folders.h"
 
 namespace tipline {
 namespace {
@@ -230,7 +234,11 @@ constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)
   return {name, path, slot, records, DumpSlot<Record>, DocumentFile<Record>};
 }
 
+constexpr std::string_view kAnyFilm = "*.flm", kPhrases = "HCpbp.HCp";
+
 std::filesystem::path DefaultSchedule() { return LeagueFile(kDefaultScheduleFile); }
+std::filesystem::path AnyFilm() { return LeagueFile(kAnyFilm); }
+std::filesystem::path PhrasesFile() { return program.ProgramFolder / kPhrases; }
 
 const FileFormat kFormats[] = {
     Format<TeamRecord>("HCTEAMS", TeamsFile, kTeamSlotBytes, "720 records; record number = team number"),
@@ -246,14 +254,48 @@ const FileFormat kFormats[] = {
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
     Format<SetupRecord>("HcSetup2023.dat", SetupFile, kSetupSlotBytes, "1 record: the user's preferences"),
+    Format<FilmFrame>(kAnyFilm, AnyFilm, kFilmSlotBytes,
+                      "a frame for each play that was told; without its version in record 1 a film is an old "
+                      "one"),
+    Format<PhraseRecord>(kPhrases, PhrasesFile, kPhraseLength,
+                         "6000 records, 20 to each of 300 slots; record number = (slot - 1) x 20 + variant"),
 };
+// Films of the first kind have the name of the others.
+const FileFormat kOldFilm =
+    Format<OldFilmFrame>("*.flm, old", AnyFilm, kOldFilmSlotBytes, "a frame for each play that was told");
+
+/// A file of many names, by their end.
+bool NamedLike(std::string_view format, const std::string& capitals) {
+  return (format == kDefaultScheduleFile && capitals.ends_with(".SKD")) ||
+         (format == kAnyFilm && capitals.ends_with(".FLM")) ||
+         (format == kPhrases && (capitals.ends_with("HCP") || capitals == "HSKHPBP"));
+}
 
 const FileFormat* FormatOf(std::string_view name) {
   for (const auto& format : kFormats) {
     if (SameText(format.name, name)) return &format;
-    if (format.name == kDefaultScheduleFile && Upper(name).ends_with(".SKD")) return &format;
+    if (NamedLike(format.name, Upper(name))) return &format;
   }
   return nullptr;
+}
+
+/// A bare name, where files of its format lie; of some there may be several.
+std::filesystem::path PathOf(const FileFormat& format, std::string_view name) {
+  if (SameText(name, format.name)) return format.path();
+  if (format.name == kPhrases) return platform::RealPath(program.ProgramFolder, name);
+  return LeagueFile(name);
+}
+
+bool IsOldFilm(const std::filesystem::path& path) {
+  FilmFrame first;
+  RecordFile(path, kFilmSlotBytes).Read(1, first);
+  return first.FilmVersion != kFilmVersion;
+}
+
+void DocumentFormat(const FileFormat& format, std::string& text) {
+  text += "## " + Escaped(format.name) + "\n\nSlots of " + std::to_string(format.slot) + " bytes, " +
+          std::string(format.records) + ". ";
+  format.document(text);
 }
 
 }  // namespace
@@ -272,11 +314,9 @@ bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
   const FileFormat* format = FormatOf(given.filename().string());
   const bool hasFormat = format && n >= 1 && (n == 1 || format->name != "HCRULES");
   if (!hasFormat) return false;
-  // A league may hold more than one schedule.
-  const auto here = format->slot == kScheduleSlotBytes && !SameText(fileName, format->name)
-                        ? LeagueFile(fileName)
-                        : format->path();
-  const RecordFile file(given.has_parent_path() ? given : here, format->slot);
+  const auto path = given.has_parent_path() ? given : PathOf(*format, fileName);
+  if (format->name == kAnyFilm && IsOldFilm(path)) format = &kOldFilm;
+  const RecordFile file(path, format->slot);
   if (file.Bytes() <= (n - 1LL) * format->slot) return false;
   format->dump(file, n, out);
   return true;
@@ -284,11 +324,8 @@ bool DumpRecord(std::string_view fileName, int n, std::ostream& out) {
 
 std::string FormatDocument() {
   std::string text(kPreface);
-  for (const auto& format : kFormats) {
-    text += "## " + std::string(format.name) + "\n\nSlots of " + std::to_string(format.slot) + " bytes, " +
-            std::string(format.records) + ". ";
-    format.document(text);
-  }
+  for (const auto& format : kFormats) DocumentFormat(format, text);
+  DocumentFormat(kOldFilm, text);
   DocumentLine<StatLine>(text);
   DocumentLine<RealTotalsLine>(text);
   DocumentLine<SeriesLine>(text);

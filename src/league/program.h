@@ -7,6 +7,7 @@
 #include "base/words.h"
 #include "league/name_tables.h"
 #include "league/phrase_table.h"
+#include "league/translation_table.h"
 
 namespace tipline {
 
@@ -25,6 +26,7 @@ struct Program {
   std::vector<std::string> RecentList;  ///< tree texts of recent leagues, the current one first
   NameTables Names;                     ///< read at their first use, by Names()
   PhraseTable Phrases;                  ///< the announcer's, read at their first use
+  TranslationTable Translate;           ///< how the voice says names, read at its first use
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
   bool PlayoffGame = false;
@@ -32,6 +34,7 @@ struct Program {
   bool ScenarioGame = false;   ///< the team pick screen sets up a scenario
   bool TwoFolderGame = false;  ///< an exhibition of teams from two leagues: it is neither saved nor stored
   bool ReplayLocked = false;   ///< a game, or its set-up, holds the data
+  bool FilmReplay = false;     ///< a film is looked at: it is spoken whatever the preferences say
   bool Autoplaying = false;    ///< bulk play: the computer acts at every stop, nothing is shown
 };
 

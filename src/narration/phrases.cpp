@@ -3,9 +3,10 @@
 #include <array>
 
 #include "engine/game_state.h"
-#include "league/phrase_table.h"
+#include "league/program.h"
 #include "league/setup.h"
 #include "narration/lines.h"
+#include "narration/phrase_file.h"
 
 namespace tipline {
 namespace {
@@ -14,22 +15,31 @@ const std::array<const PhraseRole*, kPhraseSlotsUsed + 1>& Roles() {
   static const auto roles = [] {
     std::array<const PhraseRole*, kPhraseSlotsUsed + 1> all{};
     for (const auto part : {ShotPhrases(), WhistlePhrases(), FloorPhrases()}) {
-      for (const PhraseRole& role : part) all[static_cast<std::size_t>(role.slot)] = &role;
+      for (const PhraseRole& role : part) all.at(static_cast<std::size_t>(role.slot)) = &role;
     }
     return all;
   }();
   return roles;
 }
 
+const PhraseRole* RoleAt(int slot) {
+  return slot >= 1 && slot <= kPhraseSlotsUsed ? Roles()[static_cast<std::size_t>(slot)] : nullptr;
+}
+
 }  // namespace
 
 std::string_view DefaultPhrase(int slot) {
-  if (slot < 1 || slot > kPhraseSlotsUsed) return "";
-  const PhraseRole* role = Roles()[static_cast<std::size_t>(slot)];
+  const PhraseRole* role = RoleAt(slot);
   return role ? role->text : "";
 }
 
+std::string_view RoleOfPhrase(int slot) {
+  const PhraseRole* role = RoleAt(slot);
+  return role ? role->role : "";
+}
+
 int PickVariant() {
+  // The shares of variant 1, of 2 to 5 and of 6 to 10 in a hundred, added up; 11 to 20 have the rest.
   constexpr int kBorders[4][3] = {{50, 90, 95}, {35, 75, 90}, {20, 60, 80}, {15, 35, 60}};
   const int usage = setup.DescriptionUsage;
   if (usage > 3) return ShowRnd(kPhraseVariants);
@@ -42,9 +52,10 @@ int PickVariant() {
 }
 
 std::string Phrase(int slot) {
-  PickVariant();
-  if (game.Tally && slot >= 1 && slot <= kPhraseSlots) ++game.Tally->slots[slot];
-  return std::string(DefaultPhrase(slot));
+  if (slot < 1 || slot > kPhraseSlotsUsed) return "";
+  if (!program.Phrases.Loaded()) LoadPhraseTable();
+  if (game.Tally) ++game.Tally->slots[slot];
+  return program.Phrases.At(PickVariant(), slot).Str();
 }
 
 }  // namespace tipline

@@ -22,5 +22,6 @@ int PickVariant();
 /// A phrase of slot 1 to 253, by PickVariant; "" for another slot. Loads the table at its first use.
 std::string Phrase(int slot);
 std::string_view DefaultPhrase(int slot);  ///< "" for a slot that is not used
+std::string_view RoleOfPhrase(int slot);   ///< the sentence of its role; "" for a slot that is not used
 
 }  // namespace tipline

@@ -5,6 +5,7 @@
 
 #include "narration/film.h"
 #include "narration/lines.h"
+#include "narration/speech.h"
 #include "platform/commentary_box.h"
 
 namespace tipline {
@@ -62,6 +63,7 @@ void ShowLines() {
       box.Pause();
     } else {
       box.Line(line.Text, line.Side, line.Sound);
+      SpeakShownLine(n);
     }
   }
   box.StopShown();
@@ -82,6 +84,7 @@ void ShowPlayByPlay() {
   if (WomensGame()) RewriteGender();
   AddFilmFrames();
   ShowLines();
+  if (game.commentary.TellsPlay) SpeakPlay();
   game.commentary.PbpLineCount = 0;
 }
 

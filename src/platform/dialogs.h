@@ -15,6 +15,8 @@ class Dialogs {
   virtual void Tell(std::string_view message, std::string_view title = "") = 0;
   /// A question with yes and no; true for yes.
   virtual bool Ask(std::string_view question, std::string_view title = "") = 0;
+  /// Nothing came of what the user pressed.
+  virtual void Beep() {}
 };
 
 /// The one in use: that of the front end, or the silent one, which keeps quiet and answers no.
@@ -32,7 +34,9 @@ class ScriptedDialogs : public Dialogs {
   ~ScriptedDialogs() override { UseDialogs(nullptr); }
   void Tell(std::string_view message, std::string_view) override { told.emplace_back(message); }
   bool Ask(std::string_view question, std::string_view title) override;
+  void Beep() override { ++beeps; }
 
+  int beeps = 0;
   std::deque<bool> answers;
   std::vector<std::string> told, asked, unexpected;
 };

@@ -1,0 +1,91 @@
+#include "narration/speech.h"
+
+#include "league/program.h"
+#include "league/setup.h"
+#include "narration/lines.h"
+#include "narration/translations.h"
+#include "platform/voice.h"
+
+namespace tipline {
+namespace {
+
+bool IsRemark(int kind) {
+  return (kind >= kScoreRemark && kind <= 73) || kind == 81 || kind == 88 || kind == 89;
+}
+bool IsTurnover(int kind) {
+  return kind == kStealLine || (kind >= kLostOutOfBounds && kind <= kThreeSeconds);
+}
+bool IsMade(int kind) { return kind == kMadeTwo || kind == kMadeThree; }
+
+/// The user wants to hear lines of this kind.
+bool Wanted(int kind) {
+  if (setup.NarratorFullPBPCheck) return true;  // every line that is shown
+  if (kind == kUnspoken) return false;
+  if (IsRemark(kind)) return setup.NarratorMiscCheck;
+  if (IsTurnover(kind)) return setup.NarratorTurnoversCheck;
+  if (kind == kReboundLine) return setup.NarratorReboundsCheck;
+  if (IsMade(kind) || kind == kMissedShot) {
+    return setup.NarratorShotPlusResultCheck || setup.NarratorScoringCheck;
+  }
+  return setup.NarratorShotPlusResultCheck;
+}
+
+/// Who was fouled as he shot; the plain sentence of FillSpokenLine has told it already.
+std::string FoulEnding(const PbpLine& line) {
+  const PlayResult result = game.play.Posted;
+  const bool told = line.SpokenText.ends_with("fouled");
+  if (told || !IsShot(result) || !result.Text().ends_with('F')) return "";
+  const std::string fouled = WomensGame() ? "she was fouled " : "he was fouled ";
+  if (!IsMadeShot(result)) return " , but " + fouled;
+  return ShowRnd(10) <= 3 ? " , and one " : " , and " + fouled;
+}
+
+std::string AssistEnding() {
+  const std::string passer = NameOf(scene().OffenseSide, game.play.Assister);
+  if (!setup.NarratorAssistsCheck || !Scored() || !game.play.Assisted || passer.empty()) return "";
+  return ShowRnd(10) <= 5 ? " , " + passer + " gets the assist" : " , from  " + passer;
+}
+
+/// Without a final "!", and without a count in brackets.
+std::string_view Bare(std::string_view text) {
+  text = Trimmed(text);
+  if (text.ends_with('!')) text.remove_suffix(1);
+  for (const std::size_t length : {3u, 4u}) {
+    if (text.size() >= length && text.ends_with(')') && text[text.size() - length] == '(') {
+      text.remove_suffix(length);
+    }
+  }
+  return Trimmed(text);
+}
+
+}  // namespace
+
+bool SpeechOn() { return !platform::voice().Silent() && (setup.MasterNarratorCheck || program.FilmReplay); }
+
+void SayAloud(std::string_view text, bool wait) {
+  platform::Voice& voice = platform::voice();
+  if (Trimmed(text).empty() || voice.Silent()) return;
+  voice.Select(setup.VoiceList);
+  voice.SetRate(1 - setup.NarratorScroll * 0.1);
+  voice.SetVolume(setup.NarratorVolumeScroll);
+  voice.Speak(text, wait);
+}
+
+void SpeakLine(std::string_view text, bool wait) {
+  if (!SpeechOn() || Trimmed(text).empty()) return;
+  SayAloud(Translated(text), wait);
+}
+
+void SpeakShownLine(int n) {
+  if (!SpeechOn() || game.commentary.Line[n].IsPause()) return;
+  const PbpLine& line = game.commentary.Line[n];
+  const int kind = line.SpokenKind;
+  if (!Wanted(kind)) return;
+  if (!setup.NarratorFullPBPCheck) FillSpokenLine(n);  // else the lines around it name the man
+  std::string text = line.SpokenText.empty() ? line.Text : line.SpokenText;
+  if (IsMade(kind) || kind == kMissedShot) text += FoulEnding(line);
+  if (IsMade(kind)) text += AssistEnding();
+  SpeakLine(Bare(text));
+}
+
+}  // namespace tipline
