@@ -15,7 +15,7 @@ void TellFlop() {
 }
 
 void DescribeCharge() {
-  if (!BallManJustNamed()) Say(kDriveIn);
+  if (!BallManMeant()) Say(kDriveIn);
   if (TowardsTheBasket() && OneIn(8)) {  // let go as they collide: it does not count
     Say(kChargeShot);
     Say(kChargeShotEnd);

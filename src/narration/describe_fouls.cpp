@@ -3,6 +3,7 @@
 #include "narration/describe.h"
 #include "narration/foul_remarks.h"
 #include "narration/foul_sayings.h"
+#include "narration/shot_parts.h"
 
 namespace tipline {
 namespace {
@@ -39,8 +40,6 @@ void TellFoul() {
   if (HuntsTheWorst() && BadAtTheLine() && OneIn(2)) Say(kHack, fouled.cast());
 }
 
-int MadeKind() { return game.play.Posted == "G3F" ? kMadeThree : kMadeTwo; }
-
 /// The shooter's points behind the line of the basket.
 void AddPoints() {
   if (!setup.DisplayStatsInPbpCheck) return;
@@ -49,18 +48,11 @@ void AddPoints() {
 }
 
 void TellAndOne() {
-  const int side = scene().OffenseSide;
-  const int result = game.commentary.PbpLineCount + 1;
-  if (HardFoul()) {
-    Say(kCounted, {}, MadeKind(), side);
-    AddPoints();
-    Say(kHardAndOne);
-  } else {
-    Say(kAndOne, {}, MadeKind(), side);
-    AddPoints();
-  }
-  if (game.commentary.PbpLineCount >= result) game.commentary.Line[result].Sound = 2;
-  if (game.play.Posted == "G3F") {
+  const bool three = game.play.Posted == "G3F";
+  if (Say(HardFoul() ? kCounted : kAndOne)) MarkBasket(three);
+  AddPoints();
+  if (HardFoul()) Say(kHardAndOne);
+  if (three) {
     Say(kFourPoint);
   } else if (OneIn(3)) {
     Say(kThreePoint);

@@ -115,7 +115,7 @@ void TellForm() {
     return;
   } else if (FreeThrowMade() && c.FreeThrowStreakNote && streak >= 10 && OneIn(6)) {
     Say(kLineStreak, {.number = streak}, kSituationRemark);
-  } else if (OneIn(5)) {
+  } else if (OneIn(4)) {
     Say(kLineForm, {.number = line.FTA}, kSituationRemark);
   }
 }

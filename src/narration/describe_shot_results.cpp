@@ -241,9 +241,7 @@ void DescribeShotBriefly() {
     const std::string blocker = NameOf(scene().DefenseSide, game.play.Blocker);
     if (!blocker.empty()) NewLine(blocker + std::string(words.blocks) + name);
   }
-  if (!WasFouled() || game.play.Fouler == 0) return;
-  NewLine((Scored() ? "and he's fouled by " : "but he's fouled by ") +
-          NameOf(scene().DefenseSide, game.play.Fouler));
+  if (WasFouled()) DescribeFouledOnShot();
 }
 
 void DescribeTip() {

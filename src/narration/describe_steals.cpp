@@ -23,7 +23,7 @@ void DescribeDive() {
 }
 
 void TellSteal(const std::string& loser) {
-  if (!JustNamed(loser)) Say(FromThePass() ? kPass : kHasIt, {.who = loser});
+  if (!MeansHim(loser)) Say(FromThePass() ? kPass : kHasIt, {.who = loser});
   if (OneIn(30)) return DescribeDive();
   if (OneIn(8)) Say(kPassTipped);
   if (OneIn(40)) Say(kPile);
@@ -68,7 +68,7 @@ void DescribeOutOfBounds() {
     return;
   }
   if (kept) return DescribeDeflection();
-  if (!BallManJustNamed()) Say(kHasIt);
+  if (!BallManMeant()) Say(kHasIt);
   Say(kLostOut, {}, kLostOutOfBounds);
 }
 

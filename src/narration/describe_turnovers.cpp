@@ -41,7 +41,7 @@ Loss DrawLoss() {
 }
 
 void NameTheBallMan() {
-  if (!BallManJustNamed()) Say(kHasIt);
+  if (!BallManMeant()) Say(kHasIt);
 }
 
 /// Anybody else of the five: a pass is meant for somebody.

@@ -6,6 +6,17 @@
 namespace tipline::whistles {
 namespace {
 
+/// A man of the ten, but this one, is in the line.
+bool NamesAnother(const std::string& line, const std::string& name) {
+  for (int side = 1; side <= 2; ++side) {
+    for (const int slot : game.side[side].Lineup) {
+      const std::string other = NameOf(side, slot);
+      if (!other.empty() && other != name && line.find(other) != std::string::npos) return true;
+    }
+  }
+  return false;
+}
+
 void TellHisFouls() {
   const int fouls = FoulerLine().Pf;
   if (FouledOut() || (fouls >= 2 && OneIn(4)) || (OneFoulLeft() && OneIn(2)) || (FoulTrouble() && OneIn(2)))
@@ -32,6 +43,12 @@ int Complainer(int& side) {
 }
 
 }  // namespace
+
+bool MeansHim(const std::string& name) {
+  if (!JustNamed(name)) return false;
+  const std::string& line = LastLine().Text;
+  return line.ends_with(name) || (line.starts_with(name) && !NamesAnother(line, name));
+}
 
 void TellFoulCounts() {
   TellHisFouls();

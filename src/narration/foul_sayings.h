@@ -13,7 +13,7 @@ inline constexpr Saying kFoulSayings[] = {
     {"{fouler} is called for a hold"},
     {"{fouler} is called for a push"},
     {"#135 {fouler}",                                  ByHisDefender},
-    {"{fouler} grabs him for the foul",                FouledManJustNamed},
+    {"{fouler} grabs him for the foul",                FouledManMeant},
     {"{fouler} grabs {who}'s jersey for the foul", nullptr, 4},
     {"the foul is called on {fouler}"},
     {"{fouler} is called for the foul"},
@@ -77,13 +77,13 @@ inline constexpr Saying kStopClockSayings[] = {
 inline constexpr Saying kBackcourtFoulSayings[] = {
     {"backcourt foul on {fouler}"},
     {"{who} is fouled in the backcourt by {fouler}"},
-    {"he's fouled in the backcourt by {fouler}", FouledManJustNamed},
+    {"he's fouled in the backcourt by {fouler}", FouledManMeant},
     {"{who} is #102 {fouler}"},
 };
 inline constexpr Saying kHardFoulSayings[] = {
-    {"he's hammered by {fouler}", FouledManJustNamed},
-    {"{fouler} hit him hard!",    FouledManJustNamed},
-    {"{fouler} hammered him!",    FouledManJustNamed},
+    {"he's hammered by {fouler}", FouledManMeant},
+    {"{fouler} hit him hard!",    FouledManMeant},
+    {"{fouler} hammered him!",    FouledManMeant},
     {"{fouler} hit {who} hard!"},
     {"{fouler} hammered {who}!"},
     {"#090 {fouler}"},
@@ -92,8 +92,8 @@ inline constexpr Saying kWeakCallSayings[] = {
     {"questionable call"}, {"very weak call"}, {"weak call"}, {"let them play ref!"},
 };
 inline constexpr Saying kFoulCountSayings[] = {
-    {"that's his {ord}",                [] { return MayFoulOn() && JustNamed(NameOf(FoulingSide(), game.play.Fouler)); }},
-    {"his {ord} foul",                  [] { return MayFoulOn() && JustNamed(NameOf(FoulingSide(), game.play.Fouler)); }},
+    {"that's his {ord}",                [] { return MayFoulOn() && FoulerMeant(); }},
+    {"his {ord} foul",                  [] { return MayFoulOn() && FoulerMeant(); }},
     {"the {ord} on {fouler}",           MayFoulOn},
     {"that's {n} on {fouler}",          MayFoulOn},
     {"{fouler} has {n} now",            MayFoulOn},

@@ -41,20 +41,20 @@ inline constexpr Saying kLobLostSayings[] = {
 inline constexpr Saying kLostOutSayings[] = {
     {"{ball} lost it OB"},
     {"{ball} #110"},
-    {"he stepped on the line",   BallManJustNamed},
-    {"he stepped out of bounds", BallManJustNamed},
+    {"he stepped on the line",   BallManMeant},
+    {"he stepped out of bounds", BallManMeant},
     {"{ball} lost the handle"},
     {"it's off the foot of {ball} and out", nullptr, 5},
 };
 inline constexpr Saying kAfterReboundSayings[] = {
     {"{ball} came down with it and traveled"}, {"{ball} came down with it and double dribbled"},
 };
-inline constexpr Saying kTravelActSayings[] = {{"{ball} shuffles his feet"}, {"up and down", BallManJustNamed}};
+inline constexpr Saying kTravelActSayings[] = {{"{ball} shuffles his feet"}, {"up and down", BallManMeant}};
 inline constexpr Saying kTravelSayings[] = {
     {"that's a travel"}, {"traveling violation"}, {"he traveled"}, {"he's called for a travel"}, {"he walked"}, {"he walked with it"},
     {"{ball} took an extra step", Driving}, {"{ball} dragged the pivot foot", BigMan},
 };
-inline constexpr Saying kDoubleDribbleSayings[] = {{"he double dribbled", BallManJustNamed}, {"{ball} #092"}};
+inline constexpr Saying kDoubleDribbleSayings[] = {{"he double dribbled", BallManMeant}, {"{ball} #092"}};
 inline constexpr Saying kOverLineSayings[] = {
     {"over and back"}, {"over and back violation"}, {"backcourt violation"}, {"{ball} went back over the line"},
 };

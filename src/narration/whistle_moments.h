@@ -14,11 +14,15 @@ inline int FouledSlot() {
   return elsewhere ? game.BallPlayer : scene().BallPlayer;
 }
 inline std::string FouledName() { return NameOf(scene().OffenseSide, FouledSlot()); }
+/// The last line has his name.
 inline bool JustNamed(const std::string& name) {
   return !name.empty() && !NoLineYet() && LastLine().Text.find(name) != std::string::npos;
 }
-inline bool BallManJustNamed() { return JustNamed(BallName()); }
-inline bool FouledManJustNamed() { return JustNamed(FouledName()); }
+/// "he" can only be this man: the last line ends with his name, or begins with it and has no other.
+bool MeansHim(const std::string& name);
+inline bool BallManMeant() { return MeansHim(BallName()); }
+inline bool FouledManMeant() { return MeansHim(FouledName()); }
+inline bool FoulerMeant() { return MeansHim(NameOf(FoulingSide(), game.play.Fouler)); }
 
 inline bool ForMen() { return !WomensGame(); }
 inline bool ForWomen() { return WomensGame(); }
