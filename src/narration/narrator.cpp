@@ -5,6 +5,7 @@
 #include "narration/incident_lines.h"
 #include "narration/lines.h"
 #include "narration/show.h"
+#include "narration/speech.h"
 
 namespace tipline {
 namespace {
@@ -144,6 +145,7 @@ void NarrateIncident() {
 void NarrateOpening() {
   if (!Listening()) return;
   NoteScene();
+  SpeakLineups();
   DescribeOpening();
   ShowPlayByPlay();
 }
@@ -172,6 +174,7 @@ void NarratePeriodEnd() {
   if (!Listening()) return;
   DescribePeriodEnd();
   ShowPlayByPlay();
+  SpeakPeriodEnd();
 }
 
 }  // namespace tipline
