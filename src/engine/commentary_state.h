@@ -41,7 +41,8 @@ struct CommentaryState {
   tipline::PlayKind KindBefore;               ///< of the play told before
   Table2<int, 1, 2, 0, 30> ShotRun;           ///< [side][slot] baskets in a row, below 0 misses
   Table2<u8, 1, 2, 0, 30> VeteranSaid;        ///< [side][slot] 1 = his age was remarked on
-  int HolderSide = 0, Holder = 0;  ///< who has the ball, as it was told last; 0 nobody
+  bool HolderOffBoard = false;                ///< by an offensive rebound
+  int HolderSide = 0, Holder = 0;             ///< who has the ball, as it was told last; 0 nobody
   Table2<u8, 1, 2, 0, 30> BioSaid;            ///< [side][slot] 1 = his line of biography was given
   Table2<u8, 1, 2, 0, 30> DoubleSaid;         ///< [side][slot] 1 a double-double, 2 a triple-double was told
   Table<const void*, 0, 23> Recent;           ///< sayings used last, so that the next is another one

@@ -166,7 +166,8 @@ std::span<const PhraseRole> FloorPhrases() { return kPhrases; }
 
 namespace floor_talk {
 
-void TellHolder(int side, int slot) {
+void TellHolder(int side, int slot, bool offBoard) {
+  game.commentary.HolderOffBoard = offBoard;
   game.commentary.HolderSide = slot > 0 ? side : 0;
   game.commentary.Holder = slot;
 }

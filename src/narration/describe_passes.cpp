@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kMostLength = 60;
 
-int BallSlotNow() { return scene().BallPlayer; }
+int Ball() { return scene().BallPlayer; }
 bool OnOffense(int slot) { return slot > 0 && PositionOf(scene().OffenseSide, slot) > 0; }
 std::string OffenseName(int slot) { return NameOf(scene().OffenseSide, slot); }
 int OffenseAt(int position) { return position >= 1 ? OffenseThen().Lineup[position] : 0; }
@@ -35,7 +35,7 @@ struct Way {
 /// Who gave the ball to the man of the play; 0 when he made it himself or nobody is known.
 int LastPasser() {
   const Play& play = game.play;
-  const auto fits = [](int slot) { return slot != BallSlotNow() && OnOffense(slot); };
+  const auto fits = [](int slot) { return slot != Ball() && OnOffense(slot); };
   if (play.Assisted && fits(play.Assister)) return play.Assister;
   if (play.ExtraPass && fits(play.ExtraPassFrom)) return play.ExtraPassFrom;
   if (scene().Possession.PassFirst && fits(scene().Possession.PassFirstFrom))
@@ -64,13 +64,13 @@ int Screener() {
 }
 bool IsLob() {
   const int target = OffenseAt(scene().Call.LobTarget);
-  return scene().Call.LobFrom > 0 && target == BallSlotNow();
+  return scene().Call.LobFrom > 0 && target == Ball();
 }
 
 const Family& LastPassFamily(int from) {
   const PlayKind k = scene().PlayKind;
   if (IsLob() && from == OffenseAt(scene().Call.LobFrom)) return kLob;
-  if (Screener() == BallSlotNow() && from == OffenseAt(scene().Call.PickBall)) return kRoll;
+  if (Screener() == Ball() && from == OffenseAt(scene().Call.PickBall)) return kRoll;
   if (game.play.ExtraPass && from == game.play.ExtraPassFrom) return kExtraPass;
   if (scene().Possession.PassFirst && from == scene().Possession.PassFirstFrom) return kPassFirst;
   if (k == "INSIDE" && !OneIn(4)) return kFeedInside;
@@ -94,8 +94,8 @@ void TellPass(Way& way, int from, int to, bool last) {
   const bool gaveIt =
       way.count > 2 && std::find(way.man, way.man + way.count - 2, to) != way.man + way.count - 2;
   const Family* family = last ? &LastPassFamily(from) : &kPass;
-  if (family == &kPass && gaveIt && OneIn(2)) family = &kPassBack;
-  if (family == &kPass && way.named == from) family = OneIn(4) ? &kPass : &kPassOn;
+  if (family == &kPass && way.named == from)
+    family = gaveIt && OneIn(2) ? &kPassBack : OneIn(4) ? &kPass : &kPassOn;
   Say(*family, {.who = who, .other = other, .word = word});
   if (last && OneIn(3)) AddPlace(to);
   Cue(to);
@@ -105,10 +105,10 @@ void TellPass(Way& way, int from, int to, bool last) {
 
 void TellScreen(Way& way) {
   const int screener = Screener();
-  if (screener == 0 || screener == BallSlotNow() || !OnOffense(screener) || way.lines <= 0) return;
+  if (screener == 0 || screener == Ball() || !OnOffense(screener) || way.lines <= 0) return;
   const std::string who = OffenseName(screener), other = BallName();
   Say(kScreen, {.who = who, .other = other});
-  way.named = BallSlotNow();
+  way.named = Ball();
   --way.lines;
 }
 
@@ -116,8 +116,8 @@ void TellScreen(Way& way) {
 
 void TellDribble(Way& way) {
   const std::string who = BallName();
-  Say(way.named == BallSlotNow() ? kMoreDribble : kDribbleMove, {.who = who});
-  way.named = BallSlotNow();
+  Say(way.named == Ball() ? kMoreDribble : kDribbleMove, {.who = who});
+  way.named = Ball();
   --way.lines;
 }
 
@@ -145,20 +145,21 @@ void TellBringUp(Way& way, int slot) {
 /// Lines for the way: a quick play is told in one breath.
 int RoomByTime() {
   const int time = scene().PlayTime;
-  if (time < 40) return OneIn(2) ? 1 : 0;
-  if (time < 90 || OneIn(5)) return 1;
-  if (time < 150) return OneIn(2) ? 2 : 1;
-  return OneIn(3) ? 3 : 2;
+  if (time < 40) return OneIn(3) ? 1 : 0;
+  if (OneIn(4)) return 0;
+  if (time < 130) return 1;
+  if (time < 170) return OneIn(4) ? 2 : 1;
+  return OneIn(8) ? 3 : OneIn(3) ? 2 : 1;
 }
 
 /// The man from whom the story of this play starts; 0 when the man of the play has had the ball all along.
 int FirstHolder(int passer) {
   if (const int told = ToldHolder(); told > 0 && scene().DeadBallKind == 0 && !scene().NeedsBringUp)
     return told;
-  if (scene().Possession.QuickPassReceiver == BallSlotNow()) return BallSlotNow();
+  if (scene().Possession.QuickPassReceiver == Ball()) return Ball();
   if (FromBackcourt())
     return passer > 0 && PositionOf(scene().OffenseSide, passer) <= 2 ? passer : GuardOfFive();
-  return passer > 0 ? passer : OneIn(2) ? GuardOfFive() : BallSlotNow();
+  return passer > 0 ? passer : OneIn(2) ? GuardOfFive() : Ball();
 }
 
 Way HalfCourtWay(int passer) {
@@ -167,10 +168,10 @@ Way HalfCourtWay(int passer) {
   way.To(FirstHolder(passer));
   if (way.lines > 2) {
     const int mate = OffenseAt(ShowRnd(kPositions));
-    if (OnOffense(mate) && mate != passer && mate != BallSlotNow()) way.To(mate);
+    if (OnOffense(mate) && mate != passer && mate != Ball()) way.To(mate);
   }
   way.To(passer);
-  way.To(BallSlotNow());
+  way.To(Ball());
   return way;
 }
 
@@ -187,7 +188,7 @@ void HalfCourt() {
   if (way.lines > 0 && way.count == 1 && way.named == 0 && OneIn(2)) {
     const std::string who = BallName();
     Say(kBallHolder, {.who = who});
-    way.named = BallSlotNow();
+    way.named = Ball();
     --way.lines;
   }
   if (way.lines > 0 || (himself && told > 0)) TellDribble(way);
@@ -196,7 +197,7 @@ void HalfCourt() {
 
 void PlainPass() {
   const int holder = ToldHolder() > 0 ? ToldHolder() : GuardOfFive();
-  if (holder == BallSlotNow() || !OnOffense(holder)) return;
+  if (holder == Ball() || !OnOffense(holder)) return;
   NewLine(OffenseName(holder) + " " + Pick(kPassWord) + " " + BallName());
 }
 
@@ -204,12 +205,14 @@ void PlainPass() {
 
 void KickedOut() {
   const std::string who = OffenseName(game.play.Assister), other = BallName();
-  if (game.play.Assister != BallSlotNow()) Say(kKickOut, {.who = who, .other = other});
-  Cue(BallSlotNow());
+  if (game.play.Assister != Ball()) Say(kKickOut, {.who = who, .other = other});
+  Cue(Ball());
 }
 
 /// An offensive rebound that became a new set.
-bool ResetFromBoard() { return game.SecondChance == 1 && ToldHolder() > 0 && scene().GameState == "OFFENSE"; }
+bool ResetFromBoard() {
+  return game.commentary.HolderOffBoard && ToldHolder() > 0 && scene().GameState == "OFFENSE";
+}
 
 void Reset() {
   const int guard = GuardOfFive();
@@ -232,13 +235,13 @@ std::string Numbers() {
 }
 
 void TellOutlet(int from) {
-  if (from == 0 || from == BallSlotNow() || !OneIn(3)) return;
+  if (from == 0 || from == Ball() || !OneIn(4)) return;
   const std::string who = OffenseName(from);
   Say(kOutlet, {.who = who});
 }
 
 void TellNumbers(int runner) {
-  if (OneIn(3)) return;
+  if (OneIn(2)) return;
   const std::string who = OffenseName(runner), word = Numbers();
   Say(kFastbreakStart, {.who = who, .word = word});
 }
@@ -246,7 +249,7 @@ void TellNumbers(int runner) {
 void TellLongPass(int from) {
   const std::string who = OffenseName(from), other = BallName();
   Say(kLongPass, {.who = who, .other = other});
-  Cue(BallSlotNow());
+  Cue(Ball());
   if (LeftAlone() && OneIn(3)) Say(kAllAlone, {.other = other});
 }
 
@@ -260,7 +263,7 @@ void Break() {
   const int passer = LastPasser();
   if (!OnOffense(thief)) TellOutlet(ToldHolder());
   const bool pass = passer > 0 && OneIn(2);
-  TellNumbers(pass ? passer : BallSlotNow());
+  TellNumbers(pass ? passer : Ball());
   if (pass) TellLongPass(passer);
   TellDefense();
 }

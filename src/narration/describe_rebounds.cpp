@@ -80,7 +80,7 @@ void DescribeRebound() {
   Say(FamilyOfBoard(), {}, kReboundLine);
   AddCount();
   RemarkOnCount();
-  TellHolder(play.ReboundSide, play.Rebounder);
+  TellHolder(play.ReboundSide, play.Rebounder, OffTheOffense());
 }
 
 }  // namespace tipline

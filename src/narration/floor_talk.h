@@ -6,8 +6,8 @@
 
 namespace tipline::floor_talk {
 
-/// The ball was told to be with this man; 0 forgets him.
-void TellHolder(int side, int slot);
+/// The ball was told to be with this man, off the board of his own miss or a mate's; 0 forgets him.
+void TellHolder(int side, int slot, bool offBoard = false);
 /// Slot of the man of the offense whom the listener sees with the ball, 0 when he knows of none.
 int ToldHolder();
 

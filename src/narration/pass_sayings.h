@@ -68,7 +68,7 @@ inline constexpr Saying kLobSayings[] = {
     {"{who} lobs it over the defense to {other}"}};
 
 inline constexpr Saying kExtraPassSayings[] = {
-    {"{who} makes the extra pass to {other}", nullptr, 20},
+    {"{who} with the extra pass to {other}", nullptr, 20},
     {"{who} passes up the shot, gives to {other}", nullptr, 15},
     {"{who} had a look, but gives it to {other}"},
     {"the extra pass to {other}"}};
