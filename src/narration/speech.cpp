@@ -30,10 +30,10 @@ bool Wanted(int kind) {
   return setup.NarratorShotPlusResultCheck;
 }
 
-/// Who was fouled as he shot; the plain sentence of FillSpokenLine has told it already.
-std::string FoulEnding(const PbpLine& line) {
+/// He was fouled as he shot, where the text does not say so already.
+std::string FoulEnding(const std::string& text) {
   const PlayResult result = game.play.Posted;
-  const bool told = line.SpokenText.ends_with("fouled");
+  const bool told = text.find("foul") != std::string::npos;
   if (told || !IsShot(result) || !result.Text().ends_with('F')) return "";
   const std::string fouled = WomensGame() ? "she was fouled " : "he was fouled ";
   if (!IsMadeShot(result)) return " , but " + fouled;
@@ -83,7 +83,7 @@ void SpeakShownLine(int n) {
   if (!Wanted(kind)) return;
   if (!setup.NarratorFullPBPCheck) FillSpokenLine(n);  // else the lines around it name the man
   std::string text = line.SpokenText.empty() ? line.Text : line.SpokenText;
-  if (IsMade(kind) || kind == kMissedShot) text += FoulEnding(line);
+  if (IsMade(kind) || kind == kMissedShot) text += FoulEnding(text);
   if (IsMade(kind)) text += AssistEnding();
   SpeakLine(Bare(text));
 }
