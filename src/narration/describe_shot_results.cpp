@@ -72,7 +72,7 @@ void DescribeGoaltending() {
 }
 
 void DescribeShotMade(Look look) {
-  if (look == Look::kDunk) return DescribeDunk();
+  if (look == Look::kSlam) return DescribeDunk();
   if (Hangs()) return DescribeRimResult();
   if (CountsThree() && scene().GameClock <= 30 && ClockLeft() <= 5) {
     Say(kHeaveMade);
@@ -104,7 +104,7 @@ void TellColdHand() {
 
 void DescribeShotMissed(Look look) {
   const Play& play = game.play;
-  if (look == Look::kBlownDunk) {
+  if (look == Look::kBlownSlam) {
     Say(kBlownDunk, {}, kMissedShot);
     return;
   }

@@ -28,8 +28,8 @@ bool MeantToDunk() {
 
 Look LookOfShot() {
   if (!CloseTwo()) return Look::kPlain;
-  if (DunkInTheBooks()) return Look::kDunk;
-  if (MeantToDunk()) return Look::kBlownDunk;
+  if (DunkInTheBooks()) return Look::kSlam;
+  if (MeantToDunk()) return Look::kBlownSlam;
   const int layups = OnBreak() ? 55 : OnDrive() ? 35 : 10;  // of a hundred
   return ShowRnd(100) <= layups ? Look::kLayup : Look::kPlain;
 }
@@ -42,10 +42,10 @@ bool PoorShooter() {
   return FromBeyond() ? Rate(real.F3M, real.F3A) < 0.325 : Rate(real.FGM, real.FGA) < 0.425;
 }
 
-/// He hits more than forty of a hundred where thirty-five are the rule.
+/// One who hits from anywhere: more than thirty-nine of a hundred where thirty-five are the rule.
 bool DeepShooter() {
   const StatLine& real = BallMan().Stats[1];
-  const double era = OffenseThen().Era3Pct > 0 ? OffenseThen().Era3Pct / 0.35 : 1;
+  const double era = OffenseThen().Era3Pct > 0 ? OffenseThen().Era3Pct / 0.4 : 1;
   return real.F3A > 0 && Rate(real.F3M, real.F3A) > era * 0.105 + 0.301;
 }
 
@@ -71,7 +71,7 @@ bool NamedLast() {
 bool NeedsName(int linesBefore) {
   if (NoLineYet() || !NamedLast()) return true;
   const int lines = game.commentary.PbpLineCount;
-  return lines == linesBefore && scene().Possession.PassCount > 0 && lines < 3;
+  return lines == linesBefore && OffThePass() && lines < 3;
 }
 
 void ShotLine(std::string verb, int linesBefore) {
@@ -187,6 +187,7 @@ void DescribeShotSetup() {
   const int zone = FromPost() ? kInside : scene().PlayKind == "THREE" ? kThree : kOutside;
   const Family* setup = SetupFor(CoverageOf(shooter, zone));
   if (DoubleOf(shooter, zone)) setup = &kDoubledSetup;
+  if (DefenseThen().QuickFoul >= 1) setup = &kFoulSetup;
   if (setup && OneIn(2)) Say(*setup);
 }
 
@@ -209,13 +210,13 @@ void DescribeShotTry(Look look) {
   const int linesBefore = game.commentary.PbpLineCount;
   DescribeSpin();
   DescribeShotSetup();
-  if (look == Look::kDunk && ThrownToTheRim()) {
+  if (look == Look::kSlam && ThrownToTheRim()) {
     Say(kLob, {}, kShotLine);
     return;
   }
   TellMove(linesBefore);
-  if (look == Look::kDunk) return;
-  if (look == Look::kBlownDunk) return ShotLine(Pick(kDunkTry), linesBefore);
+  if (look == Look::kSlam) return;
+  if (look == Look::kBlownSlam) return ShotLine(Pick(kDunkTry), linesBefore);
   if (look == Look::kLayup) return ShotLine(Pick(kLayup), linesBefore);
   PlainTry(linesBefore);
 }

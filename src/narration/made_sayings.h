@@ -5,19 +5,15 @@
 
 namespace tipline {
 
-inline bool MadeThree() { return CountsThree(); }
 inline bool MadeTwo() { return !CountsThree(); }
 inline bool MadeJumper() { return scene().PlayKind == "OUTSIDE" && MadeTwo(); }
 inline bool MadeClose() { return MadeTwo() && !MadeJumper() && !FootOnLine(); }
 inline bool MadeInside() { return FromPost() && MadeTwo(); }
-inline bool MadeDrive() { return OnDrive(); }
 inline bool MadeBreakTwo() { return OnBreak() && MadeClose(); }
 inline bool MadePutback() { return Putback() && scene().PutbackClass == 1; }
 inline bool JumperBaseline() { return MadeJumper() && FromBaseline(); }
 inline bool JumperFoulLine() { return MadeJumper() && FromFoulLine(); }
 inline bool JumperBanked() { return MadeJumper() && (FromLeft() || FromRight()); }
-inline bool ThreeCorner() { return MadeThree() && FromCorner(); }
-inline bool ThreeTop() { return MadeThree() && FromTheTop(); }
 inline bool JumperNow() { return MadeJumper() && ModernDays(); }
 
 // clang-format off
@@ -63,8 +59,8 @@ inline constexpr Saying kMadeAny[] = {
     {"drops it in", MadeClose, 6},
     {"makes it look easy", MadeClose, 3},
     {"off the glass, good", MadeClose, 8},
-    {"{ball} scores on the drive", MadeDrive, 15},
-    {"gets it to fall", MadeDrive, 8},
+    {"{ball} scores on the drive", OnDrive, 15},
+    {"gets it to fall", OnDrive, 8},
     {"{ball} scores on the break", MadeBreakTwo, 15},
     {"two more on the break", MadeBreakTwo, 6},
     {"puts it back in", MadePutback, 20},
@@ -89,8 +85,8 @@ inline constexpr Saying kMadeThrees[] = {
     {"all net"},
     {"good", nullptr, 15},
     {"and in!"},
-    {"good from the corner", ThreeCorner, 20},
-    {"right down Main Street", ThreeTop, 5},
+    {"good from the corner", FromCorner, 20},
+    {"right down Main Street", FromTheTop, 5},
     {"#219"}, {"#220"}, {"#050"}, {"#209"}, {"#218"},
 };
 inline constexpr Saying kMadeLayups[] = {

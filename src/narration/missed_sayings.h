@@ -4,10 +4,8 @@
 
 namespace tipline {
 
-inline bool MissedThree() { return CountsThree(); }
 inline bool MissedFar() { return CountsThree() || scene().PlayKind == "OUTSIDE"; }
 inline bool MissedClose() { return !MissedFar(); }
-inline bool MissedBreak() { return OnBreak(); }
 inline bool FromBehind() { return OnBreak() || OnDrive(); }
 
 // clang-format off
@@ -48,14 +46,14 @@ inline constexpr Saying kMissedAny[] = {
     {"can't get the roll", MissedClose, 6},
     {"too hard off the glass", MissedClose, 6},
     {"{ball} misses from close in", MissedClose, 5},
-    {"couldn't convert on the break", MissedBreak, 15},
-    {"{ball} misses on the break", MissedBreak},
-    {"the three is off", MissedThree, 15},
-    {"the three is no good", MissedThree, 15},
-    {"{ball} misses from long range", MissedThree, 6},
-    {"the long one won't go", MissedThree, 6},
+    {"couldn't convert on the break", OnBreak, 15},
+    {"{ball} misses on the break", OnBreak},
+    {"the three is off", CountsThree, 15},
+    {"the three is no good", CountsThree, 15},
+    {"{ball} misses from long range", CountsThree, 6},
+    {"the long one won't go", CountsThree, 6},
     {"#224", nullptr, 15}, {"#225"}, {"#226"}, {"{ball} #227"}, {"{ball} #228"}, {"#229", MissedClose},
-    {"{ball} #231"}, {"#233", MissedFar}, {"#234", MissedThree}, {"{ball} #235", MissedThree}, {"#237"},
+    {"{ball} #231"}, {"#233", MissedFar}, {"#234", CountsThree}, {"{ball} #235", CountsThree}, {"#237"},
     {"#238", MissedFar}, {"#240"},
 };
 inline constexpr Saying kAirBalls[] = {

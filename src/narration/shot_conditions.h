@@ -22,7 +22,6 @@ inline bool FromBeyond() {
          (scene().PlayKind == "FASTBREAK" && scene().FastBreak.BreakThree);
 }
 inline bool FootOnLine() { return game.play.Posted == "G" && FromBeyond(); }
-inline bool TwoPointer() { return !FromBeyond(); }
 inline bool WasFouled() {
   const PlayResult r = game.play.Posted;
   return r == "GF" || r == "G3F" || r == "MF" || r == "M3F";
@@ -37,7 +36,6 @@ inline bool OnDrive() { return scene().PlayKind == "DRIVE"; }
 inline bool OnBreak() { return scene().PlayKind == "FASTBREAK"; }
 inline bool Putback() { return scene().PlayKind == "OFFREB"; }
 inline bool FromPost() { return scene().PlayKind == "INSIDE"; }
-inline bool NotPutback() { return !Putback(); }
 inline bool Guarded() { return scene().BallDefender > 0; }
 inline bool AloneOnBreak() {
   return OnBreak() && (scene().FastBreak.Breakaway || scene().FastBreak.BreakDefenders == 0);
@@ -60,14 +58,19 @@ inline bool RightBlock() { return SpotOfShot() == 104; }
 
 inline bool ManyThreesTried() { return GameOfShooter().F3A >= 8; }
 inline bool BigMan() { return scene().BallSlot >= 4; }
-inline bool SmallMan() { return scene().BallSlot >= 1 && scene().BallSlot <= 3; }
 inline bool GoodPasser() { return game.play.Assisted && game.play.Assister != scene().BallPlayer; }
-inline bool OffThePass() { return scene().Possession.PassCount > 0; }
+/// The last line brings the ball to him: it tells of him, and of nobody's defense.
+inline bool OffThePass() {
+  if (NoLineYet()) return false;
+  const std::string& last = LastLine().Text;
+  const std::string name = BallName(), guard = NameOf(scene().DefenseSide, scene().BallDefender);
+  const bool guarded = !guard.empty() && last.find(guard) != last.npos;
+  return last.find(" " + name) != last.npos && !guarded && !last.starts_with(name);
+}
 inline bool ShotClockLow() {
   return league.rules.ShotClockList > 0 && scene().ShotClock - scene().PlayTime < 30;
 }
 inline bool MismatchTall() { return game.play.HeightMismatch >= 4; }
-inline bool DaysOfSetShots() { return BallMan().Year > 0 && BallMan().Year <= 1958; }
 inline bool ModernDays() { return BallMan().Year >= 1975; }
 inline bool HomeShot() { return scene().OffenseSide == 2 && !game.NeutralGame; }
 

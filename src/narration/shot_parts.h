@@ -10,8 +10,8 @@ namespace tipline {
 enum class Look : u8 {
   kPlain,
   kLayup,
-  kDunk,      ///< a basket that the books count as a dunk
-  kBlownDunk  ///< a miss that was meant to be one
+  kSlam,      ///< a basket that the books count as a dunk
+  kBlownSlam  ///< a miss that was meant to be one
 };
 
 /// "Smith scores from outside", and who fouled or blocked.
