@@ -122,6 +122,16 @@ void TellForm() {
 
 }  // namespace
 
+bool whistles::Technical() {
+  if (!game.TechnicalFreeThrow) return false;
+  for (int n = game.PlayLogCount; n > 0; --n) {
+    const PlayLogRow& row = game.PlayLog[n];
+    if (row.Clock != scene().GameClock || row.Period != game.Period) break;
+    if (row.Outcome == "FLAGRANT") return false;
+  }
+  return true;
+}
+
 void DescribeFreeThrow() {
   if (BallName().empty()) return;
   FollowTrip();

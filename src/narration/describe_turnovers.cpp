@@ -24,7 +24,7 @@ constexpr LossOdds kLosses[] = {
     {Loss::kDoubleDribble, [] { return OnTheBoards() ? 0 : BigMan() ? 3 : 5; }},
     {Loss::kOverLine,      [] { return !SetOffense() || Inside() ? 0 : FullCourtPress() || Holding() ? 15 : Guard() ? 4 : 0; }},
     {Loss::kThreeSec,      [] { return SetOffense() && !Holding() && BigMan() ? 8 : 0; }},
-    {Loss::kFiveSec,       [] { return Holding() ? 10 : 0; }},
+    {Loss::kFiveSec,       [] { return Holding() ? 25 : 0; }},
     {Loss::kShot,          [] { return SetOffense() && !Holding() ? 1 : 0; }},
 };
 // clang-format on

@@ -14,7 +14,7 @@ inline constexpr Saying kBriefMakeSayings[] = {{"{ball} makes the free throw"}};
 inline constexpr Saying kBriefMissSayings[] = {{"{ball} misses the free throw"}};
 inline constexpr Saying kToTheLineSayings[] = {
     {"{ball} #140"},
-    {"{ball} #141"},
+    {"{ball} #141", nullptr, 5},
     {"{ball}"},
     {"{ball} #121"},
     {"{ball} #123"},

@@ -6,6 +6,7 @@
 #include "narration/lines.h"
 #include "narration/show.h"
 #include "narration/speech.h"
+#include "narration/whistle_moments.h"
 
 namespace tipline {
 namespace {
@@ -53,6 +54,7 @@ void TellFreeThrow() {
 void TellLoss() {
   DescribeMovement();
   const PlayResult r = game.play.Posted;
+  DescribeSpin();
   if (r == "ST") {
     DescribeSteal();
   } else if (r == "SHOTCLOCK") {
@@ -62,13 +64,20 @@ void TellLoss() {
   } else {
     DescribeTurnover();
   }
+  if (r == "ST" || r == "TO") DescribePressTrouble();
+}
+
+/// The whistle came before the ball got to him: as it was brought up, or on a screen of his.
+bool CaughtWithoutBall() {
+  if (game.play.Posted == "OF") return game.play.OffBallFoul;
+  return IsFloorFoul(game.play.Posted) && whistles::InBackcourt();
 }
 
 void TellWhistle() {
   const PlayResult r = game.play.Posted;
   if (r == "2XPF") return DescribeDoubleFoul();
   if (r == "DELAY") return DescribeDelay();
-  DescribeMovement();
+  if (!CaughtWithoutBall()) DescribeMovement();
   if (r == "OF") return DescribeOffensiveFoul();
   if (r == "JUMPBALL") return DescribeTieUp();
   DescribeFoul();

@@ -71,7 +71,8 @@ inline bool FoulTrouble() {
 // Free throws; the counts hold the shot that is told.
 inline const StatLine& ShooterLine() { return BallMan().Stats[3]; }
 inline bool FirstOfTrip() { return game.commentary.FreeThrowNo == 0; }
-inline bool Technical() { return game.TechnicalFreeThrow != 0; }
+/// Neither a common trip nor the shots of a flagrant foul.
+bool Technical();
 /// One shot and no more, as it stands.
 inline bool OneShot() { return scene().PlayKind == "SHOOT1" && FirstOfTrip(); }
 inline bool MoreShots() { return !OneShot(); }
