@@ -40,24 +40,15 @@ std::string_view PeriodWords() {
   return kQuarters[std::clamp(game.Period, 1, 3) - 1];
 }
 
-std::string SpokenOpening(bool over) {
-  if (over) return "final score, ";
-  if (league.rules.PeriodList == 2) return "at the end of the first half, ";
-  if (game.Period == 2) return OneIn(2) ? "at the half, " : "at the end of the second quarter, ";
-  return game.Period == 1 ? "at the end of the first quarter, " : "at the end of the third quarter, ";
-}
-
 std::string ScoreOf(int side) { return PbpTeamName(side) + " " + std::to_string(game.side[side].Score); }
 
-void TellScore(bool over) {
+void TellScore() {
   const int first = Leader();
   if (Tied()) {
     NewLine("we're tied at " + std::to_string(game.side[1].Score));
   } else {
     NewLine(ScoreOf(first) + " " + ScoreOf(3 - first));
   }
-  if (!LastPeriod() || over)
-    LastLine().SpokenText = SpokenOpening(over) + ScoreOf(first) + " , " + ScoreOf(3 - first);
 }
 
 /// Slot of the side's leading scorer, 0 when nobody has scored twice.
@@ -116,7 +107,7 @@ void DescribePeriodEnd() {
     NewLine(Phrase(over ? 97 : 98));
   }
   if (over && !Brief()) Farewell();
-  TellScore(over);
+  TellScore();
   if (Brief()) return;
   if (over) return TellLed();
   if (game.Period > 1) TellMargin();

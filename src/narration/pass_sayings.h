@@ -26,7 +26,7 @@ inline constexpr Saying kPassSayings[] = {
     {"{who} #035 {other}"},
     {"{who} looks, then {word} {other}", nullptr, 6},
     {"{who} spots {other}", nullptr, 6},
-    {"{who} picks up the dribble, {word} {other}", nullptr, 4},
+    {"{who} picks up the dribble, gives to {other}", nullptr, 4},
     {"{other} is open, {who} sees it", nullptr, 3},
     {"pass from {who} to {other}", nullptr, 5}};
 
