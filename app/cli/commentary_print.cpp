@@ -3,6 +3,7 @@
 #include "cli/coach_events.h"
 #include "cli/columns.h"
 #include "narration/lines.h"
+#include "narration/speech.h"
 
 namespace tipline::cli {
 
@@ -23,6 +24,7 @@ void CommentaryPrinter::Line(std::string_view text, int, int) {
     out_ << "\n" << Plain(PbpScoreLine()) << "\n";
   }
   out_ << "  " << Plain(std::string(text)) << "\n";
+  if (SpeechOn()) out_.flush();  // it is read while it is heard
 }
 
 }  // namespace tipline::cli

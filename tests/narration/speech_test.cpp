@@ -111,7 +111,8 @@ TEST(Speech, SaysWordsAsTheTableHasThem) {
   const char* file = "Smith,Smyth\nno second field\nSMITH,never\n\"x\",,\n,y\n";
   ASSERT_TRUE(WriteWholeFile(TranslationFile(), file));
   for (const auto& c : cases) EXPECT_EQ(Translated(c.text), c.said);
-  for (const std::string& bytes : {std::string("AL,Owl\n"), std::string(5000000, 'x'), std::string(3000, '"')}) {
+  const std::string damaged[] = {"AL,Owl\n", std::string(5000000, 'x'), std::string(3000, '"')};
+  for (const std::string& bytes : damaged) {
     ASSERT_TRUE(WriteWholeFile(TranslationFile(), bytes));
     LoadTranslations();
     EXPECT_TRUE(program.Translate.rows.empty()) << bytes.size();
