@@ -51,7 +51,7 @@ inline constexpr Saying kBreakFinishes[] = {
 };
 // In place of the run to the basket when it ends in a dunk off a pass.
 inline constexpr Saying kLobs[] = {
-    {"{passer} with the alley-oop to {ball}"},
+    {"{passer} with the alley-oop to {ball}", ModernDays},
     {"{passer} lobs it to {ball}"},
     {"{passer} throws it up to {ball}"},
     {"lob pass from {passer} to {ball}"},
@@ -72,9 +72,9 @@ inline constexpr Saying kDunks[] = {
     {"jams it home!"},
     {"with a two hand slam!"},
     {"with a one hand slam!"},
-    {"with the reverse dunk!", nullptr, 4},
+    {"with the reverse dunk!", ModernDays, 4},
     {"with the windmill!", AloneOnBreak, 15},
-    {"with a tomahawk dunk!", nullptr, 4},
+    {"with a tomahawk dunk!", ModernDays, 4},
     {"rocks the rim!"},
     {"shakes the backboard!", BigMan},
     {"drops it in with two hands!"},

@@ -87,10 +87,10 @@ inline constexpr Saying kDriveLetdowns[] = {
 };
 // A dunk over somebody.
 inline constexpr Saying kPosters[] = {
-    {"he posterized {def}!"},
+    {"he posterized {def}!", ModernDays},
     {"in the face of {def}!"},
     {"right on top of {def}!"},
-    {"{def} will be on that poster!"},
+    {"{def} will be on that poster!", ModernDays},
     {"that brings the crowd to their feet!", HomeShot},
 };
 // clang-format on
