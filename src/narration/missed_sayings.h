@@ -89,6 +89,7 @@ inline constexpr Saying kBlocks[] = {
     {"{who} says no!", nullptr, 5},
     {"{who} was waiting for it", MissedClose, 5},
     {"big block by {who}"},
+    {"{who} turns it away"},
     {"{who} pins it on the glass", MissedClose, 3},
     {"{who} #198"}, {"{who} #200"}, {"{who} #201"}, {"#202 {who}"},
 };

@@ -147,6 +147,7 @@ inline constexpr Saying kLoose[] = {
     {"defended by {def} pretty loosely"},
     {"loosely defended by {def}"},
     {"loosely guarded by {def}"},
+    {"{ball} has a cushion from {def}"},
     {"{def} lays back a little"},
     {"{def} #180 {ball}"},
 };
@@ -155,6 +156,7 @@ inline constexpr Saying kTight[] = {
     {"{def} is up in his grill", ModernDays},
     {"tightly defended by {def}"},
     {"tightly guarded by {def}"},
+    {"{def} won't give {ball} any room"},
     {"{def} is all over {ball}"},
     {"{def} #182 {ball}"},
     {"{def} #183 {ball}"},
