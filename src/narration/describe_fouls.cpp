@@ -22,11 +22,16 @@ void TellBriefFoul() {
   if (league.rules.BackcourtTwoShotsCheck && InBackcourt()) NewLine("backcourt foul");
 }
 
+void TellBackcourtFoul(const Cast& cast) {
+  if (OneIn(2)) Say(kBringsItUp, cast);
+  Say(kBackcourtFoul, cast);
+}
+
 /// The line of the foul itself: how it came about decides which.
 void TellContact(const Cast& cast) {
   if (HuntsTheWorst() && Say(kWorstShooter, cast)) return;
   if (StopsTheClock() && OneIn(2) && Say(kStopClock, cast)) return;
-  if (InBackcourt() && Say(kBackcourtFoul, cast)) return;
+  if (InBackcourt()) return TellBackcourtFoul(cast);
   if (HardFoul() && Say(kHardFoul, cast)) return;
   if (game.play.OffBallFoul && Say(kAway, cast)) return;
   if (OneIn(5) && Say(kFoulAct, cast)) return;

@@ -22,6 +22,7 @@ constexpr Family kAll[] = {
     kWorstShooter,
     kHack,
     kStopClock,
+    kBringsItUp,
     kBackcourtFoul,
     kHardFoul,
     kWeakCall,

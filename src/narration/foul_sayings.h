@@ -72,7 +72,11 @@ inline constexpr Saying kStopClockSayings[] = {
     {"{fouler} fouls {who} right away"},
     {"they foul {who} right away"},
     {"{fouler} grabs {who} to stop the clock"},
+    {"{fouler} #101 {who}"},
     {"they have to foul, and it's {fouler}"},
+};
+inline constexpr Saying kBringsItUpSayings[] = {
+    {"{who} brings it up"}, {"here comes {who} with it"}, {"{who} against the press", FullCourtPress, 40},
 };
 inline constexpr Saying kBackcourtFoulSayings[] = {
     {"backcourt foul on {fouler}"},
@@ -138,6 +142,7 @@ inline constexpr Family kAway{"DescribeFoul", kAwaySayings};
 inline constexpr Family kWorstShooter{"DescribeFoul", kWorstShooterSayings};
 inline constexpr Family kHack{"DescribeFoul", kHackSayings};
 inline constexpr Family kStopClock{"DescribeFoul", kStopClockSayings};
+inline constexpr Family kBringsItUp{"DescribeFoul", kBringsItUpSayings};
 inline constexpr Family kBackcourtFoul{"DescribeFoul", kBackcourtFoulSayings};
 inline constexpr Family kHardFoul{"DescribeFoul", kHardFoulSayings};
 inline constexpr Family kWeakCall{"DescribeWeakCall", kWeakCallSayings};
