@@ -62,8 +62,10 @@ std::string_view ShotWord() {
   }
   return "";
 }
-bool WasDunk() { return Said("dunk") || Said("slam") || Said("jams it") || Said("stuff"); }
-bool WasLayup() { return Said("layup") || Said("lays it"); }
+bool WasDunk() { return Said("dunk") || Said("slam") || Said("jams it"); }
+bool WasLayup() {
+  return Said("layup") || Said("lay-in") || Said("lays it") || Said("underhands") || Said("scoops it");
+}
 
 int Spot() { return ManAt(scene().OffenseSide, scene().BallPlayer).CourtSpot; }
 
