@@ -105,8 +105,8 @@ void CommentaryJudge::StopShown() {
 
 /// A tip is told with the miss before it.
 void CommentaryJudge::JudgeResult(const std::string& line) {
-  if (game.play.TipIn) return;
   const PlayResult r = game.play.Posted;
+  if (game.play.TipIn || r == "OF") return;  // a shot let go behind the whistle does not count
   if (!Made(r) && Is(line, Good())) Blame(Blemish::kMadeOnMiss, line);
   if (Made(r) && Is(line, Missed())) Blame(Blemish::kMissOnMade, line);
   if (MissedIt(r) && Is(line, Good())) Blame(Blemish::kMadeOnMiss, line);
