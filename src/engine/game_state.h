@@ -306,6 +306,7 @@ struct Scene {
   int PutbackClass = 0;
   int Tension = 0;           ///< before the play
   Table<int, 1, 2> Score{};  ///< before the play
+  int QuickFoul = 0, StealFoul = 0;  ///< orders of the defense, which the end of a period takes back
   tipline::Call Call;
   tipline::Possession Possession;
   tipline::FastBreak FastBreak;

@@ -45,17 +45,10 @@ void TellFoul() {
   if (HuntsTheWorst() && BadAtTheLine() && OneIn(2)) Say(kHack, fouled.cast());
 }
 
-/// The shooter's points behind the line of the basket.
-void AddPoints() {
-  if (!setup.DisplayStatsInPbpCheck) return;
-  const StatLine& line = BallMan().Stats[3];
-  AddToLine(" (" + std::to_string(2 * line.FGM + line.F3M + line.FTM) + ")");
-}
-
 void TellAndOne() {
   const bool three = game.play.Posted == "G3F";
   if (Say(HardFoul() ? kCounted : kAndOne)) MarkBasket(three);
-  AddPoints();
+  AddStat(PointsOf(BallMan().Stats[3]));
   if (HardFoul()) Say(kHardAndOne);
   if (three) {
     Say(kFourPoint);

@@ -12,6 +12,7 @@ int LeadBefore() {
   const auto& score = scene().Score;
   return score[scene().OffenseSide] - score[scene().DefenseSide];
 }
+/// Nobody speaks of a lead at two to nothing.
 bool FirstBasket() { return scene().Score[1] + scene().Score[2] == 0; }
 
 void ExclaimLate() {
@@ -21,7 +22,6 @@ void ExclaimLate() {
 /// A basket, or a whistle that leaves the ball dead and no free throws to come.
 bool TimeForTheScore() {
   const PlayResult r = game.play.Posted;
-  if (game.play.TipIn == 2) return true;
   return r == "G" || r == "G3" || r == "F0" || r == "TO" || r == "OB" || r == "OF" || r == "SHOTCLOCK" ||
          r == "2XPF" || r == "JUMPBALL" || r == "DELAY";
 }
@@ -31,7 +31,7 @@ bool Decided() {
   return (ClockLeft() < 600 && MarginNow() >= 5) || (ClockLeft() < 1800 && MarginNow() >= 10);
 }
 
-/// The result of a shot counts as one line: what was said on the way to it is over.
+/// The result counts as one line: what was said on the way to it is over.
 int LinesSinceResult() {
   const CommentaryState& c = game.commentary;
   return c.ResultLine > 0 ? c.PbpLineCount - c.ResultLine + 1 : 1;
@@ -40,7 +40,7 @@ int LinesSinceResult() {
 bool LiveKind(PlayKind kind) { return kind == "OFFREB" || kind == "FASTBREAK"; }
 
 bool NothingToRemark(PlayKind before) {
-  return !TimeForTheScore() || Decided() || DefenseThen().QuickFoul > 1 || OffenseThen().QuickShot > 1 ||
+  return !TimeForTheScore() || Decided() || scene().QuickFoul > 1 || OffenseThen().QuickShot >= 1 ||
          LinesSinceResult() >= 2 || Brief() || LiveKind(scene().PlayKind) || LiveKind(before) ||
          game.side[1].Score + game.side[2].Score < 10 || IsFreeThrow(game.GameState);
 }
@@ -107,6 +107,7 @@ void LeadChangeRemark() {
 void SchemeRemark() {
   constexpr std::string_view kSchemeNames[] = {"man defense", "2-1-2 zone", "2-3 zone", "3-2 zone"};
   const int scheme = DefenseThen().DefenseType;
+  if (scheme < 0 || scheme >= static_cast<int>(std::size(kSchemeNames))) return;
   if (scheme == 0 ? !league.rules.ZoneLegalCheck || !OneIn(20) : !OneIn(5)) return;
   Say(OneIn(3) ? kSchemeFor : kScheme, {.word = kSchemeNames[scheme]}, kSituationRemark);
 }
@@ -135,6 +136,7 @@ void DescribeCantFoul() {
 /// Thrown up when it was too late: it does not stand in the books.
 void TellHeave() {
   if (!Say(kTooLateShot, {}, kShotLine)) return;
+  LastLine().Display = kInTheAir;
   Say(kHorn);
   Say(kWaved, {}, kSituationRemark);
 }
@@ -171,7 +173,7 @@ void NoteBasket() {
 void DescribeScoreSituation() {
   CommentaryState& c = game.commentary;
   const PlayKind before = c.KindBefore;
-  c.KindBefore = scene().PlayKind;
+  c.KindBefore = game.play.TipIn ? PlayKind("OFFREB") : scene().PlayKind;
   const bool quiet = NothingToRemark(before);
   c.ResultLine = 0;
   if (quiet) return;
@@ -202,7 +204,8 @@ void DescribeNoShot() {
   const bool beaten = last && lead <= -7 && OneIn(10);
   Say(beaten ? kNoShotBeaten : kNoShot, {}, kSituationRemark);
   if (last && lead < 0 && lead >= -3) Exclaim();
-  if (DefenseThen().QuickFoul || DefenseThen().StealFoul) DescribeCantFoul();
+  if (scene().QuickFoul || scene().StealFoul) DescribeCantFoul();
+  // Who is ahead holds the ball to the end, and throws nothing up.
   if (!holding && AtTheHorn()) TellHeave();
 }
 

@@ -15,13 +15,11 @@ std::string MadeOf(const StatLine& line) {
   return std::to_string(line.FGM) + " for " + std::to_string(line.FGA);
 }
 
-std::string InBrackets(int n) { return " (" + std::to_string(n) + ")"; }
-
 /// The line of a basket, his points behind it when the listener wants them.
 void TellBasket(const Family& family) {
   if (!Say(family)) return;
   MarkBasket(CountsThree());
-  if (setup.DisplayStatsInPbpCheck) AddToLine(InBrackets(PointsOf(GameOfShooter())));
+  AddStat(PointsOf(GameOfShooter()));
 }
 
 /// What kind of basket it was, now and then.
@@ -46,7 +44,7 @@ void DescribeDunk() {
   const bool follow = Putback() && OneIn(2);
   VerbLine(Pick(follow ? kFollowDunk : kDunk), game.commentary.PbpLineCount);
   MarkBasket(false);
-  if (setup.DisplayStatsInPbpCheck) AddToLine(InBrackets(PointsOf(GameOfShooter())));
+  AddStat(PointsOf(GameOfShooter()));
   if (Guarded() && (OnDrive() || FromPost()) && OneIn(4)) Say(kPoster);
 }
 
@@ -74,7 +72,7 @@ void DescribeGoaltending() {
 void DescribeShotMade(Look look) {
   if (look == Look::kSlam) return DescribeDunk();
   if (Hangs()) return DescribeRimResult();
-  if (CountsThree() && scene().GameClock <= 30 && ClockLeft() <= 5) {
+  if (Heaved()) {
     Say(kHeaveMade);
     return TellBasket(kHeaveEnd);
   }
@@ -114,8 +112,8 @@ void DescribeShotMissed(Look look) {
   }
   if (play.BasketInterference || (!play.AirBall && Hangs())) return DescribeRimResult();
   Say(play.AirBall ? kAirBall : kMissed, {}, kMissedShot);
-  TellLetdown();
   TellColdHand();
+  TellLetdown();
 }
 
 void DescribeAssist() {
@@ -123,14 +121,14 @@ void DescribeAssist() {
   const int side = scene().OffenseSide;
   const std::string passer = NameOf(side, play.Assister);
   if (Putback() || !play.Assisted || passer.empty() || play.Assister == scene().BallPlayer ||
-      DefenseThen().QuickFoul == 3) {
+      scene().QuickFoul == 3) {
     return;
   }
   constexpr int kAssistDisplay = 4;
   const int assists = PlayerAt(side, play.Assister).Stats[3].Ast;
   Say(kAssist, {.who = passer, .number = assists});
   LastLine().Display = kAssistDisplay;
-  if (setup.DisplayStatsInPbpCheck) AddToLine(InBrackets(assists));
+  AddStat(assists);
   const bool set = FromPost() || OnDrive() || OnBreak() || scene().PlayKind == "OUTSIDE";
   if (set && assists >= 8 && OneIn(3)) Say(kGreatPasser, {.who = passer, .number = assists});
 }
@@ -182,11 +180,11 @@ void TellDoubles(int slot) {
 }
 
 void TellWhatFollowsABasket() {
+  if (!TellVeteran() && !TellThrees() && !TellStreak()) TellPoints();
   DescribeAssist();
   DescribeGoAhead();
   DescribeTieIt();
   DescribeBuzzerBeater();
-  if (!TellVeteran() && !TellThrees() && !TellStreak()) TellPoints();
   TellDoubles(scene().BallPlayer);
   if (game.play.Assisted) TellDoubles(game.play.Assister);
 }
@@ -209,6 +207,10 @@ BriefWords BriefWordsOfShot() {
 
 }  // namespace
 
+void AddStat(int count) {
+  if (setup.DisplayStatsInPbpCheck) AddToLine(" (" + std::to_string(count) + ")");
+}
+
 void MarkBasket(bool three) {
   constexpr int kScoreCue = 2;
   PbpLine& line = LastLine();
@@ -222,12 +224,14 @@ void DescribeShotResult(Look look) {
   if (Scored() && game.play.GoaltendMark) {
     DescribeGoaltending();
   } else if (WasFouled()) {
+    if (look == Look::kSlam) VerbLine(Pick(kDunk), game.commentary.PbpLineCount, kShotLine);
     DescribeFouledOnShot();
   } else if (Scored()) {
     DescribeShotMade(look);
   } else {
     if (AtTheHorn()) DescribeBuzzerBeater();
-    game.play.Blocked&& game.play.Blocker > 0 ? DescribeBlock() : DescribeShotMissed(look);
+    if (game.play.Blocked && game.play.Blocker > 0) return DescribeBlock();
+    DescribeShotMissed(look);
   }
   if (Scored()) TellWhatFollowsABasket();
 }
@@ -260,6 +264,7 @@ void DescribeTip() {
   MarkBasket(false);
   NoteBasket();
   if (Brief()) return;
+  AddStat(PointsOf(PlayerAt(scene().OffenseSide, game.play.Tipper).Stats[3]));
   DescribeGoAhead();
   DescribeTieIt();
   TellDoubles(game.play.Tipper);

@@ -10,11 +10,6 @@
 namespace tipline {
 namespace {
 
-/// From close to the basket: where lay-ups and dunks come from.
-bool CloseTwo() {
-  return !FromBeyond() && (FromPost() || OnDrive() || OnBreak() || (Putback() && scene().PutbackClass == 1));
-}
-
 bool DunkInTheBooks() {
   const char kind = game.ScoreLogCount > 0 ? game.ScoreLog[game.ScoreLogCount].Kind : ' ';
   return Scored() && !game.play.GoaltendMark && (kind == 'K' || kind == 'k');
@@ -27,7 +22,7 @@ bool MeantToDunk() {
 }
 
 Look LookOfShot() {
-  if (!CloseTwo()) return Look::kPlain;
+  if (!FromClose()) return Look::kPlain;
   if (DunkInTheBooks()) return Look::kSlam;
   if (MeantToDunk()) return Look::kBlownSlam;
   const int layups = OnBreak() ? 55 : OnDrive() ? 35 : 10;  // of a hundred
@@ -48,11 +43,6 @@ bool DeepShooter() {
   const double era = OffenseThen().Era3Pct > 0 ? OffenseThen().Era3Pct / 0.4 : 1;
   return real.F3A > 0 && Rate(real.F3M, real.F3A) > era * 0.105 + 0.301;
 }
-
-/// Thrown from far away with the horn about to sound.
-bool Heaved() { return CountsThree() && scene().GameClock <= 30 && ClockLeft() <= 5; }
-
-bool FromOutside() { return !FromBeyond() && !CloseTwo(); }
 
 /// Days when men shot from the chest with both feet on the floor.
 bool SetShotDays() {
@@ -75,7 +65,6 @@ bool NeedsName(int linesBefore) {
 }
 
 void ShotLine(std::string verb, int linesBefore) {
-  constexpr int kInTheAir = 6;
   if (verb.empty()) return;
   VerbLine(std::move(verb), linesBefore, kShotLine);
   LastLine().Display = kInTheAir;
@@ -86,7 +75,7 @@ const Family& PlainShot() {
   if (FromBeyond()) return kThreeShot;
   if (OnDrive()) return kDriveShot;
   if (FromPost()) return kInsideShot;
-  if (CloseTwo()) return OneIn(3) ? kInsideShot : kPutbackShot;
+  if (FromClose()) return OneIn(3) ? kInsideShot : kPutbackShot;
   return kOutsideShot;
 }
 
@@ -124,13 +113,12 @@ bool FavoriteTextFits(std::string_view text) {
   return !text.empty() && three == FromBeyond() && !OnBreak() && !Putback();
 }
 
-/// The name of the shot, of his own now and then, of a common one seldom; "" mostly.
+/// The name of a shot that is his own, now and then; "" mostly.
 std::string NamedShot() {
   const PlayerRecord& p = BallMan();
   if (FavoriteTextFits(p.FavoriteShotText.View())) return OneIn(4) ? p.FavoriteShotText.Str() : "";
   if (FavoriteFits(p.FavoriteShot)) return OneIn(4) ? Phrase(kFirstFavoriteSlot - 1 + p.FavoriteShot) : "";
-  const int any = ShowRnd(static_cast<int>(std::size(kFavoriteFits)));
-  return OneIn(10) && FavoriteFits(any) ? Phrase(kFirstFavoriteSlot - 1 + any) : "";
+  return "";
 }
 
 void PlainTry(int linesBefore) {
@@ -187,7 +175,7 @@ void DescribeShotSetup() {
   const int zone = FromPost() ? kInside : scene().PlayKind == "THREE" ? kThree : kOutside;
   const Family* setup = SetupFor(CoverageOf(shooter, zone));
   if (DoubleOf(shooter, zone)) setup = &kDoubledSetup;
-  if (DefenseThen().QuickFoul >= 1) setup = &kFoulSetup;
+  if (scene().QuickFoul >= 1) setup = &kFoulSetup;
   if (setup && OneIn(2)) Say(*setup);
 }
 
@@ -195,7 +183,9 @@ void DescribeShotSetup() {
 
 void VerbLine(std::string verb, int linesBefore, int spokenKind) {
   if (verb.empty()) return;
-  if (NeedsName(linesBefore)) verb = BallName() + " " + verb;
+  // A move that is only named follows the name with "with the".
+  const bool noun = verb == "spin move" || verb == "turnaround jump shot";
+  if (NeedsName(linesBefore)) verb = BallName() + (noun ? " with the " : " ") + verb;
   NewLine(std::move(verb), spokenKind);
 }
 
@@ -207,13 +197,15 @@ void DescribeSpin() {
 }
 
 void DescribeShotTry(Look look) {
+  if (look == Look::kSlam && ThrownToTheRim()) {
+    if (OffThePass()) --game.commentary.PbpLineCount;  // the lob is that very pass
+    Say(kLob, {}, kShotLine);
+    LastLine().Display = kInTheAir;
+    return;
+  }
   const int linesBefore = game.commentary.PbpLineCount;
   DescribeSpin();
   DescribeShotSetup();
-  if (look == Look::kSlam && ThrownToTheRim()) {
-    Say(kLob, {}, kShotLine);
-    return;
-  }
   TellMove(linesBefore);
   if (look == Look::kSlam) return;
   if (look == Look::kBlownSlam) return ShotLine(Pick(kDunkTry), linesBefore);

@@ -28,7 +28,6 @@ std::string SideWithArticle(int side);
 inline std::string At(int side, int position) { return NameOf(side, game.side[side].Lineup[position]); }
 
 /// Points of a line of statistics.
-inline int PointsOf(const StatLine& line) { return 2 * line.FGM + line.F3M + line.FTM; }
 
 inline int PressureThen() { return DefenseThen().Pressure; }
 inline bool PressOn() { return PressureThen() == 2 || PressureThen() == 4; }

@@ -58,7 +58,7 @@ void TellFoulCounts() {
 void DescribeFoulCalled() { Say(kFoulCalled); }
 
 void DescribeWeakCall() {
-  if (DefenseThen().QuickFoul == 0 && !HardFoul() && OneIn(40)) Say(kWeakCall);
+  if (scene().QuickFoul == 0 && !HardFoul() && OneIn(40)) Say(kWeakCall);
 }
 
 void DescribeComplaint() {

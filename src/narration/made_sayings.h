@@ -6,8 +6,8 @@
 namespace tipline {
 
 inline bool MadeTwo() { return !CountsThree(); }
-inline bool MadeJumper() { return scene().PlayKind == "OUTSIDE" && MadeTwo(); }
-inline bool MadeClose() { return MadeTwo() && !MadeJumper() && !FootOnLine(); }
+inline bool MadeJumper() { return MadeTwo() && FromOutside(); }
+inline bool MadeClose() { return MadeTwo() && FromClose(); }
 inline bool MadeInside() { return FromPost() && MadeTwo(); }
 inline bool MadeBreakTwo() { return OnBreak() && MadeClose(); }
 inline bool MadePutback() { return Putback() && scene().PutbackClass == 1; }

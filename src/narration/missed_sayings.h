@@ -4,8 +4,8 @@
 
 namespace tipline {
 
-inline bool MissedFar() { return CountsThree() || scene().PlayKind == "OUTSIDE"; }
-inline bool MissedClose() { return !MissedFar(); }
+inline bool MissedFar() { return !FromClose(); }
+inline bool MissedClose() { return FromClose(); }
 inline bool FromBehind() { return OnBreak() || OnDrive(); }
 
 // clang-format off

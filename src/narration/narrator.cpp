@@ -51,10 +51,14 @@ void TellFreeThrow() {
   if (game.play.Posted == "FTM" && last && game.play.ReboundSide > 0) DescribeRebound();
 }
 
+/// What is said from here on tells the result of the play; the score is told only behind a short one.
+void ResultBegins() { game.commentary.ResultLine = game.commentary.PbpLineCount + 1; }
+
 void TellLoss() {
   DescribeMovement();
   const PlayResult r = game.play.Posted;
   DescribeSpin();
+  ResultBegins();
   if (r == "ST") {
     DescribeSteal();
   } else if (r == "SHOTCLOCK") {
@@ -78,6 +82,7 @@ void TellWhistle() {
   if (r == "2XPF") return DescribeDoubleFoul();
   if (r == "DELAY") return DescribeDelay();
   if (!CaughtWithoutBall()) DescribeMovement();
+  ResultBegins();
   if (r == "OF") return DescribeOffensiveFoul();
   if (r == "JUMPBALL") return DescribeTieUp();
   DescribeFoul();
@@ -131,6 +136,8 @@ void NoteScene() {
   s.PutbackClass = game.PutbackClass;
   s.Tension = game.Tension;
   for (int side = 1; side <= 2; ++side) s.Score[side] = game.side[side].Score;
+  s.QuickFoul = Defense().QuickFoul;
+  s.StealFoul = Defense().StealFoul;
   s.Call = game.call;
   s.Possession = game.possession;
   s.FastBreak = game.fastBreak;

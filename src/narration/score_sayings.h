@@ -29,8 +29,6 @@ inline constexpr Saying kBehindPlural[] = {{"{who} trail by {n}"}};
 inline constexpr Saying kTied[] = {
     {"#122"},
     {"#122 at {n}"},
-    {"all even at {n}"},
-    {"we're tied at {n}"},
 };
 inline constexpr Saying kLeadChanges[] = {{"{n} lead changes in the game"}, {"{n} lead changes today"}};
 // {word} is the defense.

@@ -28,7 +28,6 @@ inline bool WasFouled() {
 }
 
 inline const StatLine& GameOfShooter() { return BallMan().Stats[3]; }
-inline int PointsOf(const StatLine& line) { return 2 * line.FGM + line.F3M + line.FTM; }
 /// Shots in a row before this one: baskets above 0, misses below.
 inline int RunBefore() { return game.commentary.ShotRun[scene().OffenseSide][scene().BallPlayer]; }
 
@@ -36,6 +35,13 @@ inline bool OnDrive() { return scene().PlayKind == "DRIVE"; }
 inline bool OnBreak() { return scene().PlayKind == "FASTBREAK"; }
 inline bool Putback() { return scene().PlayKind == "OFFREB"; }
 inline bool FromPost() { return scene().PlayKind == "INSIDE"; }
+/// From close to the basket: where lay-ups and dunks come from.
+inline bool FromClose() {
+  return !FromBeyond() && (FromPost() || OnDrive() || OnBreak() || (Putback() && scene().PutbackClass == 1));
+}
+inline bool FromOutside() { return !FromBeyond() && !FromClose(); }
+/// Thrown from far away with the horn about to sound.
+inline bool Heaved() { return CountsThree() && scene().GameClock <= 30 && ClockLeft() <= 5; }
 inline bool Guarded() { return scene().BallDefender > 0; }
 inline bool AloneOnBreak() {
   return OnBreak() && (scene().FastBreak.Breakaway || scene().FastBreak.BreakDefenders == 0);

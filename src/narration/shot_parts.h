@@ -6,6 +6,8 @@
 
 namespace tipline {
 
+inline constexpr int kInTheAir = 6;  ///< cue of the court: the ball has left the hand
+
 /// What a shot looks like.
 enum class Look : u8 {
   kPlain,
@@ -26,6 +28,8 @@ void DescribeShotResult(Look look);
 void VerbLine(std::string verb, int linesBefore, int spokenKind = kUnspoken);
 /// The line that tells a basket: its colours, its sounds.
 void MarkBasket(bool three);
+/// A man's count of the game in brackets behind the last line, when the listener wants it.
+void AddStat(int count);
 /// "for the lead", "to tie it up", when the basket did that.
 void DescribeGoAhead();
 void DescribeTieIt();

@@ -46,8 +46,8 @@ inline bool HardFoul() { return game.Tension > scene().Tension; }
 inline bool ByHisDefender() { return game.play.Fouler == scene().BallDefender; }
 inline bool ByHelp() { return !ByHisDefender(); }
 /// The defense goes for the worst man at the line.
-inline bool HuntsTheWorst() { return DefenseThen().QuickFoul == 3; }
-inline bool StopsTheClock() { return DefenseThen().QuickFoul == 1 || DefenseThen().QuickFoul == 2; }
+inline bool HuntsTheWorst() { return scene().QuickFoul == 3; }
+inline bool StopsTheClock() { return scene().QuickFoul == 1 || scene().QuickFoul == 2; }
 /// Fouled as the ball comes up: the books give two shots for it, or the possession is still young.
 inline bool InBackcourt() {
   constexpr int kToCross = 80;
