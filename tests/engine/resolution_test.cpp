@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "engine/eligible.h"
 #include "engine/execution.h"
 #include "engine/resolution.h"
 #include "support/neutral_game.h"
@@ -82,24 +81,6 @@ TEST(Resolution, AnAnalysisLeavesTheGameAlone) {
   EXPECT_EQ(game.GameClock, 5000);
   EXPECT_EQ(game.play.ShotChance + game.play.TurnoverChance + game.play.FoulChance, 1000);
   EXPECT_EQ(game.PlayLogCount, 0);
-}
-
-TEST(Resolution, EligibleMen) {
-  const struct {
-    const char* why;
-    void (*change)();
-    int count;
-  } cases[] = {{"one foul left", [] { Shooter().Stats[3].Pf = 5; }, 12},
-               {"fouled out", [] { Shooter().Stats[3].Pf = 6; }, 11},
-               {"no limit", [] { Rules().DqList = 0, Shooter().Stats[3].Pf = 9; }, 12},
-               {"inactive", [] { Shooter().Status = 99; }, 11},
-               {"another team's man", [] { Shooter().TeamNo = 7; }, 11}};
-  for (const auto& c : cases) {
-    SetUpPlay("INSIDE");
-    Rules().DqList = 6;
-    c.change();
-    EXPECT_EQ(CountEligible(2), c.count) << c.why;
-  }
 }
 
 TEST(FreeThrow, TheLastShotIsMissedOnPurpose) {

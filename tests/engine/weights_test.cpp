@@ -58,40 +58,25 @@ TEST(ShotWeight, FromTheRealAttempts) {
       {"trails by 15 early", [] { D().Score = 15; }, 1159},
       {"in the second period that is nothing", [] { O().Score = 15, game.Period = 2; }, 1104},
       {"16 is enough at the lowest draw", [] { O().Score = 16, game.Period = 4; }, 1049},
-      {"long ago", [] { O().TimeoutFocus = "Offense", D().TimeoutFocus = "Fastbreak"; }, 1104},
   });
 }
 
-TEST(TurnoverWeight, SeasonAndTeams) {
+TEST(TurnoverWeight, SeasonTeamsAndKinds) {
   Turnovers({
       {"200 x 0.89 = 178, hands of 5 against 5.2", [] {}, 174},
       {"never lost it", [] { Real().To = 0; }, 5},
-      {"college of 2015", [] { SeasonOfAll(2015), Shooter().PlayerType = "C"; }, 240},
       {"five without hands", [] { D().LineupForce = 13; }, 120},
-      {"no five at all", [] { D().LineupForce = 0, Defender().RateDefForce = 0; }, 5},
       {"picked team of 30", [] {
         Level(2, "O", 2000), league.ActiveTeams = 30, game.player[2][2].Year = 1999; }, 305},
-      {"of 31", [] { Level(2, "O", 2000), league.ActiveTeams = 31, game.player[2][2].Year = 1999; }, 428},
-      {"team of 1972 against one of 1974", [] { OTeam().Year = 1972, DTeam().Year = 1974; }, 148},
-  });
-}
-
-TEST(TurnoverWeight, GameAndMen) {
-  Turnovers({
       {"nobody to bring it up", [] { O().OutOfPosition = 1; }, 522},
       {"a hundredth of the shots at least", [] { D().OutOfPosition = 1, game.play.ShotChance = 1104; }, 11},
-  });
-}
-
-TEST(TurnoverWeight, KindsOfPlay) {
-  Turnovers({
       {"three, strong inside help: -160", [] { Set("THREE"), D().DefenseHelp = 3; }, 0},
       {"break, four more", [] { Set("FASTBREAK"), game.fastBreak.BreakAttackers = 4; }, 17},
       {"break, fewer", [] { Set("FASTBREAK"), game.fastBreak.BreakDefenders = 1; }, 174},
   });
 }
 
-TEST(FoulWeight, SeasonAndTeams) {
+TEST(FoulWeight, SeasonGameAndKinds) {
   Fouls({
       {"400 throws: 363, 323, 294, then 1.02 three times", [] {}, 312},
       {"defender one foul from the bench", [] { Rules().DqList = 6, Defender().Stats[3].Pf = 5; }, 297},
@@ -99,31 +84,18 @@ TEST(FoulWeight, SeasonAndTeams) {
       {"in a season of many misses: 5 off", [] { Real().Reb = 500, league.EraPro[2000].FGA = 106; }, 307},
       {"defender who fouls twice as often", [] { Defender().Stats[1].Pf = 480; }, 399},
       {"in a zone", [] { Defender().Stats[1].Pf = 480, D().DefenseType = 1; }, 387},
-      {"no era table", [] { league.EraPro.Fill({}); }, 304},
-  });
-}
-
-TEST(FoulWeight, GameAndMen) {
-  Fouls({
       {"team has 8", [] { D().TeamFouls = 8; }, 214, {1, 1, 1, 1, 1}},
       {"last period, tied", [] { game.Period = 4; }, 372},
-      {"26 apart, two minutes", [] { game.Period = 4, O().Score = 26, game.GameClock = 1199; }, 53},
       {"26 apart, fifteen seconds: four halves", [] {
         game.Period = 4, O().Score = 26, game.GameClock = 150; }, 6},
       {"offense out of position, shots 1104", [] { O().OutOfPosition = 1, game.play.ShotChance = 1104; }, 11},
       {"seven men left under a foul limit", [] { Rules().DqList = 6, D().EligibleCount = 7; }, 94},
       {"six: not even the least", [] {
         Rules().DqList = 6, D().EligibleCount = 6, game.play.ShotChance = 5000; }, 0},
-      {"six without a limit", [] { D().EligibleCount = 6; }, 312},
       {"six in an analysis", [] {
         Rules().DqList = 6, D().EligibleCount = 6, game.AnalysisMode = true; }, 312, {3, 3, 3}},
       {"three seconds left", [] { game.GameClock = 30; }, 312},
       {"less", [] { game.GameClock = 29; }, 0},
-  });
-}
-
-TEST(FoulWeight, KindsOfPlay) {
-  Fouls({
       {"inside: 30", [] { Set("INSIDE"); }, 361},
       {"found open far out: x 0.8", [] { Set("INSIDE"), OMan().NaturalZone = kThree; }, 299},
       {"at the end: 1025", [] {
