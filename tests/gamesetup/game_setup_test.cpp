@@ -47,10 +47,7 @@ class GameSetup : public testing::Test {
     ASSERT_TRUE(UseShippedEras());
     for (const char* name : {"Here", "There"}) {
       LeagueRequest request;
-      request.Name = name;
-      request.Divisions = 2;
-      request.Teams = 4;
-      request.Games = 10;
+      request.Name = name, request.Divisions = 2, request.Teams = 4, request.Games = 10;
       std::string message;
       ASSERT_TRUE(MakeLeague(request, message)) << message;
     }
@@ -59,9 +56,6 @@ class GameSetup : public testing::Test {
     LoadAllTeams();
     ASSERT_TRUE(LoadSchedule());
     LoadLeaguePlayers();
-    for (int team = 1; team <= kTeams; ++team) {
-      if (league.team[team].TeamActive == 1) teams.push_back(team);
-    }
     program.GameKind = "E";
   }
   void TearDown() override {
@@ -71,24 +65,28 @@ class GameSetup : public testing::Test {
 
   TemporaryHome home;
   platform::ScriptedDialogs dialogs;
-  std::vector<int> teams;
+  static constexpr int kFirst = 1, kSecond = 2;  ///< teams of either league
   NotedScreens screens;
+
+  void PickTeams(HCGameTeams2008& screen) const {
+    screen.PickTeam(1, kFirst);
+    screen.PickTeam(2, kSecond);
+  }
 };
 
 TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
+  const std::string noDate = "You must select a month, day, and year for this game!";
+  const std::string noTeams = "You must select two teams!";
   const struct {
-    const char* why;
-    const char* kind;
-    int visitor, home;  // 1, 2: first and second team
+    const char *why, *kind;
+    int visitor, home;
     bool dated;
     std::string message;
   } cases[] = {
-      {"league game without a date", "L", 1, 2, false,
-       "You must select a month, day, and year for this game!"},
-      {"the date is asked for first", "L", 0, 0, false,
-       "You must select a month, day, and year for this game!"},
-      {"no visitor", "E", 0, 2, true, "You must select two teams!"},
-      {"no home team", "L", 1, 0, true, "You must select two teams!"},
+      {"league game without a date", "L", 1, 2, false, noDate},
+      {"the date is asked for first", "L", 0, 0, false, noDate},
+      {"no visitor", "E", 0, 2, true, noTeams},
+      {"no home team", "L", 1, 0, true, noTeams},
       {"league game against itself", "L", 1, 1, true,
        "You must select two different teams for a league game!"},
       {"exhibition against itself", "E", 1, 1, true, ""},
@@ -104,13 +102,14 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     program.GameKind.Set(c.kind);
     HCGameTeams2008 screen;
     if (c.dated) screen.PickDate(9, 30, 2001);
-    if (c.visitor) screen.PickTeam(1, teams[static_cast<std::size_t>(c.visitor - 1)]);
-    if (c.home) screen.PickTeam(2, teams[static_cast<std::size_t>(c.home - 1)]);
-    EXPECT_EQ(screen.PlayCommand(screens), c.message.empty());
-    EXPECT_EQ(dialogs.told, c.message.empty() ? std::vector<std::string>{} : std::vector{c.message});
-    EXPECT_EQ(screens.opened, c.message.empty() ? "setup " : "");
-    EXPECT_EQ(game.GameOver, c.message.empty());
-    if (!c.message.empty()) continue;
+    if (c.visitor) screen.PickTeam(1, c.visitor);
+    if (c.home) screen.PickTeam(2, c.home);
+    const bool plays = c.message.empty();
+    EXPECT_EQ(screen.PlayCommand(screens), plays);
+    EXPECT_EQ(dialogs.told, plays ? std::vector<std::string>{} : std::vector{c.message});
+    EXPECT_EQ(screens.opened, plays ? "setup " : "");
+    EXPECT_EQ(game.GameOver, plays);
+    if (!plays) continue;
     EXPECT_EQ(game.GameMonth, c.dated ? 1 : 2);
     EXPECT_EQ(game.GameCalendarMonth, c.dated ? 9 : 10);
     EXPECT_EQ(game.GameDay, c.dated ? 30 : 1);
@@ -120,30 +119,26 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
 
 TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
   const struct {
-    const char* why;
     bool visitor, home;  // computers
-    int shown;
+    u8 shown;
     const char* opened;
-    bool over;
-  } cases[] = {
-      {"two humans", false, false, 0, "setup game ", false},
-      {"one human", true, false, 0, "setup game ", false},
-      {"computers at once", true, true, 0, "setup ", true},
-      {"computers shown", true, true, 1, "setup viewer ", true},
-  };
+  } cases[] = {{false, false, 0, "setup game "},
+               {true, false, 0, "setup game "},
+               {true, true, 0, "setup "},
+               {true, true, 1, "setup viewer "}};
   for (const auto& c : cases) {
+    const bool over = c.visitor && c.home;
     HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
+    PickTeams(screen);
     screens.opened.clear();
     screens.choose = [&c](HCGAMEsetup& s) {
       s.ComputerOption = {{c.visitor, c.home}};
-      s.Controls.ComputerCheck = static_cast<u8>(c.shown);
+      s.Controls.ComputerCheck = c.shown;
     };
     ASSERT_TRUE(screen.PlayCommand(screens));
-    EXPECT_EQ(screens.opened, c.opened) << c.why;
-    EXPECT_EQ(game.GameOver, c.over) << c.why;
-    EXPECT_EQ(program.Autoplaying, c.over && c.shown == 0) << c.why;
+    EXPECT_EQ(screens.opened, c.opened);
+    EXPECT_EQ(game.GameOver, over) << c.opened;
+    EXPECT_EQ(program.Autoplaying, over && c.shown == 0) << c.opened;
   }
 }
 
@@ -159,27 +154,22 @@ TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
       {"the visitor from elsewhere", there, here, true},
       {"both from elsewhere", there, there, false},
   };
-  const auto before = RecordBytes(league.team[teams[0]]);
+  const auto before = RecordBytes(league.team[kFirst]);
   for (const auto& c : cases) {
     HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(1, kFirst);
     screen.PickFolder(1, c.visitor);
     EXPECT_EQ(game.GameTeam[1], 0) << "another folder takes the pick back";
-    EXPECT_EQ(screen.TeamLabel[1].Text, "Visiting Team");
     screen.PickFolder(2, c.home);
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
-    const auto city = [&](const std::filesystem::path& folder) {
-      TeamRecord team;
-      RecordFile(folder / "HCTEAMS", kTeamSlotBytes).Read(teams[0], team);
-      return team.City.Str();
-    };
-    EXPECT_EQ(game.team[1].City.Str(), city(c.visitor)) << c.why;
+    PickTeams(screen);
+    TeamRecord visitor;
+    RecordFile(c.visitor / "HCTEAMS", kTeamSlotBytes).Read(kFirst, visitor);
+    EXPECT_EQ(game.team[1].City, visitor.City) << c.why;
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(program.TwoFolderGame, c.two) << c.why;
     EXPECT_EQ(program.LeagueFolder, here) << c.why;
-    EXPECT_EQ(RecordBytes(league.team[teams[0]]), before) << c.why;
+    EXPECT_EQ(RecordBytes(league.team[kFirst]), before) << c.why;
   }
   program.GameKind = "L";
   HCGameTeams2008 screen;
@@ -192,18 +182,15 @@ TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   HCGameTeams2008 screen;
   EXPECT_EQ(screen.ScenarioPeriodList.size(), league.rules.PeriodList + 1u);
   const int full = league.rules.MinuteList;
-  const struct {
-    int minutes, seconds, keptMinutes, keptSeconds;
-  } cases[] = {{full, 59, full, 0},
-               {full + 1, 10, full, 0},
-               {-1, -1, 0, 0},
-               {full - 1, 60, full - 1, 59},
-               {0, 59, 0, 59}};
-  for (const auto& c : cases) {
-    screen.SetScenarioMinutes(c.minutes);
-    screen.SetScenarioSeconds(c.seconds);
-    EXPECT_EQ(screen.ScenarioMinutes, c.keptMinutes);
-    EXPECT_EQ(screen.ScenarioSeconds, c.keptSeconds);
+  using Time = std::pair<int, int>;
+  const std::pair<Time, Time> cases[] = {{{full, 59}, {full, 0}},
+                                         {{full + 1, 10}, {full, 0}},
+                                         {{-1, -1}, {0, 0}},
+                                         {{full - 1, 60}, {full - 1, 59}}};
+  for (const auto& [given, kept] : cases) {
+    screen.SetScenarioMinutes(given.first);
+    screen.SetScenarioSeconds(given.second);
+    EXPECT_EQ(Time(screen.ScenarioMinutes, screen.ScenarioSeconds), kept);
   }
   screen.SetScenarioSeconds(30);
   screen.SetScenarioMinutes(full);
@@ -216,8 +203,7 @@ TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   program.ScenarioGame = true;
   for (int situation = 0; situation <= 2; ++situation) {
     HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
+    PickTeams(screen);
     screen.ScenarioPeriod = 3;
     screen.ScenarioSituation = situation;
     screen.SetScenarioMinutes(1);
