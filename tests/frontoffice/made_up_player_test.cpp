@@ -61,20 +61,22 @@ TEST(MadeUpPlayer, IsSoundWhateverIsDrawn) {
 
 TEST(MadeUpPlayer, BodiesGrewUntilTheNineties) {
   UseShippedEras();
-  const auto meanHeight = [](int year, const char* type, const char* sex) {
-    const TeamRecord team = TeamOf(type, sex, year);
+  const struct {
+    int year;
+    const char *type, *sex;
+    double inches;  // of a small forward
+  } cases[] = {
+      {2022, "P", "M", 79.1}, {1946, "P", "M", 79.1 - 2.5}, {2022, "C", "M", 78.1}, {2022, "P", "W", 73.6}};
+  for (const auto& c : cases) {
+    const TeamRecord team = TeamOf(c.type, c.sex, c.year);
     random.Seed(9);
     double sum = 0;
     for (int i = 0; i < 3000; ++i) {
-      const PlayerRecord p = CreateOnePlayer({999, year, 3, FictionQuality::kVeteranMix}, FewNames(), team);
+      const PlayerRecord p = CreateOnePlayer({999, c.year, 3, FictionQuality::kVeteranMix}, FewNames(), team);
       sum += p.HeightFeet * 12 + p.HeightInches;
     }
-    return sum / 3000;
-  };
-  EXPECT_NEAR(meanHeight(2022, "P", "M"), 79.1, 0.25);
-  EXPECT_NEAR(meanHeight(1946, "P", "M"), 79.1 - 2.5, 0.25) << "all five steps";
-  EXPECT_NEAR(meanHeight(2022, "C", "M"), 78.1, 0.25);
-  EXPECT_NEAR(meanHeight(2022, "P", "W"), 73.6, 0.25);
+    EXPECT_NEAR(sum / 3000, c.inches, 0.25) << c.year << c.type << c.sex;
+  }
 }
 
 TEST(MadeUpPlayer, ManyOfThemMakeTheErasGame) {
