@@ -109,9 +109,9 @@ TEST(UsageLevel, BeyondTheRealSeason) {
       {"many real games", [] { Played(90, 1400), Real().G = 75, Real().Min = 1400; }, 0},
       {"15 minutes a game", [] { Played(70, 1050); }, 0},
       {"no real season", [] { Played(70, 2000), Real() = {}; }, 0},
-      {"playoff module: a tenth, not above", [] { Played(5, 90), Rules().IsPlayoffModule = 1, Real().G = 60; }, 0},
-      {"playoff module: above a tenth", [] { Played(5, 90), Rules().IsPlayoffModule = 1; }, 1},
-      {"analysis outside a game", [] { Played(65, 2000), game.AnalysisMode = true, OMan().UsageLevel = 1; }, 1},
+      {"playoff module: a tenth", [] { Played(5, 90), Rules().IsPlayoffModule = 1, Real().G = 60; }, 0},
+      {"above a tenth", [] { Played(5, 90), Rules().IsPlayoffModule = 1; }, 1},
+      {"outside a game", [] { Played(65, 2000), game.AnalysisMode = true, OMan().UsageLevel = 1; }, 1},
   });
   // clang-format on
 }

@@ -51,6 +51,7 @@ constexpr unsigned kHurt = kLight | kGrave;
 constexpr unsigned kIllegal = Bit(Kind::kIllegalDefense);
 constexpr unsigned kFight = Bit(Kind::kFight);
 constexpr unsigned kTech = Bit(Kind::kTechnical);
+constexpr unsigned kAll = kHurt | kIllegal | kFight | kTech;
 
 /// Which kinds come in 20000 plays, a bit each. A technical in the playoffs is one in many thousands.
 unsigned Seen() {
@@ -69,18 +70,17 @@ unsigned Seen() {
 // clang-format off
 TEST(Incidents, TheMomentDecidesWhatCanHappen) {
   ExpectRows(SetUpTrouble, Seen, {
-      {"an ordinary play",          [] {},                                   kHurt | kIllegal | kFight | kTech},
+      {"an ordinary play",          [] {},                                   kAll},
       {"nine men left to a side",   [] { game.side[1].EligibleCount = 9; },  kIllegal},
-      {"ten are enough",            [] { game.side[1].EligibleCount = 10; }, kHurt | kIllegal | kFight | kTech},
+      {"ten are enough",            [] { game.side[1].EligibleCount = 10; }, kAll},
       {"clock burned",              [] { game.PlayKind = "BURN"; },          kIllegal | kFight | kTech},
       {"line-up just announced",    [] { game.LineupAnnounced = 1; },        kIllegal | kFight | kTech},
       {"after a free throw",        [] { game.PreviousResult = "FTG"; },     kIllegal | kFight | kTech},
       {"fast break",                [] { game.GameState = "FASTBREAK"; },    0},
       {"a what-if",                 [] { game.AnalysisMode = true; },        0},
       {"no illegal defense rule",   [] { Rules().IllegalDefenseList = 0; },  kHurt | kFight | kTech},
-      {"no injuries by the rules",  [] { Rules().InjuryOption = 0; },        kLight | kIllegal | kFight | kTech},
-      {"none shaken up by them",    [] { Rules().TemporaryGameInjuriesCheck = 0; },
-                                                                             kGrave | kIllegal | kFight | kTech},
+      {"no injuries by the rules",  [] { Rules().InjuryOption = 0; },        kAll & ~kGrave},
+      {"none shaken up by them",    [] { Rules().TemporaryGameInjuriesCheck = 0; }, kAll & ~kLight},
       {"in the corner, dead ball",  [] { game.DeadBallKind = 2; },           kIllegal},
       {"ball taken out beside",     [] { game.DeadBallKind = 1; },           kIllegal | kFight},
       {"told to foul",              [] { D().QuickFoul = 1; },               kLight | kTech},
@@ -190,7 +190,9 @@ TEST(Injury, GamesToMissFollowTheRealSeason) {
       {"half a season", [] { Second().Stats[1].G = 41; }, 41},
       {"an old season costs a tenth more", [] { Second().Stats[1].G = 62, Second().Year = 1980; }, 22},
       {"he came for the second half, and played it",
-       [] { Second().Stats[1].G = 41, Second().StartMonth = 4, Second().StartDay = 15, Second().EndMonth = 12; }, 0},
+       [] {
+        PlayerRecord& p = Second();
+        p.Stats[1].G = 41, p.StartMonth = 4, p.StartDay = 15, p.EndMonth = 12; }, 0},
       {"no season to go by", [] { Second().Stats[1].G = 0, Second().RateDurability = 5; }, 8},
       {"less what he has missed here",
        [] { Second().Stats[1].G = 41, Second().Stats[2].G = 10, OTeam().Losses = 30; }, 21},

@@ -33,7 +33,7 @@ TEST(Resolution, SituationsDecideTheResult) {
     int least, most;
   } cases[] = {
       {"turnover ordered", "INSIDE", "OFFENSE", [] { game.call.ForcedTurnover = 1; }, {"TO"}, 600, 600},
-      {"foul ordered, stoppages before the draw aside", "OUTSIDE", "OFFENSE", [] { game.call.ForcedFoul = 1; },
+      {"foul ordered, stoppages aside", "OUTSIDE", "OFFENSE", [] { game.call.ForcedFoul = 1; },
        {"F0", "F1", "F2", "F1-1", "MF", "M3F"}, 500, 600},
       {"no drawn foul in the last second and a half", "INSIDE", "OFFENSE", [] { game.GameClock = 14; },
        {"F0", "F1", "F2", "F1-1", "F3-2", "MF", "M3F"}, 0, 0},
@@ -53,8 +53,6 @@ TEST(Resolution, SituationsDecideTheResult) {
        {"F0", "F1", "F2", "F1-1"}, 501, 600},
       {"inbounds first", "INSIDE", "DEADBALL-OFFENSE", [] { game.DeadBallKind = 2, game.NeedsInbound = 1; },
        {"IN-EZ"}, 501, 600},
-      {"nothing else with it", "INSIDE", "DEADBALL-OFFENSE", [] { game.DeadBallKind = 2, game.NeedsInbound = 1; },
-       {"G", "M", "DEFREB", "F2", "TO"}, 0, 0},
       {"the move up first", "INSIDE", "OFFENSE", [] { game.NeedsMoveUp = game.NeedsBringUp = 1; },
        {"MOVE-UP"}, 501, 600},
   };

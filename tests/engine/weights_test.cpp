@@ -4,6 +4,7 @@
 
 #include "engine/chances.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 
@@ -17,30 +18,32 @@ void TwosOnly() {
   Defender().Stats[1].F3A = Defender().Stats[1].F3M = 0;
 }
 
-void Run(const std::vector<ChanceCase>& cases, const std::vector<double>& draws, void (*weigh)(),
-         const int& result) {
-  for (const ChanceCase& c : cases) {
-    TwosOnly();
-    c.change();
-    EraMeans();
-    random.Script(c.draws.empty() ? draws : c.draws);
-    weigh();
-    EXPECT_EQ(result, c.chance) << c.why;
-  }
+using Rows = std::initializer_list<Row<int>>;
+
+/// Draws: two men of the offense.
+void Shots(Rows rows) {
+  const auto weight = [] { return EraMeans(), ShotWeight(), game.play.ShotChance; };
+  ExpectRows([] { TwosOnly(), random.Script({1, 1}); }, weight, rows);
 }
-void Shots(const std::vector<ChanceCase>& cases) { Run(cases, {1, 1}, ShotWeight, game.play.ShotChance); }
 /// Draws: season (not this time), two men of the offense.
-void Turnovers(const std::vector<ChanceCase>& cases) {
-  Run(cases, {2, 1, 1}, TurnoverWeight, game.play.TurnoverChance);
+void Turnovers(Rows rows) {
+  const auto weight = [] { return EraMeans(), TurnoverWeight(), game.play.TurnoverChance; };
+  ExpectRows([] { TwosOnly(), random.Script({2, 1, 1}); }, weight, rows);
 }
 /// Draws: two men of the offense, three looks at the team fouls.
-void Fouls(const std::vector<ChanceCase>& cases) {
-  Run(cases, {1, 1, 3, 3, 3}, FoulWeight, game.play.FoulChance);
+void Fouls(Rows rows) {
+  const auto weight = [] { return EraMeans(), FoulWeight(), game.play.FoulChance; };
+  ExpectRows([] { TwosOnly(), random.Script({1, 1, 3, 3, 3}); }, weight, rows);
 }
 
 void Set(PlayKind kind) {
   game.PlayKind = kind;
   if (kind == "THREE") game.play.ShotValue = "THREE";
+}
+/// Inside, covered tightly; the last draw says how near the end is.
+void AtTheEnd(double draw) {
+  random.Script({1, 1, 3, 3, 3, draw});
+  Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100;
 }
 void Draft(int side) { game.team[side].RosterKind = "D"; }
 
@@ -84,7 +87,7 @@ TEST(FoulWeight, SeasonGameAndKinds) {
       {"in a season of many misses: 5 off", [] { Real().Reb = 500, league.EraPro[2000].FGA = 106; }, 307},
       {"defender who fouls twice as often", [] { Defender().Stats[1].Pf = 480; }, 399},
       {"in a zone", [] { Defender().Stats[1].Pf = 480, D().DefenseType = 1; }, 387},
-      {"team has 8", [] { D().TeamFouls = 8; }, 214, {1, 1, 1, 1, 1}},
+      {"team has 8", [] { random.Script({1, 1, 1, 1, 1}), D().TeamFouls = 8; }, 214},
       {"last period, tied", [] { game.Period = 4; }, 372},
       {"26 apart, fifteen seconds: four halves", [] {
         game.Period = 4, O().Score = 26, game.GameClock = 150; }, 6},
@@ -93,17 +96,14 @@ TEST(FoulWeight, SeasonGameAndKinds) {
       {"six: not even the least", [] {
         Rules().DqList = 6, D().EligibleCount = 6, game.play.ShotChance = 5000; }, 0},
       {"six in an analysis", [] {
-        Rules().DqList = 6, D().EligibleCount = 6, game.AnalysisMode = true; }, 312, {3, 3, 3}},
+        random.Script({3, 3, 3});
+        Rules().DqList = 6, D().EligibleCount = 6, game.AnalysisMode = true; }, 312},
       {"three seconds left", [] { game.GameClock = 30; }, 312},
       {"less", [] { game.GameClock = 29; }, 0},
       {"inside: 30", [] { Set("INSIDE"); }, 361},
       {"found open far out: x 0.8", [] { Set("INSIDE"), OMan().NaturalZone = kThree; }, 299},
-      {"at the end: 1025", [] {
-        Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100; },
-       2035, {1, 1, 3, 3, 3, 51}},
-      {"not yet: 930", [] {
-        Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100; },
-       1881, {1, 1, 3, 3, 3, 50}},
+      {"at the end: 1025", [] { AtTheEnd(51); }, 2035},
+      {"not yet: 930", [] { AtTheEnd(50); }, 1881},
       {"nor one who is a foul from the bench: -20", [] {
         Set("INSIDE"), DMan().SafeStyle = 1, Rules().DqList = 6, Defender().Stats[3].Pf = 5; }, 265},
   });

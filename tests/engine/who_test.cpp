@@ -89,7 +89,8 @@ TEST(AfterTheRebound, ShotClockDeadBallSideAndState) {
       {"no rim, no reset", [] { game.play.AirBall = 1; }, {60, 0, 2, "OFFREB"}},
       {"blocked, no reset", [] { game.play.Blocked = 1; }, {60, 0, 2, "OFFREB"}},
       {"out, the attackers keep it", [] { game.play.DeadBallRebound = 1; }, {60, 1, 2, "DEADBALL-DEFENSE"}},
-      {"out, the others' ball", [] { game.play.DeadBallRebound = game.play.ReboundSide = 1; }, {240, 4, 1, "DEADBALL-DEFENSE"}},
+      {"out, the others' ball", [] { game.play.DeadBallRebound = game.play.ReboundSide = 1; },
+       {240, 4, 1, "DEADBALL-DEFENSE"}},
   });
 }
 // clang-format on

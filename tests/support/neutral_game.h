@@ -131,12 +131,4 @@ void EachSeed(int times, Play play) {
   }
 }
 
-/// One change to the neutral game, what it leaves, and the draws on the way.
-struct ChanceCase {
-  const char* why;
-  void (*change)();
-  int chance;
-  std::vector<double> draws = {};
-};
-
 }  // namespace tipline

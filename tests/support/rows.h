@@ -15,8 +15,8 @@ struct Row {
 };
 
 /// Sets up and changes, row after row, and compares what `measure` finds. A tuple for several findings.
-template <class Measure>
-void ExpectRows(void (*setUp)(), Measure measure,
+template <class SetUp, class Measure>
+void ExpectRows(SetUp setUp, Measure measure,
                 std::initializer_list<Row<std::invoke_result_t<Measure>>> rows) {
   for (const auto& row : rows) {
     setUp();
