@@ -100,6 +100,7 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     dialogs.told.clear();
     screens.opened.clear();
     program.GameKind.Set(c.kind);
+    program.Autoplaying = false;
     HCGameTeams2008 screen;
     if (c.dated) screen.PickDate(9, 30, 2001);
     if (c.visitor) screen.PickTeam(1, c.visitor);
@@ -109,6 +110,7 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     EXPECT_EQ(dialogs.told, plays ? std::vector<std::string>{} : std::vector{c.message});
     EXPECT_EQ(screens.opened, plays ? "setup " : "");
     EXPECT_EQ(game.GameOver, plays);
+    EXPECT_EQ(program.Autoplaying, plays);
     if (!plays) continue;
     EXPECT_EQ(game.GameMonth, c.dated ? 1 : 2);
     EXPECT_EQ(game.GameCalendarMonth, c.dated ? 9 : 10);
@@ -118,44 +120,27 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
 }
 
 TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
-  const struct {
-    bool visitor, home;  // computers
-    u8 shown;
-    const char* opened;
-  } cases[] = {{false, false, 0, "setup game "},
-               {true, false, 0, "setup game "},
-               {true, true, 0, "setup "},
-               {true, true, 1, "setup viewer "}};
-  for (const auto& c : cases) {
-    const bool over = c.visitor && c.home;
-    HCGameTeams2008 screen;
-    PickTeams(screen);
-    screens.opened.clear();
-    screens.choose = [&c](HCGAMEsetup& s) {
-      s.ComputerOption = {{c.visitor, c.home}};
-      s.Controls.ComputerCheck = c.shown;
-    };
-    ASSERT_TRUE(screen.PlayCommand(screens));
-    EXPECT_EQ(screens.opened, c.opened);
-    EXPECT_EQ(game.GameOver, over) << c.opened;
-    EXPECT_EQ(program.Autoplaying, over && c.shown == 0) << c.opened;
-  }
+  HCGameTeams2008 screen;
+  PickTeams(screen);
+  screens.choose = [](HCGAMEsetup& s) { s.ComputerOption[1] = true; };
+  ASSERT_TRUE(screen.PlayCommand(screens));
+  EXPECT_EQ(screens.opened, "setup game ") << "one human";
+  EXPECT_FALSE(game.GameOver || program.Autoplaying);
+  screens.choose = [](HCGAMEsetup& s) { BothComputers(s), s.Controls.ComputerCheck = 1; };
+  ASSERT_TRUE(screen.PlayCommand(screens));
+  EXPECT_EQ(screens.opened, "setup game setup viewer ") << "computers shown";
+  EXPECT_TRUE(game.GameOver && !program.Autoplaying);
 }
 
 TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
   const auto here = program.LeagueFolder, there = FindLeague("There");
   const struct {
-    const char* why;
     std::filesystem::path visitor, home;
     bool two;
-  } cases[] = {
-      {"both from here", here, here, false},
-      {"here, with a separator", here / "", here, false},
-      {"the visitor from elsewhere", there, here, true},
-      {"both from elsewhere", there, there, false},
-  };
+  } cases[] = {{here, here, false}, {here / "", here, false}, {there, here, true}, {there, there, false}};
   const auto before = RecordBytes(league.team[kFirst]);
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.visitor);
     HCGameTeams2008 screen;
     screen.PickTeam(1, kFirst);
     screen.PickFolder(1, c.visitor);
@@ -164,12 +149,12 @@ TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
     PickTeams(screen);
     TeamRecord visitor;
     RecordFile(c.visitor / "HCTEAMS", kTeamSlotBytes).Read(kFirst, visitor);
-    EXPECT_EQ(game.team[1].City, visitor.City) << c.why;
+    EXPECT_EQ(game.team[1].City, visitor.City);
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
-    EXPECT_EQ(program.TwoFolderGame, c.two) << c.why;
-    EXPECT_EQ(program.LeagueFolder, here) << c.why;
-    EXPECT_EQ(RecordBytes(league.team[kFirst]), before) << c.why;
+    EXPECT_EQ(program.TwoFolderGame, c.two);
+    EXPECT_EQ(program.LeagueFolder, here);
+    EXPECT_EQ(RecordBytes(league.team[kFirst]), before);
   }
   program.GameKind = "L";
   HCGameTeams2008 screen;
@@ -180,7 +165,6 @@ TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
 TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   program.ScenarioGame = true;
   HCGameTeams2008 screen;
-  EXPECT_EQ(screen.ScenarioPeriodList.size(), league.rules.PeriodList + 1u);
   const int full = league.rules.MinuteList;
   using Time = std::pair<int, int>;
   const std::pair<Time, Time> cases[] = {{{full, 59}, {full, 0}},
@@ -204,12 +188,9 @@ TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   for (int situation = 0; situation <= 2; ++situation) {
     HCGameTeams2008 screen;
     PickTeams(screen);
-    screen.ScenarioPeriod = 3;
-    screen.ScenarioSituation = situation;
-    screen.SetScenarioMinutes(1);
-    screen.SetScenarioSeconds(30);
-    screen.SetScenarioPoints(1, 100);
-    screen.SetScenarioPoints(2, 98);
+    screen.ScenarioPeriod = 3, screen.ScenarioSituation = situation;
+    screen.ScenarioMinutes = 1, screen.ScenarioSeconds = 30;
+    screen.ScenarioPoints = {{100, 98}};
     screens.choose = [](HCGAMEsetup&) {};
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(screens.stop == "JUMPBALL-1", situation == 0);
@@ -228,17 +209,15 @@ TEST_F(GameSetup, SpreadAndCourt) {
   const struct {
     double visitor, home;
     bool box, rule;
-    const char* label;  // V and H stand for the cities
-  } cases[] = {
-      {0, 9, false, false, "No Line"},  {9, 0, false, false, "No Line"},   {7.5, 4, false, false, "No Line"},
-      {8, 4, false, false, "V by 1"},   {7.9, 4, false, false, "No Line"}, {7, 4, false, false, "No Line"},
-      {6.9, 4, false, false, "H by 1"}, {7, 4, true, false, "V by 3"},     {7, 4, false, true, "V by 3"},
-  };
+    const char* label;
+  } cases[] = {{0, 9, false, false, "No Line"}, {9, 0, false, false, "No Line"},
+               {8, 4, false, false, "V by 1"},  {7.9, 4, false, false, "No Line"},
+               {7, 4, false, false, "No Line"}, {6.9, 4, false, false, "H by 1"},
+               {7, 4, true, false, "V by 3"},   {7, 4, false, true, "V by 3"}};
+  game.team[1].City = "V", game.team[2].City = "H";
   program.ReplayLocked = true;
   for (const auto& c : cases) {
-    for (int s = 1; s <= 2; ++s) game.team[s].City = s == 1 ? "V" : "H";
-    game.team[1].PowerRating = c.visitor;
-    game.team[2].PowerRating = c.home;
+    game.team[1].PowerRating = c.visitor, game.team[2].PowerRating = c.home;
     league.rules.NeutralCheck = c.rule;
     ASSERT_TRUE(SaveRules());
     HCGAMEsetup screen;
@@ -254,14 +233,12 @@ TEST_F(GameSetup, SpreadAndCourt) {
 TEST_F(GameSetup, AGameOfTheScheduleTakesItsRow) {
   ASSERT_GT(league.GameCount(), 3);
   league.ScheduleGame[1].Year = 2004;
-  league.ScheduleGame[2].Month = 1;
-  league.ScheduleGame[2].NeutralSite = 1;
+  league.ScheduleGame[2].Month = 1, league.ScheduleGame[2].NeutralSite = 1;
   league.ScheduleGame[3].Team[2] = kFreeAgent;
   EXPECT_FALSE(PlayUpcomingGame(0, screens) || PlayUpcomingGame(league.GameCount() + 1, screens));
   EXPECT_FALSE(PlayUpcomingGame(3, screens));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"Teams not selected for this game! Use Organize\\Schedule "
                                                    "to select teams."});
-  EXPECT_EQ(screens.opened, "");
   screens.starts = false;
   EXPECT_FALSE(PlayUpcomingGame(2, screens));
   EXPECT_EQ(screens.opened, "preview ");

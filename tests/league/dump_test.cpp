@@ -40,17 +40,6 @@ TEST(Dump, PrintsARecordFieldByField) {
     EXPECT_NE(out.str().find(line), std::string::npos) << line << out.str();
 }
 
-TEST(Dump, LongTablesAreWrapped) {
-  TemporaryLeague folder;
-  league.coach[1].SavedDailyDates[30][100] = 1231;
-  ASSERT_TRUE(WriteCoach(1));
-  std::ostringstream out;
-  ASSERT_TRUE(DumpRecord("HCgameplan", 1, out));
-  std::istringstream lines(out.str());
-  for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 180u) << line;
-  EXPECT_NE(out.str().find("0 1231\n"), std::string::npos);
-}
-
 TEST(Dump, RefusesWhatItDoesNotKnow) {
   TemporaryLeague folder;
   ASSERT_TRUE(WriteWholeFile(RulesFile(), std::string(10001, '\0')));

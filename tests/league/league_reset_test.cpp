@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
 #include "league/combo_players.h"
@@ -146,7 +149,6 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
     int games, minutes;
   } cases[] = {
       {"two teams", {{1, 10, 300, 1}, {1002, 20, 500}}, "BOS-ATL", 30, 800},
-      {"former row first", {{1002, 20, 500}, {1, 10, 300, 1}}, "BOS-ATL", 30, 800},
       {"three teams", {{1, 10, 300, 1}, {1002, 12, 500}, {1003, 15, 100}}, "BOS-ATL-MIA", 37, 900},
       {"as many games as the team", {{1, 15, 300, 1}, {1002, 25, 500}}, "BOS-ATL", 40, 800},
       {"more than one team has played", {{1, 16, 300, 1}, {1002, 25, 500}}, "", 0, 0},
@@ -155,8 +157,8 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
       {"another man", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Bo"}}, "", 0, 0},
       {"a son", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Al", 0, 20}}, "", 0, 0},
       {"one team", {{1, 10, 300, 1}, {1001, 20, 500}}, "", 0, 0},
-      {"on no roster", {{1, 10, 300}, {1002, 20, 500}}, "", 0, 0},
       {"done already", {{1, 10, 300, 1, "Al", 1}, {1002, 20, 500}}, "", 0, 0},
+      {"on no roster", {{1, 10, 300}, {1002, 20, 500}}, "", 0, 0},
       {"the other is done", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Al", 1}}, "BOS-ATL", 10, 300},
       {"a free agent is nobody's part", {{1, 10, 300, 1}, {999, 20, 500}}, "", 0, 0},
       {"too many games: the longest", {{1, 70, 300, 1}, {1002, -30, 500, 0, "Al", 1}}, "BOS-ATL", -30, 500},
@@ -179,14 +181,15 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
 }
 
 TEST_F(Resets, OfficeFilesAreKeptWhole) {
-  AddressBook book, again;
+  AddressBook book;
   book.MemberEmail[50] = "a@b.c";
   ASSERT_TRUE(SaveAddressBook(book));
   const std::string bytes = ReadWholeFile(LeagueFile("HCADDRESSBOOK"));
   EXPECT_EQ(bytes.size(), 30000u);
   EXPECT_EQ(bytes.substr(7334 + 3621 + 50 * 70, 5), "a@b.c");
-  LoadAddressBook(again);
-  EXPECT_EQ(RecordBytes(again), RecordBytes(book));
+  book = {};
+  LoadAddressBook(book);
+  EXPECT_EQ(book.MemberEmail[50], "a@b.c");
 
   DraftLog log;
   LoadDraftLog(log);
@@ -197,13 +200,83 @@ TEST_F(Resets, OfficeFilesAreKeptWhole) {
   EXPECT_EQ(draft[3610], 9);
   EXPECT_EQ(draft[63998], 7);
 
-  LoadScores();
-  league.Scores.push_back(NewScheduleGame(1, 2, 12, 3));
+  league.Scores = {{}, NewScheduleGame(1, 2, 12, 3)};
   ASSERT_TRUE(SaveScores());
   league.Scores.clear();
   LoadScores();
   ASSERT_EQ(league.Scores.size(), 2u);
   EXPECT_EQ(league.Scores[1].Team[2], 2);
+}
+
+/// A record with the byte 1 everywhere.
+template <class Record>
+Record Full() {
+  Record record;
+  ReadRecord(std::vector<u8>(Record::kRecordSize, 1).data(), record);
+  return record;
+}
+
+/// Names of the fields of which something is cleared.
+template <class Record>
+std::set<std::string> Cleared(const Record& record) {
+  const auto bytes = RecordBytes(record);
+  std::set<std::string> names;
+  Describe(record, [&](int offset, const char* name, const auto& member, const char*) {
+    const auto first = bytes.begin() + offset;
+    const auto last = first + DiskSize<std::remove_cvref_t<decltype(member)>>();
+    if (std::count(first, last, 1) < last - first) names.insert(name);
+  });
+  return names;
+}
+
+template <class Record>
+void ExpectKept(const Record& record, std::size_t cleared, const std::vector<const char*>& kept) {
+  EXPECT_EQ(Cleared(record).size(), cleared);
+  for (const char* name : kept) EXPECT_FALSE(Cleared(record).contains(name)) << name;
+}
+
+TEST(SeasonReset, ATeamKeepsWhatIsNotOfTheSeason) {
+  TemporaryLeague folder;
+  league.team[720] = Full<TeamRecord>();
+  ZeroTeam(720);
+  const TeamRecord& team = league.team[720];
+  ExpectKept(
+      team, 94,
+      {"TeamActive",     "City",         "Abbrev",       "Year",       "TeamType",         "RealTotals",
+       "Roster",         "LogoFile",     "PlanMark",     "SplitsMark", "ScheduleStrength", "HighLowMark",
+       "LastTenMark",    "SavedWins",    "ArenaAge",     "RealWins",   "SavedPowerRating", "RealLosses",
+       "TeamTotalsMark", "ReservedText", "ReservedFlagA"});
+  EXPECT_EQ(team.TeamRebounds[1], 257) << "real life stays";
+  EXPECT_EQ(team.TeamRebounds[2], 0);
+  EXPECT_EQ(team.LastTen[10], " ");
+}
+
+TEST(SeasonReset, APlayerLosesOneBlock) {
+  TemporaryLeague folder;
+  auto real = Full<PlayerRecord>();
+  ZeroPlayer(real, 1);
+  EXPECT_EQ(Cleared(real), (std::set<std::string>{"Stats", "HomeStats", "RoadStats", "QuarterPoints"}));
+  EXPECT_EQ(real.Stats[1].FGA + real.QuarterPoints[5][1], 0);
+  EXPECT_EQ(real.Stats[2].FGA, 257);
+
+  auto replay = Full<PlayerRecord>();
+  ZeroPlayer(replay, 2);
+  EXPECT_EQ(replay.Stats[1].FGA, 257) << "real life stays";
+  EXPECT_EQ(replay.Stats[2].DunkMark, 1) << "else the next load would clear the real dunks";
+  EXPECT_EQ(replay.Stats[3].FGA, 257) << "so does the last game";
+  EXPECT_EQ(replay.Flagrants[3], 1);
+  EXPECT_EQ(replay.SeriesStats.FGA, 0);
+  ExpectKept(replay, 53,
+             {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
+              "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"});
+
+  auto inGame = Full<PlayerRecord>();
+  program.ReplayLocked = true;
+  ZeroPlayer(inGame, 2);
+  EXPECT_EQ(inGame.SeriesStats.FGA, 257) << "the series goes on while a game holds the data";
+  auto other = Full<PlayerRecord>();
+  ZeroPlayer(other, 3);
+  EXPECT_TRUE(Cleared(other).empty());
 }
 
 }  // namespace

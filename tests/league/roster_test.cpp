@@ -44,13 +44,9 @@ TEST_F(Rosters, MenStandInTheirSlotsAndRemovedOnesLeave) {
   EXPECT_EQ(roster.team.Roster[6], 0) << "a row behind the end of the file";
   EXPECT_EQ(roster.player[0].RecNo + roster.player[7].RecNo, 0);
   EXPECT_EQ(league.team[5].Roster[5], 0) << "the table follows";
-  const auto bytes = [] { return ReadWholeFile(TeamsFile()) + ReadWholeFile(PlayersFile()); };
-  const std::string repaired = bytes();
   ASSERT_TRUE(LookAtRoster(5, roster));
   EXPECT_EQ(roster.team.Roster[6], 0) << "the file was repaired";
   EXPECT_FALSE(RepairRoster(roster).Any()) << "once";
-  ASSERT_TRUE(ReadRoster(5, roster));
-  EXPECT_EQ(bytes(), repaired);
   for (const int team : {0, 4, 721}) EXPECT_FALSE(ReadRoster(team, roster)) << team;
 }
 
@@ -103,22 +99,17 @@ TEST_F(Rosters, CoachMenAndTeamAreWrittenBackOrNothingIsTaken) {
 }
 
 TEST_F(Rosters, APlanTravelsOnlyToItsOwnTeam) {
-  league.coach[5].OverallPace = 3;
-  ASSERT_TRUE(WriteCoach(5));
   ASSERT_TRUE(ExportCoach(5));
-  const auto file = program.LeagueFolder / "SalemWest Coach.coa";
-  CoachRecord coach;
-  ASSERT_TRUE(ImportCoach(5, coach));
-  EXPECT_EQ(coach.OverallPace, 3);
-
   league.team[6].City = "Aston";
-  std::filesystem::rename(file, program.LeagueFolder / "Aston Coach.coa");
-  coach = {};
+  const auto file = program.LeagueFolder / "Aston Coach.coa";
+  std::filesystem::rename(program.LeagueFolder / "SalemWest Coach.coa", file);
+  CoachRecord coach;
+  coach.OverallPace = 3;
   EXPECT_FALSE(ImportCoach(6, coach));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"You may only import a game plan for Aston!"});
-  EXPECT_EQ(coach.OverallPace, 0);
-  std::filesystem::resize_file(program.LeagueFolder / "Aston Coach.coa", 3);
+  std::filesystem::resize_file(file, 3);
   EXPECT_FALSE(ImportCoach(6, coach)) << "cut off before the team number";
+  EXPECT_EQ(coach.OverallPace, 3);
 }
 
 }  // namespace

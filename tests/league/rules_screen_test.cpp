@@ -49,22 +49,12 @@ TEST_F(RulesScreen, EveryControlHasItsOwnByte) {
 }
 
 TEST_F(RulesScreen, AListWritesTheValueOfItsLineAtOnce) {
-  const struct {
-    const char* name;
-    int index, value;
-    const char* text;
-  } cases[] = {
-      {"PeriodList", 1, 4, "4 Per Game"},
-      {"ShotClockList", 0, 0, "No Shot Clock"},
-      {"SeasonUsageGamesList(3)", 100, 100, "Over 200% Of Real Life Games"},
-  };
-  for (const auto& c : cases) {
-    const RuleControl& list = *HCRULESFORM::Find(c.name);
-    ASSERT_TRUE(screen.Choose(c.name, c.index));
-    EXPECT_EQ(list.Field(league.rules), c.value) << c.name;
-    EXPECT_EQ(screen.ListIndex(list), c.index) << c.name;
-    EXPECT_EQ(list.Choices()[static_cast<std::size_t>(c.index)].text, c.text);
-  }
+  const RuleControl& usage = *HCRULESFORM::Find("SeasonUsageGamesList(3)");
+  ASSERT_TRUE(screen.Choose("PeriodList", 1) && screen.Choose(usage.Name, 100));
+  EXPECT_EQ(league.rules.PeriodList, 4) << "2 or 4";
+  EXPECT_EQ(league.rules.SeasonUsageGamesList[3], 100);
+  EXPECT_EQ(screen.ListIndex(usage), 100);
+  EXPECT_EQ(usage.Choices()[100].text, "Over 200% Of Real Life Games");
   EXPECT_FALSE(screen.Choose("PeriodList", 2));
   EXPECT_FALSE(screen.Choose("ThreePointCheck", 0)) << "a check is no list";
   EXPECT_FALSE(screen.Check("PeriodList", true)) << "a list is no check";
@@ -134,7 +124,7 @@ TEST_F(RulesScreen, SaveWritesTheRestAndCancelTakesAllBack) {
 }
 
 TEST_F(RulesScreen, TheLogoIsAnImageOfTheLogoFolder) {
-  const auto logos = folder.Home() / "orvex-data" / "Basketball" / "TeamLogos";
+  const auto logos = folder.Home() / "orvex-data/Basketball/TeamLogos";
   std::filesystem::create_directories(logos);
   for (const char* name : {"b.JPEG", "a.bmp", "notes.txt"}) ASSERT_TRUE(WriteWholeFile(logos / name, "x"));
   screen.Open();
@@ -146,7 +136,6 @@ TEST_F(RulesScreen, TheLogoIsAnImageOfTheLogoFolder) {
   ASSERT_TRUE(LoadRules());
   EXPECT_EQ(screen.DisplayLeagueLogo(), logos / "b.JPEG");
   screen.Command4();
-  ASSERT_TRUE(LoadRules());
   EXPECT_TRUE(screen.DisplayLeagueLogo().empty());
 }
 

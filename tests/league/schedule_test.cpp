@@ -76,10 +76,8 @@ TEST_F(Schedule, TheFirstRowGivesTheYearAndOldTeamNumbersMove) {
 
 TEST_F(Schedule, EveryGameTakesTheTypeOfItsDate) {
   TournamentPools pools = Pools();
-  pools.DateType[5][12] = "P";
-  pools.DateType[31][1] = "C";
-  pools.DateType[6][12] = "x";
-  pools.DateType[0][0] = "S";
+  pools.DateType[5][12] = "P", pools.DateType[31][1] = "C";
+  pools.DateType[6][12] = "x", pools.DateType[0][0] = "S";
   for (const bool set : {true, false}) {
     pools.PoolMark = set ? TournamentPools::kSetMark : 0;
     SetPools(pools);
@@ -119,8 +117,7 @@ TEST_F(Schedule, SortedItBeginsInOctober) {
 
 TEST_F(Schedule, CountsDatesAndGamesByType) {
   TournamentPools pools = Pools();
-  pools.DateType[5][12] = pools.DateType[6][12] = "P";
-  pools.DateType[30][2] = "P";
+  pools.DateType[5][12] = pools.DateType[6][12] = pools.DateType[30][2] = "P";
   SetPools(pools);
   for (const char* status : {"U", "N", "P", "D"}) {
     Add(1, 2, 12, 5).Status = status;
