@@ -72,8 +72,13 @@ TEST(EventLine, SaysWhoDidWhatWithWhom) {
   PlayerAt(1, 2).ShortName = "Villa";
   PlayerAt(2, 1).ShortName = "Daly";
   // clang-format off
-  const struct { PlayKind kind; PlayResult result; PlayNote note; int side, otherSide, otherSlot; const char* told; }
-  cases[] = {
+  const struct {
+    PlayKind kind;
+    PlayResult result;
+    PlayNote note;
+    int side, otherSide, otherSlot;
+    const char* told;
+  } cases[] = {
       {"INSIDE", "G", kAssistedBy, 1, 1, 2, "Kane scores inside, pass from Villa"},
       {"OFFREB", "M", kBlockedBy, 1, 2, 1, "Kane misses on the putback, blocked by Daly"},
       {"INSIDE", "LOOSE-DEF", kNoNote, 2, 0, 0, "Daly fouls under the basket"},

@@ -202,47 +202,50 @@ TEST(CoachSession, LinesFitTheScreenAndArePlain) {
   EXPECT_EQ(played.out.find('\033'), std::string::npos);
 }
 
+tipline::Side& Own() { return game.side[2]; }
+
 TEST(CoachSession, TellsWhatChangedOrWhyNot) {
   // clang-format off
-  const struct { const char* line; bool refused; const char* told; bool (*holds)(); } cases[] = {
-      {"press full", false, "Press: Fullcourt Pressure.", [] { return game.side[2].Pressure == 4; }},
-      {"zone 2-3", false, "Defense: 2-3 Zone.", [] { return game.side[2].DefenseType == 2; }},
-      {"help strong inside", false, "Help: Strong Inside.", [] { return game.side[2].DefenseHelp == 3; }},
+  struct Case { const char* line; bool refused; const char* told; bool (*holds)() = [] { return true; }; };
+  const Case cases[] = {
+      {"press full", false, "Press: Fullcourt Pressure.", [] { return Own().Pressure == 4; }},
+      {"zone 2-3", false, "Defense: 2-3 Zone.", [] { return Own().DefenseType == 2; }},
+      {"help strong inside", false, "Help: Strong Inside.", [] { return Own().DefenseHelp == 3; }},
       {"crash strong", false, "Offensive boards: Strong.",
-       [] { return game.side[2].CrashBoardsOffense == 1 && game.side[2].CrashBoardsDefense == 1; }},
+       [] { return Own().CrashBoardsOffense == 1 && Own().CrashBoardsDefense == 1; }},
       {"match 1 2", false, "Match-ups:",
-       [] { return game.side[2].StoredMatchup[1] == 2 && game.side[2].StoredMatchup[2] == 1; }},
+       [] { return Own().StoredMatchup[1] == 2 && Own().StoredMatchup[2] == 1; }},
       {"match 1 2 3 4 4", true, "Each position must be defended..check the Defensive Matchups Grid",
-       [] { return game.side[2].StoredMatchup[5] == 5; }},
+       [] { return Own().StoredMatchup[5] == 5; }},
       {"cover 5 inside deny", false, "is covered inside: Deny.",
        [] { return ManAt(1, game.side[1].Lineup[5]).CoverageInside == 5; }},
       {"double 5", false, "is doubled anywhere.",
        [] { return ManAt(1, game.side[1].Lineup[5]).DoubleTeamThree == 1; }},
       {"order 3 three", false, "is told to shoot: three.",
-       [] { return ManAt(2, game.side[2].Lineup[3]).GlobalOffense == kThree; }},
+       [] { return ManAt(2, Own().Lineup[3]).GlobalOffense == kThree; }},
       {"match computer", false, "The rules leave the match-ups to you: nothing was searched",
-       [] { return game.side[2].StoredMatchup[1] == 1; }},
+       [] { return Own().StoredMatchup[1] == 1; }},
       {"help i", true, "There is no command \"i\"; help defense goes: Normal, Inside",
-       [] { return game.side[2].DefenseHelp == 0; }},
-      {"safe 4", false, "defends safely.", [] { return ManAt(2, game.side[2].Lineup[4]).SafeStyle == 1; }},
+       [] { return Own().DefenseHelp == 0; }},
+      {"safe 4", false, "defends safely.", [] { return ManAt(2, Own().Lineup[4]).SafeStyle == 1; }},
       {"plan Drive 3", false, "Drive: 3, for this game.", [] { return game.coach[2].Coverage2[0] == 3; }},
-      {"plan Crash 3", true, "More than one slider", [] { return true; }},
+      {"plan Crash 3", true, "More than one slider"},
       {"plan Drive 5", true, "from 0, least, to 4, most", [] { return game.coach[2].Coverage2[0] <= 4; }},
-      {"set lastshot on", false, "On: hold for the last shot.", [] { return game.side[2].LastShot == 1; }},
-      {"set quickfoul poor", false, "Poor Shooter", [] { return game.side[2].QuickFoul == 2; }},
+      {"set lastshot on", false, "On: hold for the last shot.", [] { return Own().LastShot == 1; }},
+      {"set quickfoul poor", false, "Poor Shooter", [] { return Own().QuickFoul == 2; }},
       {"lineup free throw", false, "On the floor:",
        [] { return OnFloor(2, 1).RotationOrder[4] == 1 && OnFloor(2, 5).RotationOrder[4] == 5; }},
-      {"sub 1 #99", true, "There is no man #99 on the team.", [] { return true; }},
-      {"sub 1 #6 2", true, "Who plays position 2?", [] { return game.side[2].Lineup[1] != 6; }},
+      {"sub 1 #99", true, "There is no man #99 on the team."},
+      {"sub 1 #6 2", true, "Who plays position 2?", [] { return Own().Lineup[1] != 6; }},
       {"sub 1 2 2 van dyke", false, "On the floor: ",
-       [] { return game.side[2].Lineup[1] != 7 && game.side[2].Lineup[2] == 7; }},
-      {"sub 1", true, "sub POSITION MAN", [] { return true; }},
+       [] { return Own().Lineup[1] != 7 && Own().Lineup[2] == 7; }},
+      {"sub 1", true, "sub POSITION MAN"},
       {"delegate defense on", false, "The computer calls your defense.",
-       [] { return game.side[2].BothDefenses == 1; }},
+       [] { return Own().BothDefenses == 1; }},
       {"auto 1st 13:00", true, "no mark ahead", [] { return !Watching(); }},
       {"auto 123 6:00", true, "no mark ahead", [] { return !Watching(); }},
-      {"shoot", true, "Not at this stop: shoot. Open: continue", [] { return true; }},
-      {"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyy", true, "\"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyy..\"", [] { return true; }},
+      {"shoot", true, "Not at this stop: shoot. Open: continue"},
+      {"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyy", true, "\"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyy..\""},
   };
   // clang-format on
   for (const auto& c : cases) {
@@ -275,10 +278,11 @@ TEST(CoachWords, FindTheManWhoIsMeant) {
   // clang-format off
   const struct { const char* why; const char* said; int slot; } cases[] = {
       {"a whole last name before a part of one", "smith", 6}, {"a part", "smiths", 7},
-      {"two of a name", "Moreno", 0}, {"with the first name", "al moreno", 9}, {"first name and part", "john", 6},
+      {"two of a name", "Moreno", 0}, {"with the first name", "al moreno", 9}, {"and a part", "john", 6},
       {"signs are no matter", "oneil", 10}, {"a position", "2", 7}, {"a label", "pg", 6},
       {"an empty position", "5", 0}, {"a roster number", "#10", 10}, {"marked, or above 5", "10", 10},
-      {"marked: no position", "#2", 0}, {"nobody", "jones", 0}, {"no such number", "31", 0}, {"nothing", "", 0},
+      {"marked: no position", "#2", 0}, {"nobody", "jones", 0}, {"no such number", "31", 0},
+      {"nothing", "", 0},
       {"only signs", "'-", 0}, {"a bare mark", "#", 0},
   };
   // clang-format on

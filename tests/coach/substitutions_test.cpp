@@ -145,34 +145,31 @@ TEST(RefreshCrunchTime, NeedsACloseEnd) {
 TEST(SubScreens, RefuseWithTheirMessages) {
   TwoTeams();
   platform::ScriptedDialogs dialogs;
-  PlayerAt(2, 7).FirstName = "Al";
-  PlayerAt(2, 7).LastName = "Reed";
+  Side& side = game.side[2];
+  PlayerAt(2, 7).FirstName = "Al", PlayerAt(2, 7).LastName = "Reed";
   ManAt(2, 7).Energy = 79;
-  game.side[2].AutoSubWhenTired = 1;
+  side.AutoSubWhenTired = 1;
   HCQUICKSUB panel(2);
-  EXPECT_FALSE(panel.PutIn(2, 0));
-  EXPECT_FALSE(panel.PutIn(2, 7));
-  game.side[2].AutoSubWhenTired = 0;
-  game.side[2].AutoSubWhenFoulTrouble = 1;
+  EXPECT_FALSE(panel.PutIn(2, 0) || panel.PutIn(2, 7));
+  side.AutoSubWhenTired = 0, side.AutoSubWhenFoulTrouble = 1;
   PlayerAt(2, 7).Stats[3].Pf = 2;
   EXPECT_FALSE(panel.PutIn(2, 7));
-  game.side[2].AutoSubWhenFoulTrouble = 0;
+  side.AutoSubWhenFoulTrouble = 0;
   EXPECT_TRUE(panel.PutIn(1, 7));
   panel.lineup[3] = 0;
   EXPECT_FALSE(panel.Ok());
   panel.lineup[3] = 8;
   game.GameState = "FREETHROW-WAIT";
   EXPECT_FALSE(panel.Ok()) << "the shooter is missing";
-  EXPECT_EQ(game.side[2].Lineup[1], 1);
-  EXPECT_TRUE(panel.PutIn(2, 1));
-  EXPECT_TRUE(panel.Ok());
-  EXPECT_EQ(game.side[2].Lineup[2], 1);
-  ASSERT_EQ(dialogs.told.size(), 5u);
-  EXPECT_EQ(dialogs.told[0], "You must select a player!");
-  EXPECT_EQ(dialogs.told[1].substr(0, 20), "Al Reed is tired!. U");
-  EXPECT_EQ(dialogs.told[2].substr(0, 28), "Al Reed is in foul trouble!.");
-  EXPECT_EQ(dialogs.told[3], "You must fill all 5 lineup spots!");
-  EXPECT_NE(dialogs.told[4].find(" is at the line..he must be in the game!"), std::string::npos);
+  EXPECT_EQ(side.Lineup[1], 1);
+  EXPECT_TRUE(panel.PutIn(2, 1) && panel.Ok());
+  EXPECT_EQ(side.Lineup[2], 1);
+  const char* told[] = {"You must select a player!", "Al Reed is tired!. U", "Al Reed is in foul trouble!.",
+                        "You must fill all 5 lineup spots!", " is at the line..he must be in the game!"};
+  ASSERT_EQ(dialogs.told.size(), std::size(told));
+  for (std::size_t i = 0; i < std::size(told); ++i) {
+    EXPECT_NE(dialogs.told[i].find(told[i]), std::string::npos) << dialogs.told[i];
+  }
 }
 
 TEST(SubScreens, AskBeforeUsingAManOutOfPosition) {

@@ -62,23 +62,23 @@ TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
     const char* sex = "M";
   } cases[] = {
       // clang-format off
-      //                                             Off In% FT 3P Ou In Dr Fb Pa RD RO DO DI DF Du Sp Cl Dk
+      //  Off In% FT 3P Ou In Dr Fb Pa RD RO DO DI DF Du Sp Cl Dk
       {"a guard on a team without totals", {1995, "P", 1, 2, 0, 27, 75}, kGuard, MakeTeam("P", 1995),
-                                                    {68,  0, 6, 6, 8, 0, 8, 9, 8, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.672407, 14690},
-      {"his team slow: better on the break, passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(),
-                                                    {68,  0, 6, 6, 8, 0, 8, 10, 6, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.356618, 13328},
+        {68,  0, 6, 6, 8, 0, 8, 9, 8, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.672407, 14690},
+      {"his team slow: passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(),
+        {68,  0, 6, 6, 8, 0, 8, 10, 6, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.356618, 13328},
       {"a centre before blocks were kept", {1965, "P", 5, 0, 0, 31, 83}, kCentre, MakeTeam("P", 1965),
-                                                    {44, 90, 4, 0, 1, 8, 0, 0, 2, 8, 4, 5, 6, 1, 9, 6, 6, 10}, 5.044648, 10887},
-      {"no usable minutes in 1950: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950),
-                                                    {61, 70, 5, 0, 3, 7, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 5, 3}, 4.030531, 4558},
+        {44, 90, 4, 0, 1, 8, 0, 0, 2, 8, 4, 5, 6, 1, 9, 6, 6, 10}, 5.044648, 10887},
+      {"no usable minutes: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950),
+        {61, 70, 5, 0, 3, 7, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 5, 3}, 4.030531, 4558},
       {"a college forward", {2022, "C", 4, 3, 5, 20, 80}, kStudent, MakeTeam("C", 2022),
-                                                    {72, 60, 5, 6, 5, 8, 2, 3, 2, 6, 2, 6, 7, 4, 9, 6, 6, 8}, 4.854512, 8690},
+        {72, 60, 5, 6, 5, 8, 2, 3, 2, 6, 2, 6, 7, 4, 9, 6, 6, 8}, 4.854512, 8690},
       {"a professional woman", {2022, "P", 2, 0, 0, 28, 72}, kWoman, MakeTeam("P", 2022),
-                                                    {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0}, 3.867532, 2269, "W"},
-      {"one of three threes: the least rating", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010),
-                                                    {53,  0, 5, 1, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4}, 3.511783, 1442},
-      {"140 minutes: shots at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010),
-                                                    {56, 50, 6, 5, 5, 5, 4, 5, 7, 7, 4, 10, 9, 10, 4, 4, 2, 10}, 6.421032, 673},
+        {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0}, 3.867532, 2269, "W"},
+      {"one of three threes: the least", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010),
+        {53,  0, 5, 1, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4}, 3.511783, 1442},
+      {"140 minutes: at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010),
+        {56, 50, 6, 5, 5, 5, 4, 5, 7, 7, 4, 10, 9, 10, 4, 4, 2, 10}, 6.421032, 673},
       // clang-format on
   };
   for (const auto& c : cases) {
@@ -201,27 +201,15 @@ TEST_F(Ratings, EmptyDataNeverDivides) {
 
 TEST(EditRatings, RangesByColumn) {
   using C = RatingColumn;
-  const struct {
-    const char* why;
-    C column;
-    double value;
-    u8 PlayerRecord::*field;
-    int want;  // 77 = left as it was
-  } cases[] = {
-      {"offense is kept times ten", C::kOffense, 7.5, &PlayerRecord::RateOffense, 75},
-      {"offense beyond", C::kOffense, 20.1, &PlayerRecord::RateOffense, 77},
-      {"inside share to the nearest ten", C::kRealIn, 45, &PlayerRecord::RealInsidePct, 50},
-      {"inside share below the half", C::kRealIn, 44, &PlayerRecord::RealInsidePct, 40},
-      {"others to 20", C::kClutch, 20, &PlayerRecord::RateClutch, 20},
-      {"others beyond", C::kDefMan, 21, &PlayerRecord::RateDefOutside, 77},
-      {"below nothing", C::kDunk, -1, &PlayerRecord::RateDunk, 77},
-  };
-  for (const auto& c : cases) {
-    PlayerRecord p;
-    p.*c.field = 77;
-    EXPECT_EQ(SetRating(p, c.column, c.value), c.want != 77) << c.why;
-    EXPECT_EQ(p.*c.field, c.want) << c.why;
-  }
+  PlayerRecord p;
+  EXPECT_TRUE(SetRating(p, C::kOffense, 7.5) && SetRating(p, C::kRealIn, 45) && SetRating(p, C::kDefMan, 20));
+  EXPECT_EQ(p.RealInsidePct, 50) << "to the nearest ten";
+  EXPECT_TRUE(SetRating(p, C::kRealIn, 44));
+  EXPECT_EQ(p.RealInsidePct, 40);
+  EXPECT_FALSE(SetRating(p, C::kOffense, 20.1) || SetRating(p, C::kDefMan, 21) ||
+               SetRating(p, C::kDefMan, -1));
+  EXPECT_EQ(p.RateOffense, 75) << "kept times ten";
+  EXPECT_EQ(p.RateDefOutside, 20);
 }
 
 TEST(EditRatings, AnUntouchedGridChangesNothing) {

@@ -40,7 +40,6 @@ TEST_F(ScheduleEditor, AGameMustMakeSense) {
     ScheduleChoice choice;
     std::string message;  ///< empty: the game is added
   } cases[] = {
-      {"no visitor", {0, 1, 11, 1}, twoTeams},
       {"no such team", {1, 5, 11, 1}, twoTeams},
       {"far off", {1, 31000, 11, 1}, twoTeams},
       {"itself", {1, 1, 0, 0}, "You must select two different teams for a game!"},
@@ -54,10 +53,8 @@ TEST_F(ScheduleEditor, AGameMustMakeSense) {
       {"losers of two", {1, 13, 12, 5}, "Quarter Final(Loser)" + conference},
       {"semi final of one", {1, 3, 12, 6}, ""},
       {"final", {1, 3, 12, 7}, "Championship games must include teams from the opposite conferences."},
-      {"final of two", {1, 13, 12, 7}, ""},
       {"not decided yet", {999, 3, 12, 4}, ""},
       {"twice in the cup", {3, 4, 12, 4}, "Team 3" + busy},
-      {"two games not decided yet", {999, 4, 12, 4}, ""},
       {"home side twice", {16, 13, 12, 3}, "Team 13" + busy},
       {"met before", {2, 1, 12, 20}, "Selected teams are already scheduled for a Pool Play game!"},
   };
@@ -203,11 +200,9 @@ TEST_F(ScheduleEditor, CsvNamesWhatItRefuses) {
       {"a leading mark", "\xEF\xBB\xBFOctober,2,Team 1,Team 2\n\n", "Imported 1 games!"},
       {"all on one line", "10,2,Team 1,Team 2,11,3,Team 2,Team 1", "Imported 2 games!"},
       {"April has 31 days here", "April,31,Team 1,Team 2", "Imported 1 games!"},
-      {"nothing", "\n \n", "This file is not in the proper format!"},
       {"a field too few", "10,2,Team 1", "This file is not in the proper format!"},
       {"no month 13", "13,2,Team 1,Team 2", "Invalid month: 13 Game:1"},
       {"two letters", "May,2,Team 1,Team 2\nSe,2,Team 1,Team 2", "Invalid month: Se Game:2"},
-      {"day 0", "May,0,Team 1,Team 2", "Invalid Day For May : 0"},
       {"day 32", "5,32,Team 1,Team 2", "Invalid Day For January : 32"},
       {"February 30", "feb,30,Team 1,Team 2", "Invalid Day For February : 30"},
       {"no day", "feb,x1,Team 1,Team 2", "Invalid Day For February : x1"},
