@@ -199,13 +199,6 @@ TEST_F(Resets, OfficeFilesAreKeptWhole) {
   EXPECT_EQ(draft.size(), 64000u);
   EXPECT_EQ(draft[3610], 9);
   EXPECT_EQ(draft[63998], 7);
-
-  league.Scores = {{}, NewScheduleGame(1, 2, 12, 3)};
-  ASSERT_TRUE(SaveScores());
-  league.Scores.clear();
-  LoadScores();
-  ASSERT_EQ(league.Scores.size(), 2u);
-  EXPECT_EQ(league.Scores[1].Team[2], 2);
 }
 
 /// A record with the byte 1 everywhere.
