@@ -60,6 +60,7 @@ TEST(LoadLineups, TakesOffWhoHasToGo) {
       {"out of position",
        [] { P().PrimaryPosition = 5, P().DepthRank = {}, P().PositionAllowed = {}; }, false},
       {"fouled out", [] { P().Stats[3].Pf = 6; }, false},
+      {"named twice", [] { game.side[1].Lineup[1] = 2, P().PositionAllowed[1] = 1; }, false},
       {"in a trip of three", [] { game.PlayKind = "SHOOT3", M().Energy = 10; }, true},
       {"the last of a trip, on defense",
        [] { game.PlayKind = "SHOOT1", game.GameState = "FREETHROW-WAIT", M().Energy = 10; }, false},
