@@ -26,7 +26,11 @@ void SetUpCommands() {
 }
 void Late() { game.Period = 4, game.GameClock = 1000; }
 void Acts(int side) { game.ActingSide = side; }
-void NameTheSubstitute() { game.player[2][7].ShortName = "Sub"; }
+void Limit(u8 men) { game.GameStarted = false, Rules().RosterLimitList = men; }
+void FourLeft() {
+  D().Lineup[5] = 0;
+  for (int slot = 5; slot <= 12; ++slot) LoadedAt(1, slot).PlayerOut = 1;
+}
 
 /// What the dialogs said first, "" when nothing.
 std::string Said(const platform::ScriptedDialogs& d) {
@@ -45,58 +49,44 @@ double Share(void (*change)(), void (*command)(), bool (*holds)()) {
   return count / 400.0;
 }
 
-TEST(Continue, RefusalsKeepTheState) {
+TEST(Continue, RefusesAndKeepsTheStateOrGoesToTheNextStop) {
   // clang-format off
-  struct Case { const char* why; GameState state; void (*change)(); Refusal refusal; std::string message; };
-  const Case cases[] = {
-      {"a play has to be chosen", "OFFENSE", [] {}, Refusal::kNotNow, ""},
-      {"one man too many", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 11; },
-       Refusal::kRosterLimit, "Denver is 1 player over the roster limit! Allow?"},
-      {"two of them", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 10; },
-       Refusal::kRosterLimit, "Denver is 2 players over the roster limit! Allow?"},
-      {"a position is empty", "DEADBALL-OFFENSE",
-       [] { O().Lineup[3] = 0; }, Refusal::kLineup, "Invalid Lineup!"},
-      {"one man twice", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 2; }, Refusal::kLineup, "Invalid Lineup!"},
-      {"the shooter sits", "FREETHROW-WAIT", [] { NameTheSubstitute(), game.BallPlayer = 7; },
-       Refusal::kShooterGone, "Sub must be in the game!"},
-      {"the jumper of a held ball sits", "JUMPBALL-2", [] { NameTheSubstitute(), O().JumperOf = 7; },
-       Refusal::kJumperGone, "Sub must be in the game for the jump ball!"},
+  const struct {
+    const char* why; GameState state; void (*change)(); bool agrees;
+    Refusal refusal; std::string said; GameState next;
+  } cases[] = {
+      {"a play has to be chosen", "OFFENSE", [] {}, true, Refusal::kNotNow, "", "OFFENSE"},
+      {"one man too many", "JUMPBALL-1", [] { Limit(11); }, false, Refusal::kRosterLimit,
+       "Denver is 1 player over the roster limit! Allow?", "JUMPBALL-1"},
+      {"two of them", "JUMPBALL-1", [] { Limit(10); }, false, Refusal::kRosterLimit,
+       "Denver is 2 players over the roster limit! Allow?", "JUMPBALL-1"},
+      {"allowed", "JUMPBALL-1", [] { Limit(11), Acts(1); }, true, Refusal::kNone,
+       "Boston is 1 player over the roster limit! Allow?", "JUMPBALL-2"},
+      {"a position is empty", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 0; }, true, Refusal::kLineup,
+       "Invalid Lineup!", "DEADBALL-OFFENSE"},
+      {"one man twice", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 2; }, true, Refusal::kLineup,
+       "Invalid Lineup!", "DEADBALL-OFFENSE"},
+      {"four men are all that is left", "DEADBALL-DEFENSE", [] { Acts(1), FourLeft(); }, true, Refusal::kNone,
+       "", "DEADBALL-OFFENSE"},
+      {"the shooter sits", "FREETHROW-WAIT", [] { game.BallPlayer = 7; }, true, Refusal::kShooterGone,
+       "Sub must be in the game!", "FREETHROW-WAIT"},
+      {"the jumper of a held ball sits", "JUMPBALL-2", [] { O().JumperOf = 7; }, true, Refusal::kJumperGone,
+       "Sub must be in the game for the jump ball!", "JUMPBALL-2"},
+      {"an old jumper at a period's start", "JUMPBALL-1",
+       [] { game.GameClock = 7200, Acts(1), D().JumperOf = 7; }, true, Refusal::kNone, "", "JUMPBALL-2"},
+      {"the quarter begins", "QUARTER-OFFENSE", [] {}, true, Refusal::kNone, "", "DEFENSE"},
   };
   // clang-format on
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     platform::ScriptedDialogs dialogs;
-    dialogs.answers = {false};
+    dialogs.answers = {c.agrees};
     SetUpCommands();
+    game.player[2][7].ShortName = "Sub";
     game.GameState = c.state;
     c.change();
     EXPECT_EQ(ContinueChosen(), c.refusal) << c.why;
-    EXPECT_TRUE(game.GameState == c.state) << c.why;
-    EXPECT_EQ(Said(dialogs), c.message) << c.why;
-  }
-}
-
-TEST(Continue, GoesToTheNextStop) {
-  // clang-format off
-  struct Case { const char* why; GameState state, next; void (*change)() = [] {}; };
-  const Case cases[] = {
-      {"over the limit, but allowed", "JUMPBALL-1", "JUMPBALL-2",
-       [] { game.GameStarted = false, Acts(1), Rules().RosterLimitList = 11; }},
-      {"four men are all that is left", "DEADBALL-DEFENSE", "DEADBALL-OFFENSE",
-       [] { Acts(1), D().Lineup[5] = 0; for (int k = 5; k <= 12; ++k) LoadedAt(1, k).PlayerOut = 1; }},
-      {"an old jumper at a period's start", "JUMPBALL-1", "JUMPBALL-2",
-       [] { game.GameClock = 7200, Acts(1), D().JumperOf = 7; }},
-      {"the quarter begins", "QUARTER-OFFENSE", "DEFENSE"},
-      {"the defense had its look", "DEFENSE", "OFFENSE", [] { Acts(1); }},
-  };
-  // clang-format on
-  for (const Case& c : cases) {
-    platform::ScriptedDialogs dialogs;
-    dialogs.answers = {true};
-    SetUpCommands();
-    game.GameState = c.state;
-    c.change();
-    EXPECT_EQ(ContinueChosen(), Refusal::kNone) << c.why;
     EXPECT_TRUE(game.GameState == c.next) << c.why << ": " << game.GameState.Text();
+    EXPECT_EQ(Said(dialogs), c.said) << c.why;
   }
 }
 

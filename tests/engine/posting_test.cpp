@@ -70,15 +70,13 @@ TEST(Shots, StreaksTurnOnTheFirstShotOfTheOtherKind) {
 
 TEST(Penalty, LadderOfFreeThrows) {
   // Steps at 5, 7 and 10 fouls: none, one and one, two shots.
-  const struct {
-    const char* why;
-    int fouls, period;
-    bool prePenalty;
-    const char* trip;
-  } cases[] = {
+  // clang-format off
+  const struct { const char* why; int fouls, period; bool prePenalty; const char* trip; } cases[] = {
       {"below the first step", 4, 1, false, ""}, {"below it, by the old rule", 4, 1, true, "SHOOT1"},
       {"a step without shots", 5, 1, false, ""}, {"second step", 7, 1, false, "SHOOT1-1"},
-      {"last step", 10, 4, false, "SHOOT2"},     {"two more count in overtime", 5, 5, false, "SHOOT1-1"}};
+      {"last step", 10, 4, false, "SHOOT2"},     {"two more count in overtime", 5, 5, false, "SHOOT1-1"},
+  };
+  // clang-format on
   for (const auto& c : cases) {
     SetUpNeutralGame();
     Rules().FoulLimit = {{5, 7, 10}};

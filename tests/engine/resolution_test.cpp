@@ -39,8 +39,6 @@ TEST(Resolution, SituationsDecideTheResult) {
        {"F0", "F1", "F2", "F1-1", "F3-2", "MF", "M3F"}, 0, 0},
       {"no line", "THREE", "OFFENSE", [] { Rules().ThreePointCheck = 0; }, {"G3", "M3", "G3F", "M3F"}, 0, 0},
       {"burned", "BURN", "OFFENSE", [] {}, {"BURN"}, 501, 600},
-      {"a burned clock is no shot", "BURN", "OFFENSE", [] {},
-       {"G", "G3", "M", "M3", "MF", "GF", "REB", "OFFREB", "DEFREB"}, 0, 0},
       {"shot clock", "OUTSIDE", "OFFENSE", [] { game.ShotClock = 3; }, {"SHOTCLOCK"}, 501, 600},
       {"no shot clock", "OUTSIDE", "OFFENSE", [] { Rules().ShotClockList = 0, game.ShotClock = 3; },
        {"SHOTCLOCK"}, 0, 0},

@@ -142,16 +142,15 @@ TEST(FastBreak, NumbersAndPlaces) {
 }
 
 TEST(KickOut, NeedsRoom) {
-  const struct {
-    const char* why;
-    int clock, time, lead;
-    PlayKind kind;
-    bool done;
-  } cases[] = {{"time enough", 3000, 50, 0, "DRIVE", true},
-               {"five seconds", 49, 0, 0, "DRIVE", false},
-               {"five seconds, three ahead", 49, 0, 3, "DRIVE", true},
-               {"no time behind the first move", 79, 50, 0, "DRIVE", false},
-               {"a three by a side three ahead", 500, 50, 3, "THREE", false}};
+  // clang-format off
+  const struct { const char* why; int clock, time, lead; PlayKind kind; bool done; } cases[] = {
+      {"time enough", 3000, 50, 0, "DRIVE", true},
+      {"five seconds", 49, 0, 0, "DRIVE", false},
+      {"five seconds, three ahead", 49, 0, 3, "DRIVE", true},
+      {"no time behind the first move", 79, 50, 0, "DRIVE", false},
+      {"a three by a side three ahead", 500, 50, 3, "THREE", false},
+  };
+  // clang-format on
   for (const auto& c : cases) {
     SetUpSet();
     game.Period = 4;

@@ -52,8 +52,6 @@ TEST(TwoChance, TermsOfEveryKind) {
       {"a draft team is left alone", [] {
         OTeam().RosterKind = "D", Replay().FGA = 250, Replay().FGM = 100; }, 500},
       {"defender one foul from the bench", [] { Rules().DqList = 6, Defender().Stats[3].Pf = 5; }, 510},
-      {"draft team's passing, tie to the even", [] {
-        OTeam().RosterKind = "D", O().LineupPassing = 19; }, 506},
       {"nobody to bring it up", [] { O().OutOfPosition = 1; }, 250},
       {"guarded by one away from home", [] { game.BallDefender = 2; }, 504},
       {"by one who plays there too", [] { game.BallDefender = 2, game.player[1][2].SpotPosition = 1; }, 500},
@@ -64,7 +62,6 @@ TEST(TwoChance, TermsOfEveryKind) {
       {"alternate reality: 14, -7, 1 for each of the five", [] {
         Rules().AlternateRealityCheck = 1, Shooter().AltForm1 = 12, Shooter().AltForm2 = 9;
         for (int p = 1; p <= 5; ++p) game.player[2][p].AltForm3 = 11; }, 512},
-      {"three", [] { D().EligibleCount = 3; }, 560},
       {"half of 64 is the average of his kinds", [] { LoadedAt(2, 1).ShareInside = 0.5; }, 468},
       {"never below 0", [] { game.play.TeamDefense = 200; }, 0},
       {"no lid above", [] { game.possession.PassFirst = 1, LoadedAt(2, 1).HotHand = 0.45; }, 1150},
@@ -78,8 +75,6 @@ TEST(TwoChance, TermsOfEveryKind) {
       {"not clutch yet", [] {
         random.Script({10, 10, 6, 6, 1, 1, 1});
         game.Period = 4, game.GameClock = 601, Shooter().RateClutch = 7; }, 500},
-      {"no pressure in an analysis", [] {
-        game.AnalysisMode = true, game.Period = 4, game.GameClock = 100, Shooter().RateClutch = 7; }, 500},
   });
 }
 
@@ -117,11 +112,12 @@ TEST(TwoChance, TheOtherKinds) {
 }
 // clang-format on
 
-TEST(TwoChance, AnAnalysisDrawsNothing) {
+TEST(TwoChance, AnAnalysisDrawsNothingAndFeelsNoPressure) {
   SetUpNeutralGame();
-  game.AnalysisMode = true, game.Period = 4, game.GameClock = 100;
+  game.AnalysisMode = true, game.Period = 4, game.GameClock = 100, Shooter().RateClutch = 7;
   random.Script({1, 1});
   TwoChance();
+  EXPECT_EQ(game.play.TwoPointChance, 500);
   EXPECT_EQ(random.ScriptLeft(), 2u);
 }
 

@@ -74,8 +74,8 @@ TEST(TurnoverWeight, SeasonTeamsAndKinds) {
       {"nobody to bring it up", [] { O().OutOfPosition = 1; }, 522},
       {"a hundredth of the shots at least", [] { D().OutOfPosition = 1, game.play.ShotChance = 1104; }, 11},
       {"three, strong inside help: -160", [] { Set("THREE"), D().DefenseHelp = 3; }, 0},
-      {"break, four more", [] { Set("FASTBREAK"), game.fastBreak.BreakAttackers = 4; }, 17},
       {"break, fewer", [] { Set("FASTBREAK"), game.fastBreak.BreakDefenders = 1; }, 174},
+      {"break, four more", [] { Set("FASTBREAK"), game.fastBreak.BreakAttackers = 4; }, 17},
   });
 }
 
