@@ -92,6 +92,7 @@ TEST(FreeThrows, TheTripStepByStep) {
     EXPECT_EQ(game.PlayKind.Text(), c.next) << c.kind.Text() << c.result.Text();
     EXPECT_EQ(game.GameState.Text(), c.state) << c.kind.Text() << c.result.Text();
     EXPECT_EQ(game.OffenseSide, c.offense) << c.kind.Text() << c.result.Text();
+    EXPECT_EQ(game.GameClock, 3000) << "a free throw takes no time";
   }
 }
 
