@@ -84,4 +84,8 @@ inline int HeightOf(const PlayerRecord& player) {
   return player.HeightFeet * 12 + player.HeightInches;
 }  ///< inches
 
+inline bool IsCollegeOrInternational(const TeamRecord& team) {
+  return team.TeamType == 'C' || team.TeamType == 'O';
+}
+
 }  // namespace tipline
