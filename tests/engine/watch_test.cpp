@@ -91,12 +91,12 @@ TEST(WatchUntil, AMarkThatNeverComesEndsWithTheGame) {
 }
 
 /// Stops at which the offense was asked for a play in one game.
-int Asked(void (*calls)()) {
+int Asked(void (*calls)(SetupRecord&)) {
   OpenSmallLeague("pro");
   random.Seed(3);
   SetUpMatch(MemoryTeams()[0], MemoryTeams()[1]);
   SeatHumans();
-  calls();
+  calls(setup);
   NewGame();
   int asked = 0;
   while (!game.GameOver) {

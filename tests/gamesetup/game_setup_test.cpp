@@ -87,7 +87,7 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
        "You must select a month, day, and year for this game!"},
       {"the date is asked for first", "L", 0, 0, false,
        "You must select a month, day, and year for this game!"},
-      {"no visitor", "E", 0, 2, true, "You must select two teams!"},
+      {"the visitor isn't there", "E", 0, 2, true, "You must select two teams!"},
       {"no home team", "L", 1, 0, true, "You must select two teams!"},
       {"league game against itself", "L", 1, 1, true,
        "You must select two different teams for a league game!"},
@@ -104,7 +104,8 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     program.GameKind.Set(c.kind);
     HCGameTeams2008 screen;
     if (c.dated) screen.PickDate(9, 30, 2001);
-    if (c.visitor) screen.PickTeam(1, teams[static_cast<std::size_t>(c.visitor - 1)]);
+    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(1, c.visitor ? teams[static_cast<std::size_t>(c.visitor - 1)] : kTeams);
     if (c.home) screen.PickTeam(2, teams[static_cast<std::size_t>(c.home - 1)]);
     EXPECT_EQ(screen.PlayCommand(screens), c.message.empty());
     EXPECT_EQ(dialogs.told, c.message.empty() ? std::vector<std::string>{} : std::vector{c.message});
@@ -139,11 +140,13 @@ TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
     screens.choose = [&c](HCGAMEsetup& s) {
       s.ComputerOption = {{c.visitor, c.home}};
       s.Controls.ComputerCheck = static_cast<u8>(c.shown);
+      s.Controls.BothDefensesCheck = 1;
     };
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(screens.opened, c.opened) << c.why;
     EXPECT_EQ(game.GameOver, c.over) << c.why;
     EXPECT_EQ(program.Autoplaying, c.over && c.shown == 0) << c.why;
+    EXPECT_EQ(game.side[2].BothDefenses, !c.home) << "a human's preference: " << c.why;
   }
 }
 
@@ -212,30 +215,51 @@ TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   EXPECT_EQ(screen.ScenarioPoints[1], 0);
 }
 
+int Started(int side) {
+  int men = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) men += PlayerAt(side, slot).Stats[3].GS;
+  return men;
+}
+
 TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   program.ScenarioGame = true;
   for (int situation = 0; situation <= 2; ++situation) {
     HCGameTeams2008 screen;
     screen.PickTeam(1, teams[0]);
     screen.PickTeam(2, teams[1]);
-    screen.ScenarioPeriod = 3;
+    screen.ScenarioPeriod = 2;
     screen.ScenarioSituation = situation;
-    screen.SetScenarioMinutes(1);
+    screen.SetScenarioMinutes(7);
     screen.SetScenarioSeconds(30);
     screen.SetScenarioPoints(1, 100);
     screen.SetScenarioPoints(2, 98);
-    screens.choose = [](HCGAMEsetup&) {};
+    setup.PlayCallFrequency = {};
+    screens.choose = [](HCGAMEsetup& s) { s.Command3(); };  // now he wants to be asked
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(screens.stop == "JUMPBALL-1", situation == 0);
     EXPECT_TRUE(situation == 0 || game.OffenseSide == situation);
-    EXPECT_EQ(game.Period, 4);
-    EXPECT_EQ(game.GameClock, 900);
-    EXPECT_EQ(game.side[1].Score - game.side[2].Score, 2);
+    EXPECT_EQ(game.Period, 3);
+    EXPECT_EQ(game.GameClock, 4500);
+    EXPECT_TRUE(game.side[1].Score == 100 && game.side[2].Score == 98 && game.LeadSide == 1);
+    EXPECT_TRUE(game.side[1].Starters == game.side[1].Lineup && Started(1) == 5 && Started(2) == 5);
+    for (int jumps = 0; situation == 0 && jumps < 8; ++jumps) JumpBall();
+    EXPECT_EQ(game.team[1].Possessions[3] + game.team[2].Possessions[3], 0) << "nobody has had the ball yet";
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_TRUE(game.GameOver) << "computers play the rest";
     EXPECT_GE(game.side[1].Score, 100);
   }
+}
+
+TEST_F(GameSetup, ControlsShowWhatTheyCan) {
+  setup.OpeningFontList = 16;
+  setup.FullCourtIconList = {{5, 4}};
+  setup.SoundHornScroll = 101;
+  setup.SoundAmbientScroll = -1;
+  const SetupRecord shown = HCGAMEsetup().Controls;
+  EXPECT_TRUE(shown.OpeningFontList == 0 && shown.FullCourtIconList[0] == 0);
+  EXPECT_TRUE(shown.FullCourtIconList[1] == 4 && shown.SoundHornScroll == 100 &&
+              shown.SoundAmbientScroll == 0);
 }
 
 TEST_F(GameSetup, SpreadAndCourt) {
@@ -266,16 +290,18 @@ TEST_F(GameSetup, SpreadAndCourt) {
 }
 
 TEST_F(GameSetup, AGameOfTheScheduleTakesItsRow) {
-  ASSERT_GT(league.GameCount(), 3);
+  ASSERT_GT(league.GameCount(), 4);
   league.ScheduleGame[1].Year = 2004;
   league.ScheduleGame[2].Month = 1;
   league.ScheduleGame[2].NeutralSite = 1;
   league.ScheduleGame[3].Team[2] = kFreeAgent;
   EXPECT_FALSE(PlayUpcomingGame(0, screens) || PlayUpcomingGame(league.GameCount() + 1, screens));
-  EXPECT_FALSE(PlayUpcomingGame(3, screens));
-  EXPECT_EQ(dialogs.told, std::vector<std::string>{"Teams not selected for this game! Use Organize\\Schedule "
-                                                   "to select teams."});
+  league.ScheduleGame[4].Team[1] = kTeams;  // he was removed
+  EXPECT_FALSE(PlayUpcomingGame(3, screens) || PlayUpcomingGame(4, screens));
+  const std::string message = "Teams not selected for this game! Use Organize\\Schedule to select teams.";
+  EXPECT_EQ(dialogs.told, (std::vector{message, message}));
   EXPECT_EQ(screens.opened, "");
+  EXPECT_TRUE(program.GameKind == "E") << "nothing is changed";
   screens.starts = false;
   EXPECT_FALSE(PlayUpcomingGame(2, screens));
   EXPECT_EQ(screens.opened, "preview ");
