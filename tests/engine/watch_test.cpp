@@ -75,9 +75,9 @@ TEST(WatchUntil, AMarkThatNeverComesEndsWithTheGame) {
 }
 
 /// Stops at which the offense was asked for a play in one game.
-int Asked(void (*calls)()) {
+int Asked(void (*calls)(SetupRecord&)) {
   Watch("pro", 3, "NONE");
-  calls();
+  calls(setup);
   int asked = 0;
   while (!game.GameOver) {
     if (game.GameState == "OFFENSE" && !BallIsDue()) ++asked;

@@ -85,7 +85,7 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
   } cases[] = {
       {"league game without a date", "L", 1, 2, false, noDate},
       {"the date is asked for first", "L", 0, 0, false, noDate},
-      {"no visitor", "E", 0, 2, true, noTeams},
+      {"the visitor isn't there", "E", 0, 2, true, noTeams},
       {"no home team", "L", 1, 0, true, noTeams},
       {"league game against itself", "L", 1, 1, true,
        "You must select two different teams for a league game!"},
@@ -103,7 +103,8 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     program.Autoplaying = false;
     HCGameTeams2008 screen;
     if (c.dated) screen.PickDate(9, 30, 2001);
-    if (c.visitor) screen.PickTeam(1, c.visitor);
+    screen.PickTeam(1, 1);
+    screen.PickTeam(1, c.visitor ? c.visitor : kTeams);
     if (c.home) screen.PickTeam(2, c.home);
     const bool plays = c.message.empty();
     EXPECT_EQ(screen.PlayCommand(screens), plays);
@@ -122,10 +123,11 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
 TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
   HCGameTeams2008 screen;
   PickTeams(screen);
-  screens.choose = [](HCGAMEsetup& s) { s.ComputerOption[1] = true; };
+  screens.choose = [](HCGAMEsetup& s) { s.ComputerOption[1] = true, s.Controls.BothDefensesCheck = 1; };
   ASSERT_TRUE(screen.PlayCommand(screens));
   EXPECT_EQ(screens.opened, "setup game ") << "one human";
   EXPECT_FALSE(game.GameOver || program.Autoplaying);
+  EXPECT_TRUE(game.side[2].BothDefenses && !game.side[1].BothDefenses) << "a human's preference";
   screens.choose = [](HCGAMEsetup& s) { BothComputers(s), s.Controls.ComputerCheck = 1; };
   ASSERT_TRUE(screen.PlayCommand(screens));
   EXPECT_EQ(screens.opened, "setup game setup viewer ") << "computers shown";
@@ -183,26 +185,47 @@ TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   EXPECT_EQ(screen.ScenarioPoints[1], 0);
 }
 
+int Started(int side) {
+  int men = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) men += PlayerAt(side, slot).Stats[3].GS;
+  return men;
+}
+
 TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   program.ScenarioGame = true;
   for (int situation = 0; situation <= 2; ++situation) {
     HCGameTeams2008 screen;
     PickTeams(screen);
-    screen.ScenarioPeriod = 3, screen.ScenarioSituation = situation;
-    screen.ScenarioMinutes = 1, screen.ScenarioSeconds = 30;
+    screen.ScenarioPeriod = 2, screen.ScenarioSituation = situation;
+    screen.ScenarioMinutes = 7, screen.ScenarioSeconds = 30;
     screen.ScenarioPoints = {{100, 98}};
-    screens.choose = [](HCGAMEsetup&) {};
+    setup.PlayCallFrequency = {};
+    screens.choose = [](HCGAMEsetup& s) { s.Command3(); };  // now he wants to be asked
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(screens.stop == "JUMPBALL-1", situation == 0);
     EXPECT_TRUE(situation == 0 || game.OffenseSide == situation);
-    EXPECT_EQ(game.Period, 4);
-    EXPECT_EQ(game.GameClock, 900);
-    EXPECT_EQ(game.side[1].Score - game.side[2].Score, 2);
+    EXPECT_EQ(game.Period, 3);
+    EXPECT_EQ(game.GameClock, 4500);
+    EXPECT_TRUE(game.side[1].Score == 100 && game.side[2].Score == 98 && game.LeadSide == 1);
+    EXPECT_TRUE(game.side[1].Starters == game.side[1].Lineup && Started(1) == 5 && Started(2) == 5);
+    for (int jumps = 0; situation == 0 && jumps < 8; ++jumps) JumpBall();
+    EXPECT_EQ(game.team[1].Possessions[3] + game.team[2].Possessions[3], 0) << "nobody has had the ball yet";
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_TRUE(game.GameOver) << "computers play the rest";
     EXPECT_GE(game.side[1].Score, 100);
   }
+}
+
+TEST_F(GameSetup, ControlsShowWhatTheyCan) {
+  setup.OpeningFontList = 16;
+  setup.FullCourtIconList = {{5, 4}};
+  setup.SoundHornScroll = 101;
+  setup.SoundAmbientScroll = -1;
+  const SetupRecord shown = HCGAMEsetup().Controls;
+  EXPECT_TRUE(shown.OpeningFontList == 0 && shown.FullCourtIconList[0] == 0);
+  EXPECT_TRUE(shown.FullCourtIconList[1] == 4 && shown.SoundHornScroll == 100 &&
+              shown.SoundAmbientScroll == 0);
 }
 
 TEST_F(GameSetup, SpreadAndCourt) {
@@ -231,14 +254,17 @@ TEST_F(GameSetup, SpreadAndCourt) {
 }
 
 TEST_F(GameSetup, AGameOfTheScheduleTakesItsRow) {
-  ASSERT_GT(league.GameCount(), 3);
+  ASSERT_GT(league.GameCount(), 4);
   league.ScheduleGame[1].Year = 2004;
   league.ScheduleGame[2].Month = 1, league.ScheduleGame[2].NeutralSite = 1;
   league.ScheduleGame[3].Team[2] = kFreeAgent;
   EXPECT_FALSE(PlayUpcomingGame(0, screens) || PlayUpcomingGame(league.GameCount() + 1, screens));
-  EXPECT_FALSE(PlayUpcomingGame(3, screens));
-  EXPECT_EQ(dialogs.told, std::vector<std::string>{"Teams not selected for this game! Use Organize\\Schedule "
-                                                   "to select teams."});
+  league.ScheduleGame[4].Team[1] = kTeams;  // he was removed
+  EXPECT_FALSE(PlayUpcomingGame(3, screens) || PlayUpcomingGame(4, screens));
+  const std::string message = "Teams not selected for this game! Use Organize\\Schedule to select teams.";
+  EXPECT_EQ(dialogs.told, (std::vector{message, message}));
+  EXPECT_EQ(screens.opened, "");
+  EXPECT_TRUE(program.GameKind == "E") << "nothing is changed";
   screens.starts = false;
   EXPECT_FALSE(PlayUpcomingGame(2, screens));
   EXPECT_EQ(screens.opened, "preview ");
