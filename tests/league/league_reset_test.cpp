@@ -10,6 +10,7 @@
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
+#include "league/startup.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -126,6 +127,17 @@ TEST_F(Resets, TheFolderIsRidOfRowsNobodyNeeds) {
   }
   ReadTeam(2);
   EXPECT_EQ(league.team[2].Roster[7], 0);
+}
+
+TEST_F(Resets, AnOpeningCleansTheFolderOnce) {
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 0);
+  EXPECT_EQ(league.player[4].TeamNo, 0) << "in memory as well";
+  EXPECT_EQ(Man(3).TeamNo, kFreeAgent);
+  PutMan(4, 3, "Stray");
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 3) << "not again";
+  EXPECT_TRUE(dialogs.asked.empty());
 }
 
 struct Part {
