@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iostream>
 #include <sstream>
 
 #include "cli/commands.h"
@@ -9,12 +10,23 @@
 #include "league/files.h"
 #include "league/roster.h"
 #include "platform/dialogs.h"
-#include "support/caught_output.h"
 
 namespace tipline::cli {
 namespace {
 
 using Told = std::vector<std::string>;
+
+/// What is printed goes into `text` while this lives.
+class Catch {
+ public:
+  Catch() : out_(std::cout.rdbuf(text.rdbuf())), err_(std::cerr.rdbuf(faults.rdbuf())) {}
+  ~Catch() { std::cout.rdbuf(out_), std::cerr.rdbuf(err_); }
+
+  std::ostringstream text, faults;
+
+ private:
+  std::streambuf *out_, *err_;
+};
 
 class TeamCommands : public testing::Test {
  protected:
