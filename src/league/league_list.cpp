@@ -70,10 +70,12 @@ std::vector<KnownLeague> KnownLeagues() {
 
 std::optional<KnownLeague> FindKnownLeague(const std::string& nameOrFolder) {
   const std::string folder = Normalised(nameOrFolder);
-  for (auto& one : KnownLeagues()) {
-    if (SameText(one.Name, nameOrFolder) || SameText(one.Folder, folder)) return std::move(one);
+  std::optional<KnownLeague> found;
+  for (const auto& one : KnownLeagues()) {
+    if (one.Name == nameOrFolder || one.Folder == folder) return one;
+    if (!found && (SameText(one.Name, nameOrFolder) || SameText(one.Folder, folder))) found = one;
   }
-  return std::nullopt;
+  return found;
 }
 
 }  // namespace tipline

@@ -28,7 +28,8 @@ struct KnownLeague {
 /// The recent leagues, the current one first, then the others of the seasons root by name. Reads the recent
 /// list anew.
 std::vector<KnownLeague> KnownLeagues();
-/// The first of them of that name, or with that folder, case-blind; nothing when there is none.
+/// The first of them of that name, or with that folder, one written just so before one in another case;
+/// nothing when there is none.
 std::optional<KnownLeague> FindKnownLeague(const std::string& nameOrFolder);
 
 }  // namespace tipline
