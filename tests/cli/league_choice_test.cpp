@@ -4,7 +4,6 @@
 #include "cli/schedule_commands.h"
 #include "harness/temporary_home.h"
 #include "league/data_tree.h"
-#include "league/files.h"
 #include "league/rules.h"
 #include "league/schedule.h"
 #include "league/setup.h"

@@ -139,6 +139,17 @@ TEST_F(Resets, AnOpeningCleansTheFolderOnce) {
   EXPECT_TRUE(dialogs.asked.empty());
 }
 
+TEST_F(Resets, TheSeasonOf2019MayBeAFullOne) {
+  PlayerRecord man;
+  man.RecNo = 3, man.Year = 2019, man.Stats[1].G = 75;
+  for (const int team : {kFreeAgent, 720}) {
+    man.TeamNo = static_cast<i16>(team);
+    ASSERT_TRUE(WritePlayer(man));
+    LoadLeaguePlayers();
+    EXPECT_EQ(league.FullSeasonScale > 1, team == 720) << team;
+  }
+}
+
 struct Part {
   int team, games, minutes;
   int onRoster = 0;  ///< of this team
