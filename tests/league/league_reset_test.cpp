@@ -13,6 +13,7 @@
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
+#include "league/startup.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -113,6 +114,27 @@ TEST_F(Resets, TheFolderIsRidOfRowsNobodyNeeds) {
   for (const int row : {4, 6}) EXPECT_TRUE(Man(row).TeamNo == 0 && Man(row).LastName.Empty()) << row;
   ReadTeam(2);
   EXPECT_EQ(league.team[2].Roster[7], 0);
+}
+
+TEST_F(Resets, AnOpeningCleansTheFolderOnce) {
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 0);
+  EXPECT_EQ(league.player[4].TeamNo, 0) << "in memory as well";
+  PutMan(4, 3, "Stray");
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 3) << "not again";
+  EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Resets, TheSeasonOf2019MayBeAFullOne) {
+  PlayerRecord man;
+  man.RecNo = 3, man.Year = 2019, man.Stats[1].G = 75;
+  for (const int team : {kFreeAgent, 720}) {
+    man.TeamNo = static_cast<i16>(team);
+    ASSERT_TRUE(WritePlayer(man));
+    LoadLeaguePlayers();
+    EXPECT_EQ(league.FullSeasonScale > 1, team == 720) << team;
+  }
 }
 
 /// A man's row in his team, with games and minutes; `roster` is the team that has him.

@@ -57,9 +57,17 @@ class Repairs : public testing::Test {
   CoachRecord coach;
   PlayerRecord man;
 
+  /// Each is true when something was mended.
   static bool Mend(TeamRecord& team, CoachRecord& coach) {
-    const bool mended = RepairTeam(team, coach);
-    return RepairCoach(coach, team) || mended;
+    const auto teamBefore = RecordBytes(team), coachBefore = RecordBytes(coach);
+    RepairTeam(team, coach);
+    RepairCoach(coach, team);
+    return RecordBytes(team) != teamBefore || RecordBytes(coach) != coachBefore;
+  }
+  static bool Mend(PlayerRecord& man, const TeamRecord& team) {
+    const auto before = RecordBytes(man);
+    RepairPlayer(man, team);
+    return RecordBytes(man) != before;
   }
 
   void SetUp() override {
@@ -84,8 +92,8 @@ class Repairs : public testing::Test {
     man.RecNo = 5, man.TeamNo = 3, man.Year = 2022, man.PrimaryPosition = 2, man.DebutYear = 2015;
     man.FirstName = "Al", man.LastName = "Ames", man.ShortName = "Ames", man.OldRateDefOutside = 4;
     man.Stats[1].G = 10, man.Stats[1].Min = 340, man.Stats[2].G = 2, man.HeightFeet = 6, man.HeightInches = 7;
-    Mend(team, coach), RepairPlayer(man, team);
-    EXPECT_FALSE(Mend(team, coach) || RepairPlayer(man, team)) << "once is enough";
+    Mend(team, coach), Mend(man, team);
+    EXPECT_FALSE(Mend(team, coach) || Mend(man, team)) << "once is enough";
   }
 };
 
@@ -189,7 +197,7 @@ TEST_F(Repairs, OfAMan) {
       ALWAYS("corrections", (r.StartMonth = 0, r.EndDay = 31),
              r.StartMonth == 4 && r.Stats[1].FGA == 77 && r.EndDay == 31),
   };
-  TestRepairs(man, cases, [this](R& one) { return RepairPlayer(one, team); });
+  TestRepairs(man, cases, [this](R& one) { return Mend(one, team); });
   man.SuspensionGames = 3;
   league.rules.SuspensionsCheck = 0;
   RepairPlayer(man, team);
@@ -218,12 +226,12 @@ TEST_F(Repairs, OfASetup) {
 TEST_F(Repairs, ARealTeamIsCopiedWhenItIsKnown) {
   for (auto& line : team.RealTotals) line.FGA = line.FGM = line.FTA = line.FTM = 10, line.Ast = 6;
   team.RosterKind = "D";
-  EXPECT_FALSE(RepairPlayer(man, team)) << "a draft team is nobody's real team";
+  EXPECT_FALSE(Mend(man, team)) << "a draft team is nobody's real team";
   team.RosterKind = "S";
-  EXPECT_TRUE(RepairPlayer(man, team));
+  EXPECT_TRUE(Mend(man, team));
   EXPECT_EQ(man.RealTeamAst[2], 6);
   team.RealTotals[1].FGA = 20;
-  EXPECT_FALSE(RepairPlayer(man, team)) << "copied once";
+  EXPECT_FALSE(Mend(man, team)) << "copied once";
 }
 
 TEST(NameTables, ShippedOnesAreCopiedAndAUsersOwnStay) {
