@@ -13,15 +13,6 @@
 namespace tipline {
 namespace {
 
-void KeepRoster(const Roster& roster) {
-  league.coach[roster.TeamNo] = roster.coach;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (const int row = roster.team.Roster[slot]; row > 0) {
-      league.player[static_cast<std::size_t>(row)] = roster.player[slot];
-    }
-  }
-}
-
 int GridMinutes(const PlayerRecord& man) {
   int minutes = 0;
   for (int period = 1; period <= league.rules.PeriodList; ++period) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/calendar.h"
 #include "engine/game_state.h"
 #include "harness/memory_league.h"
 #include "league/program.h"
@@ -96,7 +97,7 @@ void SetDateOfRound(int round, int rounds) {
   const SeasonDate date = DaysLater(kOpeningNight, round * kSeasonDays / std::max(1, rounds));
   game.GameMonth = date.month;
   game.GameDay = date.day;
-  game.GameCalendarMonth = (date.month + 7) % 12 + 1;
+  game.GameCalendarMonth = CalendarMonth(date.month);
 }
 
 SeasonSums PlaySeason(int games) {

@@ -1,6 +1,7 @@
 #include "harness/bench_coach.h"
 
 #include "coach/substitutions.h"
+#include "engine/commands.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -11,10 +12,7 @@ namespace tipline {
 namespace {
 
 /// The attack is asked for a play.
-bool Attack() {
-  const GameState s = game.GameState;
-  return !BallIsDue() && (s == "OFFENSE" || s == "OFFREB" || s == "FASTBREAK");
-}
+bool Attack() { return !BallIsDue() && AttackIsAsked(); }
 
 void DrawCall() {
   Call& call = game.call;

@@ -9,6 +9,7 @@
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "frontoffice/league_maker.h"
+#include "harness/memory_league.h"
 #include "league/daily.h"
 #include "league/data_tree.h"
 #include "league/files.h"
@@ -76,14 +77,6 @@ void Open() {
   LoadSchedule();
   LoadScores();
   LoadLeaguePlayers();
-}
-
-std::vector<int> ActiveTeams() {
-  std::vector<int> teams;
-  for (int team = 1; team <= kTeams; ++team) {
-    if (league.team[team].TeamActive == 1) teams.push_back(team);
-  }
-  return teams;
 }
 
 /// The first field in which two records differ.
@@ -182,7 +175,7 @@ DamagedRun RunDamagedLeague(const LeagueImage& sound, std::uint64_t seed) {
   run.refused = !LeagueFault(program.LeagueFolder).empty();
   if (run.refused) return run;
   Open();
-  const auto teams = ActiveTeams();
+  const auto teams = MemoryTeams();
   for (const int team : teams) {
     if (run.fault.empty()) run.fault = LoadTwice(team);
   }

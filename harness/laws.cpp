@@ -12,17 +12,13 @@
 namespace tipline {
 namespace {
 
-int PeriodLength() {
-  const RulesRecord& rules = league.rules;
-  return game.Period > rules.PeriodList ? std::max<int>(rules.OverTimeList, 1) * kMinute : FullPeriod();
-}
+int PeriodLength() { return game.Period > league.rules.PeriodList ? FullOvertime() : FullPeriod(); }
 
 /// Tenths played so far, by periods and clock.
 int TimePlayed() {
   const int regulation = std::min(game.Period - 1, static_cast<int>(league.rules.PeriodList));
   const int overtimes = game.Period - 1 - regulation;
-  return regulation * FullPeriod() + overtimes * std::max<int>(league.rules.OverTimeList, 1) * kMinute +
-         PeriodLength() - game.GameClock;
+  return regulation * FullPeriod() + overtimes * FullOvertime() + PeriodLength() - game.GameClock;
 }
 
 /// Keeps the first law that does not hold.

@@ -90,6 +90,15 @@ Roster RosterOf(int teamNo) {
   return roster;
 }
 
+void KeepRoster(const Roster& roster) {
+  league.coach[roster.TeamNo] = roster.coach;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (const int row = roster.team.Roster[slot]; row > 0) {
+      league.player[static_cast<std::size_t>(row)] = roster.player[slot];
+    }
+  }
+}
+
 void SeatTeam(int teamNo, int side) {
   game.GameTeam[side] = teamNo;
   game.team[side] = league.team[teamNo];

@@ -22,6 +22,8 @@ std::vector<int> MemoryTeams();
 
 /// A team with its men as the league has them, in a copy.
 Roster RosterOf(int teamNo);
+/// Puts the coach and the men of such a copy back.
+void KeepRoster(const Roster& roster);
 /// A team takes its side of the game, as after a load from the files.
 void SeatTeam(int teamNo, int side);
 /// Both teams seated with the computer on both benches and the game prepared.

@@ -208,7 +208,8 @@ bool CoachSession::Run() {
 }
 
 bool CoachSession::GoOnFromHere() {
-  if (program.ScenarioGame) toldPeriod_ = game.Period;  // nothing was played before
+  // A scenario has no periods before its own.
+  if (program.ScenarioGame) toldPeriod_ = game.PlayLogCount > 0 ? game.PlayLog[1].Period : game.Period;
   while (!game.GameOver) {
     TellSinceLastStop();
     ShowTheStop();

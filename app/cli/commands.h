@@ -39,6 +39,17 @@ struct PlayRequest {
 };
 
 int NewLeague(LeagueRequest request, const Common& common);
+/// The recent leagues and those of the seasons root, the current one marked.
+int ListLeagues(const Common& common);
+/// Makes a league current, by its name or its folder in the data tree. When that is refused, the one before
+/// stays current.
+int OpenLeagueNamed(const std::string& name, const Common& common);
+/// What the league is, how far its season is, the rules that matter most.
+int ShowLeague(const Common& common);
+/// From the league to its playoff module, or back.
+int SwitchLeague(const Common& common);
+/// The drives of the data tree; moves to `drive` ("D:") when one is named.
+int ShowDrives(const std::string& drive);
 int ShowTeams(const Common& common);
 /// `view`: "stats" (this season), "real" or "ratings".
 int ShowRoster(const std::string& team, const std::string& view, const Common& common);

@@ -12,6 +12,7 @@
 #include "league/dump.h"
 #include "league/files.h"
 #include "league/league_check.h"
+#include "league/league_reset.h"
 #include "league/player_values.h"
 #include "league/program.h"
 #include "league/roster.h"
@@ -97,7 +98,7 @@ bool OpenTheLeague(const Common& common) {
   const bool rules = LoadRules();
   LoadAllTeams();
   LoadLeaguePlayers();
-  return rules || SaveRules();
+  return (rules || SaveRules()) && CleanUnmarkedFolder();
 }
 
 namespace {

@@ -31,7 +31,7 @@ struct Arguments {
   bool yes = false, force = false;
   LeagueRequest request;
   PlayRequest play;
-  std::string team, view = "ratings", file;
+  std::string team, view = "ratings", file, name;
   int record = 1;
   bool all = false, realLifeToo = false;
   cli::CoachRequest coach;
@@ -53,7 +53,19 @@ void AddCommon(CLI::App& app, Arguments& a) {
   app.require_subcommand(0, 1);
 }
 
-void AddLeagueNew(CLI::App& app, Arguments& a) {
+void AddLeagueChoice(CLI::App& group, Arguments& a) {
+  auto* list = group.add_subcommand("list", "recent leagues and those of the data home");
+  list->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  auto* open = group.add_subcommand("open", "make a league the current one");
+  open->add_option("name", a.name, "its name, or its folder as the list tells it")->required();
+  group.add_subcommand("info", "the league, its season and its rules");
+  auto* move = group.add_subcommand("switch", "to the playoffs of the league, or back");
+  move->add_flag("--yes", a.yes, "without asking");
+  auto* drive = group.add_subcommand("drive", "the drives that leagues can lie on; moves to one");
+  drive->add_option("drive", a.name, "such as D:, a folder drive-d of the data home");
+}
+
+void AddLeague(CLI::App& app, Arguments& a) {
   auto* group = app.add_subcommand("league", "leagues");
   group->require_subcommand(1);
   auto* make = group->add_subcommand("new", "make a league of made-up teams and players");
@@ -68,6 +80,7 @@ void AddLeagueNew(CLI::App& app, Arguments& a) {
   number("--divisions", a.request.Divisions, "number of divisions");
   number("--teams", a.request.Teams, "number of teams");
   number("--games", a.request.Games, "games of a season, an even number from 10 to 98");
+  AddLeagueChoice(*group, a);
   auto* reset = group->add_subcommand("reset", "the league before its first game: results and scores go");
   reset->add_flag("--real", a.realLifeToo, "the players' real season lines go as well");
   reset->add_flag("--yes", a.yes, "without asking");
@@ -179,6 +192,11 @@ bool OneOrAll(const std::string& team, bool all) {
 int RunLeague(CLI::App& group, Arguments& a) {
   if (group.got_subcommand("reset")) return cli::StartSeasonAnew(a.realLifeToo, a.common);
   if (group.got_subcommand("clean")) return cli::CleanLeague(a.common);
+  if (group.got_subcommand("list")) return cli::ListLeagues(a.common);
+  if (group.got_subcommand("open")) return cli::OpenLeagueNamed(a.name, a.common);
+  if (group.got_subcommand("info")) return cli::ShowLeague(a.common);
+  if (group.got_subcommand("switch")) return cli::SwitchLeague(a.common);
+  if (group.got_subcommand("drive")) return cli::ShowDrives(a.name);
   return cli::NewLeague(a.request, a.common);
 }
 
@@ -229,7 +247,7 @@ int main(int argc, char** argv) {
   CLI::App app("Tipline: a simulation and coaching game of league basketball");
   Arguments a;
   AddCommon(app, a);
-  AddLeagueNew(app, a);
+  AddLeague(app, a);
   AddLists(app, a);
   AddPlay(app, a);
   AddCoach(app, a);

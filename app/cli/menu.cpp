@@ -57,13 +57,9 @@ void Menu(Common common) {
     } else if (*choice == "4") {
       NewFromMenu(common);
     } else if (*choice == "5") {
-      const auto name = AskLine("Name: ");
-      if (name && FindLeague(*name).empty()) {
-        Refuse("there is no league named \"" + *name + "\"");
-      } else if (name) {
-        common.League = *name;
-        if (!MakeCurrent(*name)) Refuse("the list of recent leagues can't be written");
-      }
+      ListLeagues(common);
+      const auto name = AskLine("\nName: ");
+      if (name && OpenLeagueNamed(*name, common) == 0) common.League.clear();
     } else if (!choice->empty()) {
       std::cout << "Please type 1 to 5, or q.\n";
     }

@@ -47,7 +47,7 @@ class TerminalGame : public GameScreens {
   }
 
  private:
-  void UseRequest() const;
+  void UseRequest(HCGAMEsetup& screen) const;
   void Coach() const;
 
   const PlayRequest& request_;
@@ -63,7 +63,7 @@ void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
   if (request_.Neutral) screen.ClickNeutral(true);
   screen.Zoom(until_);
   screen.Ok();
-  UseRequest();
+  UseRequest(screen);
   std::cout << TeamName(game.team[1]) << (game.NeutralGame ? " and " : " at ") << TeamName(game.team[2])
             << (game.NeutralGame ? " on a neutral court" : ", " + screen.ArenaLabel) << "\n";
   if (screen.PointSpreadLabel != "No Line") std::cout << screen.PointSpreadLabel << "\n";
@@ -76,20 +76,13 @@ void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
   game.CommentaryOn = told || request_.Speak || !request_.Film.empty();
 }
 
-/// How often a human is asked, this game alone, and what his preferences leave to the computer.
-void TerminalGame::UseRequest() const {
-  if (request_.Calls == "none") CallNoPlays();
-  if (request_.Calls == "default") UseDefaultCalls();
-  if (request_.Calls == "all") CallAllPlays();
-  if (request_.Brief) setup.PBPOption = 1;
-  for (Side& side : game.side) {
-    if (side.CoachMode != "H") continue;
-    side.AutoSubWhenTired = setup.SubWhenTiredCheck;
-    side.AutoSubWhenFoulTrouble = setup.SubWhenInFoulTroubleCheck;
-    side.UseRotationGrid = setup.UseRotationGridCheck;
-    side.BothOffenses = setup.BothOffensesCheck;
-    side.BothDefenses = setup.BothDefensesCheck;
-  }
+/// How often a human is asked. The setup file is written by then: the option is for this game alone.
+void TerminalGame::UseRequest(HCGAMEsetup& screen) const {
+  if (request_.Calls == "none") screen.CallNoPlaysCommand();
+  if (request_.Calls == "default") screen.Command2();
+  if (request_.Calls == "all") screen.Command3();
+  if (request_.Brief) screen.Controls.PBPOption = 1;
+  screen.SaveChanges();
 }
 
 void TerminalGame::Coach() const {

@@ -19,33 +19,20 @@ std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_st
 
 bool OpenSchedule(const Common& common) { return OpenTheLeague(common) && LoadSchedule(); }
 
-/// Rows in order of the season: of a date, of a team, or all.
-std::vector<const ScheduleRecord*> Games(const MonthDay& date, int team) {
-  std::vector<const ScheduleRecord*> rows;
-  ForScheduledGames([&](const ScheduleRecord& row, int) {
-    if (date.month != 0 && !IsOn(row, date.month, date.day)) return;
-    if (team != 0 && !HasTeam(row, team)) return;
-    if (!IsScheduleTeam(row.Team[1]) || !IsScheduleTeam(row.Team[2])) return;
-    rows.push_back(&row);
-  });
-  const bool calendarYear = league.HasAugustGames && league.HasSeptemberGames;
-  const auto key = [calendarYear](const ScheduleRecord* row) {
-    const int month = row->Month < 1 || row->Month > 12 ? 13 : row->Month;
-    return 100 * (calendarYear || month == 13 ? month : SeasonMonth(month)) + row->Day;
-  };
-  std::stable_sort(rows.begin(), rows.end(), [key](auto* a, auto* b) { return key(a) < key(b); });
-  return rows;
+/// "HC": a human against the computer.
+std::string CoachLetters(const ScheduleRecord& row) {
+  return row.CoachKind[1].Str() + row.CoachKind[2].Str();
 }
 
-std::string ResultOf(const ScheduleRecord& row) {
-  if (row.Status != 'P') return "";
-  return std::to_string(row.Score[1]) + "-" + std::to_string(row.Score[2]) +
-         (row.Overtime == 1 ? " (ot)" : "");
+std::string HumanSides(const ScheduleRecord& row) {
+  const bool visitor = row.CoachKind[1] == 'H', home = row.CoachKind[2] == 'H';
+  if (!visitor && !home) return "";
+  return std::string("human coach: ") + (visitor && home ? "both" : visitor ? "visitor" : "home");
 }
 
 void PrintGames(const std::vector<const ScheduleRecord*>& rows, bool csv) {
   Columns table(csv ? std::vector<std::string>{"Month", "Day", "Visitor", "Home", "VisitorScore", "HomeScore",
-                                               "Neutral", "Type"}
+                                               "Neutral", "Type", "Coaches"}
                     : std::vector<std::string>{"<Date", "<Visitor", "<Home", "<Result", "<"});
   int month = 0, day = 0;
   for (const ScheduleRecord* row : rows) {
@@ -54,13 +41,15 @@ void PrintGames(const std::vector<const ScheduleRecord*>& rows, bool csv) {
     if (csv) {
       table.Row({std::to_string(row->Month), std::to_string(row->Day), visitor, home,
                  played ? std::to_string(row->Score[1]) : "", played ? std::to_string(row->Score[2]) : "",
-                 std::to_string(row->NeutralSite), row->GameType.Str()});
+                 std::to_string(row->NeutralSite), row->GameType.Str(), CoachLetters(*row)});
       continue;
     }
     std::string note = row->GameType == 'R' ? "" : std::string(GameTypeWords(row->GameType.bytes[0]));
     if (row->NeutralSite == 1) note += note.empty() ? "neutral court" : ", neutral court";
+    if (const auto who = HumanSides(*row); !who.empty()) note += (note.empty() ? "" : ", ") + who;
     const bool sameDay = row->Month == month && row->Day == day;
-    table.Row({sameDay ? "" : DateText({row->Month, row->Day}), visitor, home, ResultOf(*row), note});
+    table.Row({sameDay ? "" : DateText({row->Month, row->Day}), visitor, home,
+               played ? StatusWords(*row) : "", note});
     month = row->Month, day = row->Day;
   }
   table.Print(std::cout, csv);
@@ -80,6 +69,23 @@ int RowOf(const ScheduleChoice& game) {
 }
 
 }  // namespace
+
+std::vector<const ScheduleRecord*> GamesInOrder(const MonthDay& date, int team) {
+  std::vector<const ScheduleRecord*> rows;
+  ForScheduledGames([&](const ScheduleRecord& row, int) {
+    if (date.month != 0 && !IsOn(row, date.month, date.day)) return;
+    if (team != 0 && !HasTeam(row, team)) return;
+    if (!IsScheduleTeam(row.Team[1]) || !IsScheduleTeam(row.Team[2])) return;
+    rows.push_back(&row);
+  });
+  const bool calendarYear = league.HasAugustGames && league.HasSeptemberGames;
+  const auto key = [calendarYear](const ScheduleRecord* row) {
+    const int month = row->Month < 1 || row->Month > 12 ? 13 : row->Month;
+    return 100 * (calendarYear || month == 13 ? month : SeasonMonth(month)) + row->Day;
+  };
+  std::stable_sort(rows.begin(), rows.end(), [key](auto* a, auto* b) { return key(a) < key(b); });
+  return rows;
+}
 
 bool ReadDate(const std::string& text, MonthDay& date) {
   const char* end = text.data() + text.size();
@@ -122,13 +128,33 @@ int ShowSchedule(const ScheduleArguments& a, const Common& common) {
   if (!OpenSchedule(common)) return 1;
   const int team = a.Team.empty() ? 0 : FindTeam(a.Team);
   if (!a.Team.empty() && team == 0) return 1;
-  const auto rows = Games(date, team);
+  const auto rows = GamesInOrder(date, team);
   if (rows.empty() && !common.Csv) {
     std::cout << (league.GameCount() == 0 ? "There are no games on the schedule.\n" : "No games.\n");
     return 0;
   }
   PrintGames(rows, common.Csv);
   return 0;
+}
+
+int PrintSchedule(const ScheduleArguments& a, const Common& common) {
+  MonthDay date;
+  if (!a.Date.empty() && !ReadDate(a.Date, date)) return 1;
+  if (!OpenSchedule(common)) return 1;
+  const HCSCHEDULE screen;
+  for (const auto& line :
+       a.Date.empty() ? screen.PRINTSCHEDULE() : screen.PrintCommand(date.month, date.day)) {
+    std::cout << Plain(line) << '\n';
+  }
+  return 0;
+}
+
+int SetCoaches(const ScheduleArguments& a, const Common& common) {
+  HCSCHEDULE editor;
+  if (!OpenTheLeague(common) || !editor.Open()) return 1;
+  if (a.Coach == "human") editor.SETALLHUMAN();
+  if (a.Coach == "computer") editor.SETALLCOMPUTER();
+  return editor.SaveCommand() ? 0 : 1;
 }
 
 int SummarizeSchedule(const Common& common) {
@@ -179,6 +205,7 @@ int EditSchedule(const std::string& what, const ScheduleArguments& a, const Comm
   if (what == "add") done = editor.AddGameCommand(choice);
   if (what == "delete") done = editor.DeleteGame(row);
   if (what == "neutral") done = editor.ToggleNeutral(row);
+  if (what == "coach") done = editor.ToggleCoach(row, a.Coach == "visitor" ? 1 : 2);
   if (what == "move") {
     HcScheduleEditGame game;
     if (!game.Open(row)) return 1;

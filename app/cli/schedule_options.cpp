@@ -20,6 +20,8 @@ void AddMakeAndShow(CLI::App& group, ScheduleArguments& a, Common& common) {
   show->add_option("--date", a.Date, "of one date, MM-DD");
   show->add_option("--team", a.Team, "of one team");
   show->add_flag("--csv", common.Csv, "as comma-separated text");
+  auto* print = group.add_subcommand("print", "the games as plain text for a printer");
+  print->add_option("--date", a.Date, "of one date, MM-DD");
   auto* summary = group.add_subcommand("summary", "games of each team, at home and away");
   summary->add_flag("--csv", common.Csv, "as comma-separated text");
 }
@@ -28,15 +30,26 @@ void AddEditing(CLI::App& group, ScheduleArguments& a) {
   const std::pair<const char*, const char*> edits[] = {{"add", "put a game on the schedule"},
                                                        {"delete", "take a game off the schedule"},
                                                        {"neutral", "neutral court or home court"},
-                                                       {"move", "another date for a game"}};
+                                                       {"move", "another date for a game"},
+                                                       {"coach", "human instead of computer, or back"}};
   for (const auto& [name, help] : edits) {
     auto* edit = group.add_subcommand(name, help);
     edit->add_option("date", a.Date, "MM-DD")->required();
     edit->add_option("visitor", a.Visitor, "team, or TBD where it is not decided yet")->required();
     edit->add_option("hometeam", a.Home, "the team at home")->required();
     if (std::string(name) == "move") edit->add_option("to", a.To, "new date, MM-DD")->required();
+    if (std::string(name) == "coach") {
+      edit->add_option("side", a.Coach, "visitor or home")
+          ->required()
+          ->check(CLI::IsMember({"visitor", "home"}));
+    }
     edit->add_flag("--yes", a.Yes, "without asking");
   }
+  auto* coaches = group.add_subcommand("coaches", "who coaches both sides of all games");
+  coaches->add_option("who", a.Coach, "human or computer")
+      ->required()
+      ->check(CLI::IsMember({"human", "computer"}));
+  coaches->add_flag("--yes", a.Yes, "without asking");
   auto* clear = group.add_subcommand("clear", "delete all games");
   clear->add_flag("--yes", a.Yes, "without asking");
 }
@@ -69,6 +82,8 @@ int RunSchedule(const CLI::App& app, const ScheduleArguments& a, const Common& c
   const std::string what = app.get_subcommand("schedule")->get_subcommands().front()->get_name();
   if (what == "make") return MakeSchedule(a, common);
   if (what == "show") return ShowSchedule(a, common);
+  if (what == "print") return PrintSchedule(a, common);
+  if (what == "coaches") return SetCoaches(a, common);
   if (what == "summary") return SummarizeSchedule(common);
   if (what == "import") return ImportSchedule(a, common);
   if (what == "export") return ExportSchedule(a, common);

@@ -3,7 +3,6 @@
 #include <iostream>
 
 #include "cli/terminal.h"
-#include "coach/plan_load.h"
 #include "league/files.h"
 
 namespace tipline::cli {
@@ -18,7 +17,6 @@ bool TakeTeam(int teamNo, Roster& roster) {
     Refuse("the team can't be read: " + TeamsFile().string());
     return false;
   }
-  ReadyPlan(roster);
   return true;
 }
 

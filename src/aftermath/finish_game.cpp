@@ -83,13 +83,9 @@ void AddPlaceLine(Table<StatLine, 1, 3>& lines, const StatLine& line) {
 }
 
 /// A game of the suspension is served; one that was earned today begins with the next game.
-void ServeSuspensions() {
-  for (int s = 1; s <= 2; ++s) {
-    for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      u8& games = PlayerAt(s, slot).SuspensionGames;
-      if (LoadedAt(s, slot).Suspended && games > 0) --games;
-    }
-  }
+void ServeSuspension(int side, int slot) {
+  u8& games = PlayerAt(side, slot).SuspensionGames;
+  if (LoadedAt(side, slot).Suspended && games > 0) --games;
 }
 
 void AddToSeason(int side, int slot) {
@@ -164,19 +160,22 @@ void CountRest(int side, int slot) {
 }  // namespace
 
 void FinishGame() {
-  if (program.GameKind == "L") ServeSuspensions();
+  const bool counts = program.GameKind == "L";
   for (int s = 1; s <= 2; ++s) {
     const int left = CountEligible(s);
     game.side[s].ShortHanded = left < kPositions ? left : 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
       if (!OnTeam(s, slot)) continue;
-      if (program.GameKind == "L") CountRest(s, slot);
+      if (counts) {
+        ServeSuspension(s, slot);
+        CountRest(s, slot);
+      }
       if (!HasPlayed(s, slot)) continue;
       CloseGameLine(s, slot);
-      if (program.GameKind == "L") AddToSeason(s, slot);
+      if (counts) AddToSeason(s, slot);
     }
   }
-  if (program.GameKind == "L") AddTeamLines();
+  if (counts) AddTeamLines();
 }
 
 }  // namespace tipline

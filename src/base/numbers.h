@@ -1,6 +1,11 @@
 #pragma once
 // The roundings that the rules are written with.
+#include <charconv>
 #include <cmath>
+#include <optional>
+#include <string_view>
+
+#include "base/text.h"
 
 namespace tipline {
 
@@ -24,6 +29,17 @@ inline int Int(double x) {
 
 /// A whole-number weight or chance times a factor, rounded at once.
 inline void Scale(int& weight, double factor) { weight = Round(weight * factor); }
+
+/// The number that a text says, blanks around it left out; nothing for any other text, or one that N can't
+/// hold.
+template <class N>
+std::optional<N> NumberIn(std::string_view text) {
+  text = Trimmed(text);
+  N number{};
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number);
+  return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
+}
 
 template <class T>
 constexpr T Clamp(T value, T low, T high) {

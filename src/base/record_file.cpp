@@ -1,14 +1,12 @@
 #include "base/record_file.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <system_error>
 
-#include "base/file_handle.h"
 #include "base/undo_journal.h"
+#include "platform/file_handle.h"
 
 namespace tipline {
 namespace {
@@ -111,7 +109,7 @@ bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
   temporary += ".new";
   std::error_code error;
   {
-    FileHandle out(temporary, O_WRONLY | O_CREAT | O_TRUNC);
+    platform::FileHandle out(temporary, platform::Opening::kOver);
     if (!out.Open()) return false;
     bool whole = out.WriteAt(0, reinterpret_cast<const u8*>(bytes.data()), bytes.size());
     whole = whole && (bytes.size() < kWorthAFlush || out.Flush());

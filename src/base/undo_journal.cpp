@@ -1,21 +1,20 @@
 #include "base/undo_journal.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "base/file_handle.h"
+#include "platform/file_handle.h"
 
 namespace tipline {
 namespace {
 
 namespace fs = std::filesystem;
+using platform::FileHandle;
+using platform::Opening;
 
 constexpr std::string_view kHeading = "TIPUNDO1";
 constexpr long long kNoFile = -1;  // as a length
@@ -99,8 +98,8 @@ bool Stands(const FileHandle& data, const FilePiece& piece) {
 bool PutBack(const fs::path& file, const Before& before) {
   std::error_code error;
   if (before.length == kNoFile) return fs::remove(file, error), !error;
-  FileHandle data(file, O_RDWR);
-  if (!data.Open()) return errno == ENOENT;  // removed since: there is nothing to mend
+  FileHandle data(file, Opening::kChange);
+  if (!data.Open()) return data.Missing();  // removed since: there is nothing to mend
   bool whole = true;
   for (const FilePiece& piece : before.pieces) whole = Stands(data, piece) && whole;
   return data.Cut(before.length) && data.Close() && whole;
@@ -124,8 +123,8 @@ FileHandle NewJournal(const fs::path& file) {
   constexpr int kTries = 20;  // each lost to another program that saves the same file
   for (int i = 0; i < kTries; ++i) {
     UndoUnfinished(file);
-    FileHandle journal(JournalOf(file), O_RDWR | O_CREAT | O_EXCL);
-    if (!journal.Open() && errno != EEXIST) break;
+    FileHandle journal(JournalOf(file), Opening::kNew);
+    if (!journal.Open() && !journal.Taken()) break;
     if (journal.Open() && journal.Hold() && !journal.Removed()) return journal;
   }
   return {};
@@ -160,15 +159,15 @@ bool ChangeInPlace(const fs::path& file, std::span<const FilePiece> pieces, long
   if (file.empty()) return false;
   FileHandle journal = NewJournal(file);
   if (!journal.Open()) return false;
-  FileHandle data(file, O_RDWR);
-  const bool missing = !data.Open() && errno == ENOENT;
+  FileHandle data(file, Opening::kChange);
+  const bool missing = data.Missing();
   const auto before = data.Open() || missing ? LookBefore(data, pieces) : std::nullopt;
   bool whole = before.has_value();
   if (whole) {
     const std::string text = JournalText(*before);
     whole = journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size());
   }
-  if (whole && missing) data = FileHandle(file, O_RDWR | O_CREAT | O_EXCL);
+  if (whole && missing) data = FileHandle(file, Opening::kNew);
   whole = whole && data.Open() && Apply(data, pieces, length);
   std::error_code error;
   if (whole && fs::remove(JournalOf(file), error) && !error) return true;
@@ -178,7 +177,7 @@ bool ChangeInPlace(const fs::path& file, std::span<const FilePiece> pieces, long
 
 void UndoUnfinished(const fs::path& file) {
   if (file.empty()) return;
-  FileHandle journal(JournalOf(file), O_RDWR);
+  FileHandle journal(JournalOf(file), Opening::kChange);
   if (journal.Open() && journal.Hold()) Undo(file, journal);
 }
 

@@ -19,25 +19,36 @@ constexpr Caption kCrash[] = {"Normal", "Strong", "Light"};
 
 constexpr int kWorstFreeThrowShooter = 3;  // a foul order that only the computer gives
 
-int& Setting(int side, StrategyList list) {
-  Side& s = game.side[side];
-  switch (list) {
-    case StrategyList::kHelp:
-      return s.DefenseHelp;
-    case StrategyList::kPressure:
-      return s.Pressure;
-    case StrategyList::kPace:
-      return s.OffensePace;
-    case StrategyList::kInsideOffense:
-      return s.InsideOffense;
-    case StrategyList::kCrashOffense:
-      return s.CrashBoardsOffense;
-    case StrategyList::kCrashDefense:
-      return s.CrashBoardsDefense;
-    default:
-      return s.DefenseType;
-  }
-}
+/// In the order of StrategyList: the setting behind a list, and its captions by value.
+struct ListRow {
+  int Side::*setting;
+  std::span<const Caption> captions;
+};
+constexpr ListRow kLists[] = {
+    {&Side::DefenseType, kTypes},        {&Side::DefenseHelp, kHelps},
+    {&Side::Pressure, kPressures},       {&Side::OffensePace, kPaces},
+    {&Side::InsideOffense, kInsideMen},  {&Side::CrashBoardsOffense, kCrash},
+    {&Side::CrashBoardsDefense, kCrash},
+};
+const ListRow& RowOf(StrategyList list) { return kLists[static_cast<std::size_t>(list)]; }
+int& Setting(int side, StrategyList list) { return game.side[side].*RowOf(list).setting; }
+
+/// The boxes of the defense screen and what they stand for.
+struct Check {
+  bool DefenseScreen::*box;
+  int Side::*setting;
+};
+constexpr Check kChecks[] = {
+    {&DefenseScreen::UseRotationGridCheck, &Side::UseRotationGrid},
+    {&DefenseScreen::AutoSubWhenTiredCheck, &Side::AutoSubWhenTired},
+    {&DefenseScreen::AutoSubWhenFoulTroubleCheck, &Side::AutoSubWhenFoulTrouble},
+    {&DefenseScreen::LastShotCheck, &Side::LastShot},
+    {&DefenseScreen::QuickShotCheck, &Side::QuickShot},
+    {&DefenseScreen::NoFoulCheck, &Side::NoFoul},
+    {&DefenseScreen::StealFoulCheck, &Side::StealFoul},
+    {&DefenseScreen::TimeoutDefenseCheck, &Side::TimeoutDefense},
+    {&DefenseScreen::TimeoutOffenseCheck, &Side::TimeoutOffense},
+};
 
 int PickOf(Zone zone) { return zone == Zone::kInside ? kInside : zone == Zone::kOutside ? kOutside : kThree; }
 
@@ -46,21 +57,9 @@ bool HasMan(int side, int slot) { return slot >= 1 && slot <= kRosterSlots && On
 }  // namespace
 
 std::span<const std::string_view> StrategyCaptions(StrategyList list) {
-  switch (list) {
-    case StrategyList::kHelp:
-      return kHelps;
-    case StrategyList::kPressure:
-      return kPressures;
-    case StrategyList::kPace:
-      return kPaces;
-    case StrategyList::kInsideOffense:
-      return kInsideMen;
-    case StrategyList::kCrashOffense:
-    case StrategyList::kCrashDefense:
-      return kCrash;
-    default:
-      return std::span(kTypes).first(league.rules.ZoneLegalCheck ? std::size(kTypes) : 1);
-  }
+  const auto& captions = RowOf(list).captions;
+  const bool manOnly = list == StrategyList::kType && !league.rules.ZoneLegalCheck;
+  return manOnly ? captions.first(1) : captions;
 }
 
 int StrategyValue(int side, StrategyList list) { return Setting(side, list); }
@@ -80,15 +79,7 @@ DefenseScreen::DefenseScreen(int forSide) : side(forSide) {
   const Side& s = game.side[side];
   StoredMatchup = s.StoredMatchup;
   ComputerMatchups = game.coach[side].ComputerMatchups == 1;
-  UseRotationGridCheck = s.UseRotationGrid == 1;
-  AutoSubWhenTiredCheck = s.AutoSubWhenTired == 1;
-  AutoSubWhenFoulTroubleCheck = s.AutoSubWhenFoulTrouble == 1;
-  LastShotCheck = s.LastShot == 1;
-  QuickShotCheck = s.QuickShot == 1;
-  NoFoulCheck = s.NoFoul == 1;
-  StealFoulCheck = s.StealFoul == 1;
-  TimeoutDefenseCheck = s.TimeoutDefense == 1;
-  TimeoutOffenseCheck = s.TimeoutOffense == 1;
+  for (const Check& check : kChecks) this->*check.box = s.*check.setting == 1;
   QuickFoulList = Clamp(s.QuickFoul, 0, 2);
 }
 
@@ -138,22 +129,13 @@ bool DefenseScreen::StepSafeStyle(int slot) {
 bool DefenseScreen::SaveDefenseScreen() {
   for (int own = 1; own <= kPositions; ++own) {
     if (std::find(StoredMatchup.begin(), StoredMatchup.end(), own) != StoredMatchup.end()) continue;
-    platform::dialogs().Tell("Each position must be defended..check the Defensive Matchups Grid");
-    return false;
+    return platform::RefusedWith("Each position must be defended..check the Defensive Matchups Grid");
   }
   // No copy of the coverage is taken here: the one play whose call departs from it takes its own.
   Side& s = game.side[side];
   s.StoredMatchup = StoredMatchup;
   game.coach[side].ComputerMatchups = ComputerMatchups;
-  s.UseRotationGrid = UseRotationGridCheck;
-  s.AutoSubWhenTired = AutoSubWhenTiredCheck;
-  s.AutoSubWhenFoulTrouble = AutoSubWhenFoulTroubleCheck;
-  s.LastShot = LastShotCheck;
-  s.QuickShot = QuickShotCheck;
-  s.NoFoul = NoFoulCheck;
-  s.StealFoul = StealFoulCheck;
-  s.TimeoutDefense = TimeoutDefenseCheck;
-  s.TimeoutOffense = TimeoutOffenseCheck;
+  for (const Check& check : kChecks) s.*check.setting = this->*check.box;
   // The list shows the computer's order against one man as "Poor Shooter"; left alone, it stays his.
   const bool leftAlone = s.QuickFoul == kWorstFreeThrowShooter && QuickFoulList == 2;
   if (!leftAlone) s.QuickFoul = Clamp(QuickFoulList, 0, 2);

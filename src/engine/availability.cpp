@@ -11,7 +11,6 @@
 namespace tipline {
 namespace {
 
-constexpr int kInactive = 99;
 constexpr int kNextSeason = 12;  // a return in August is none
 
 SeasonDate Today() { return {game.GameMonth, game.GameDay}; }

@@ -122,7 +122,7 @@ void InsideMan(TwoPointShot& s) {
 
 /// What a team outside the first pro league gives away to one inside it.
 int BelowProLevel(const TeamRecord& team) {
-  if (team.TeamType == 'C' || team.TeamType == 'O') return 100;
+  if (IsCollegeOrInternational(team)) return 100;
   if (team.TeamType == 'A') return team.Year < 1970 ? 60 : team.Year < 1973 ? 40 : 20;
   return 0;
 }

@@ -78,15 +78,19 @@ void ChargeFatigue() {
   }
 }
 
+/// The result sends somebody to the line.
+bool SendsToLine() {
+  const PlayResult& r = game.PlayResult;
+  return game.play.FlagrantLevel > 0 || r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "MF" ||
+         r == "M3F" || r == "GF" || r == "G3F";
+}
+
 /// The clock is out, and no free throws keep the period alive: a foul at the buzzer does, as they take no
 /// time.
 bool PeriodIsOver() {
   if (game.GameClock > 0) return false;
   if (game.PlayResult == "NOSHOT" || game.play.NoShotEnd == 1 || game.PlayKind == "ENDPERIOD") return true;
-  const PlayResult& r = game.PlayResult;
-  const bool shotsToCome = r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "GF" || r == "MF" ||
-                           r == "G3F" || r == "M3F" || game.play.FlagrantLevel > 0;
-  if (shotsToCome || IsFreeThrow(game.PlayKind)) return false;
+  if (SendsToLine() || IsFreeThrow(game.PlayKind)) return false;
   return !(IsFreeThrow(game.GameState) && game.PlayKind.Text().size() >= 6);
 }
 
@@ -183,7 +187,7 @@ void NextPeriod() {
 
 void Overtime() {
   RestBeforeOvertime();
-  OpenPeriod(std::max(league.rules.OverTimeList * kMinute, kMinute));
+  OpenPeriod(FullOvertime());
   game.GameState = "JUMPBALL-1";
   LoadLineups();
 }
@@ -206,10 +210,8 @@ void EndPeriod() {
 
 /// Free throws are still to be shot when the clock is out.
 bool FreeThrowsRemain() {
-  const PlayResult& r = game.PlayResult;
-  return game.play.FlagrantLevel > 0 || IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) ||
-         r == "F1" || r == "F2" || r == "F1-1" || r == "F3-2" || r == "FTM" || r == "FTG" || r == "MF" ||
-         r == "M3F" || r == "GF" || r == "G3F";
+  return SendsToLine() || IsFreeThrow(game.PlayKind) || IsFreeThrow(game.GameState) ||
+         game.PlayResult == "FTM" || game.PlayResult == "FTG";
 }
 
 void ClearOrders(Side& side) {

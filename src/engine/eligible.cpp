@@ -26,7 +26,7 @@ bool MayAppear(int side, int slot) {
 int CountEligible(int side) {
   int count = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (OnTeam(side, slot) && PlayerAt(side, slot).Status == 99) LoadedAt(side, slot).PlayerOut = 1;
+    if (OnTeam(side, slot) && PlayerAt(side, slot).Status == kInactive) LoadedAt(side, slot).PlayerOut = 1;
     count += IsEligible(side, slot) ? 1 : 0;
   }
   return count;

@@ -17,6 +17,9 @@ void NewGame();
 /// Runs the game to its next stop that asks a human, or to its end. Reads and writes `game`.
 void SetPlayBox();
 
+/// The two fives on the floor are the starters of the game, in the line-up tables and in each man's `GS`.
+void NoteStarters();
+
 /// The jump ball: who wins the tip, and the state after it. Writes the sides, the arrow, and charges the
 /// time.
 void JumpBall();

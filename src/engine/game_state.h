@@ -5,6 +5,8 @@
 // an empty man whose record stays all zero, so that an empty position reads as a man who can do nothing.
 // Positions are 1 (point guard) to 5 (centre); a name that ends in Slot (BallSlot, BlockerSlot) holds such a
 // position. Times are tenths of a second. Chances and weights are thousandths.
+#include <algorithm>
+
 #include "base/random.h"
 #include "base/tables.h"
 #include "engine/commentary_state.h"
@@ -248,7 +250,7 @@ enum class IncidentKind : u8 {
 struct Incident {
   IncidentKind Kind = IncidentKind::kNone;
   int Side = 0, Slot = 0;   ///< who was hurt or is at fault; an illegal defense is nobody's alone
-  int OtherSlot = 0;        ///< the man of the other side: his opponent in a fight, the man who was fouled
+  int OtherSlot = 0;        ///< his opponent in a fight
   int InjuryWord = 0;       ///< 1 to 60
   int Length = 0;           ///< injury: games
   int FlagrantLevel = 0;    ///< 0 when the review made it a common foul
@@ -447,10 +449,10 @@ auto& DoubleOf(auto& man, int pick) {
 }
 inline bool LastPeriod() { return game.Period >= league.rules.PeriodList; }
 inline int FullPeriod() { return league.rules.MinuteList * kMinute; }
+inline int FullOvertime() { return std::max<int>(league.rules.OverTimeList, 1) * kMinute; }
 /// The clock stands at the start of a period, regulation or overtime.
 inline bool PeriodOpens() {
-  const int overtime = league.rules.OverTimeList < 1 ? kMinute : league.rules.OverTimeList * kMinute;
-  return game.GameClock == (game.Period > league.rules.PeriodList ? overtime : FullPeriod());
+  return game.GameClock == (game.Period > league.rules.PeriodList ? FullOvertime() : FullPeriod());
 }
 inline int FullShotClock() {
   return league.rules.ShotClockList == 0 ? kNoShotClock : league.rules.ShotClockList * 10;

@@ -25,7 +25,7 @@ bool RosterAllowed(int side) {
   if (limit == 0 || game.GameStarted || game.Period != 1) return true;
   int active = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (OnTeam(side, slot) && PlayerAt(side, slot).Status != 99) ++active;
+    if (OnTeam(side, slot) && PlayerAt(side, slot).Status != kInactive) ++active;
   }
   const int over = active - limit;
   if (over <= 0) return true;

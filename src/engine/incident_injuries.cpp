@@ -43,13 +43,6 @@ int WordFor(int games) {
   return 30 + Rnd(20);
 }
 
-void Note(IncidentKind kind, int side, int slot, int word) {
-  game.incident.Kind = kind;
-  game.incident.Side = side;
-  game.incident.Slot = slot;
-  game.incident.InjuryWord = word;
-}
-
 /// How long he sits: counts that the periods' ends take off. A man of few minutes is in no hurry.
 int CountsOut(double minutes) {
   int counts = Rnd(25);
@@ -158,8 +151,9 @@ void CarryOutInjury() {
   const int length = game.play.InjuryLength;
   PlayerRecord& p = PlayerAt(side, slot);
   const int word = WordFor(length);
-  Note(IncidentKind::kInjury, side, slot, word);
-  game.incident.Length = length;
+  Incident& incident = Note(IncidentKind::kInjury, side, slot);
+  incident.InjuryWord = word;
+  incident.Length = length;
   KeepOnRecord(p, side, length, word);
   LoadedAt(side, slot).PlayerOut = 1;
   ManAt(side, slot).GameInjury = 1;
@@ -174,8 +168,7 @@ void CarryOutInjury() {
 
 int SeasonGames(int side) {
   const TeamRecord& team = game.team[side];
-  const bool college = team.TeamType == 'C' || team.TeamType == 'O';
-  return Round(FullSeason(team.Year, college, team.TeamSex == 'W'));
+  return Round(FullSeason(team.Year, IsCollegeOrInternational(team), team.TeamSex == 'W'));
 }
 
 double GamesToMiss(int side, int slot) {
@@ -193,13 +186,10 @@ bool ShakenUpTest() {
   if (league.rules.TemporaryGameInjuriesCheck == 0 || !EarlyInShotClock() || Rnd(30) != 1) return false;
   const int slot = Offense().Lineup[Rnd(kPositions)];
   if (slot == 0 || Durable(PlayerAt(game.OffenseSide, slot))) return false;
-  Note(IncidentKind::kShakenUp, game.OffenseSide, slot, LightWord());
+  Note(IncidentKind::kShakenUp, game.OffenseSide, slot).InjuryWord = LightWord();
   AddPlayLog(game.GameClock, game.OffenseSide, slot, "", "SHAKEN-UP");
   game.PlayResult = "SHAKEN-UP";
-  game.PlayKind = "";
-  game.DeadBallKind = 2;
-  game.GameState = "DEADBALL-DEFENSE";
-  game.possession = {};
+  StopInFrontcourt();
   return true;
 }
 
@@ -215,7 +205,7 @@ bool TemporaryInjuryTest() {
   if (slot == 0 || Durable(PlayerAt(side, slot))) return false;
   LeaveFloor(side, slot);
   ManAt(side, slot).TemporaryInjury = CountsOut(RealMinutes(PlayerAt(side, slot)));
-  Note(IncidentKind::kTemporaryInjury, side, slot, LightWord());
+  Note(IncidentKind::kTemporaryInjury, side, slot).InjuryWord = LightWord();
   AddPlayLog(game.GameClock, side, slot, "", "TIMEOUT", kInjuryNote);
   StopForIncident();
   LoadLineups();

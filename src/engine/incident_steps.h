@@ -20,11 +20,21 @@ inline bool InSet() { return game.GameState == "DEFENSE" || game.GameState == "O
 inline bool BothHaveMoreThan(int men) {
   return game.side[1].EligibleCount > men && game.side[2].EligibleCount > men;
 }
+/// What happened, and to whom or by whom, for those who tell it.
+inline Incident& Note(IncidentKind kind, int side, int slot = 0) {
+  Incident& incident = game.incident;
+  incident.Kind = kind;
+  incident.Side = side;
+  incident.Slot = slot;
+  return incident;
+}
+/// The play is dead, and the attackers take the ball out in the frontcourt.
+void StopInFrontcourt();
 /// The man leaves the floor, and the ball with him.
 void LeaveFloor(int side, int slot);
 /// The clock stands for it, and no timeout is charged.
 void StopForIncident();
-/// Out for this game, and by the rule of suspensions for `games` more. Returns the games.
+/// Out for this game and `games` more; returns the games.
 int Eject(int side, int slot, int games);
 /// `side` shoots so many technicals, taken by the man named for it or its best shooter; the side that has
 /// the ball keeps it.

@@ -93,8 +93,7 @@ bool AboveThreeDraws(int rating) {
 bool LetOff(const Suspect& suspect) {
   const PlayerRecord& p = PlayerAt(suspect.side, suspect.slot);
   if (Rnd(100) <= 90 || HadHisShare(p)) return true;
-  const TeamRecord& team = game.team[suspect.side];
-  if ((team.TeamType == 'C' || team.TeamType == 'O') && Rnd(100) <= 95) return true;
+  if (IsCollegeOrInternational(game.team[suspect.side]) && Rnd(100) <= 95) return true;
   if (AboveThreeDraws(p.RateSportsmanship) && Rnd(50) != 1) return true;
   return program.PlayoffGame && Rnd(10) <= 9;
 }
@@ -103,15 +102,13 @@ void CallTechnical(const Suspect& suspect) {
   const RulesRecord& rules = league.rules;
   const int side = suspect.side, slot = suspect.slot;
   StatLine& line = GameLine(side, slot);
-  game.incident.Kind = IncidentKind::kTechnical;
-  game.incident.Side = side;
-  game.incident.Slot = slot;
+  Note(IncidentKind::kTechnical, side, slot);
   if (line.Technicals < 255) ++line.Technicals;
   if (rules.TechnicalPFCheck == 2) PostFoul(side, slot);
   AddPlayLog(game.GameClock, side, slot, "", "TIMEOUT", kTechnicalNote);
   if (rules.TechList > 0 && line.Technicals >= rules.TechList) {
     game.incident.Ejected = true;
-    game.incident.Suspension = Eject(side, slot, 0);
+    Eject(side, slot, 0);
   }
   if (rules.DqList > 0 && line.Pf >= rules.DqList) LeaveFloor(side, slot);
   if (PositionOf(side, slot) == 0) {
@@ -164,17 +161,13 @@ bool IllegalDefenseTest() {
 
 void IllegalDefenseCall() {
   const int calls = ++Defense().IllegalDefenses;
-  game.incident.Kind = IncidentKind::kIllegalDefense;
-  game.incident.Side = game.DefenseSide;
+  Note(IncidentKind::kIllegalDefense, game.DefenseSide);
   game.incident.Warning = league.rules.IllegalDefenseList == 1 && calls == 1;
   AddPlayLog(game.GameClock, game.DefenseSide, 0, "", "ILLEGAL DEFENSE");
   game.PlayResult = "ILLEGAL DEFENSE";
   game.ShotClock = FullShotClock();
   if (!game.incident.Warning) return GiveTechnicalShots(game.OffenseSide, 1);
-  game.PlayKind = "";
-  game.DeadBallKind = 2;
-  game.GameState = "DEADBALL-DEFENSE";
-  game.possession = {};
+  StopInFrontcourt();
 }
 
 bool FightTest() {
@@ -192,11 +185,9 @@ void FightBegins() {
   StopForIncident();
   game.Tension = 0;
   if (first == 0 || second == 0) return;
-  game.incident.Kind = IncidentKind::kFight;
-  game.incident.Side = 1;
-  game.incident.Slot = first;
-  game.incident.OtherSlot = second;
-  game.incident.Ejected = true;
+  Incident& incident = Note(IncidentKind::kFight, 1, first);
+  incident.OtherSlot = second;
+  incident.Ejected = true;
   AddPlayLog(game.GameClock, 1, first, "", "TIMEOUT", kFightNote, 2, second);
   const bool suspends = league.rules.SuspensionsCheck;
   game.incident.Suspension = Eject(1, first, suspends ? 1 + Rnd(3) : 0);
@@ -231,12 +222,9 @@ void FlagrantFoul() {
   const bool reviewed = Reviewed(level);
   game.play.FlagrantLevel = level;
   if (level == 0 && !reviewed) return;
-  game.incident.Kind = IncidentKind::kFlagrant;
-  game.incident.Side = game.DefenseSide;
-  game.incident.Slot = play.Fouler;
-  game.incident.OtherSlot = game.BallPlayer;
-  game.incident.FlagrantLevel = level;
-  game.incident.Reviewed = reviewed;
+  Incident& incident = Note(IncidentKind::kFlagrant, game.DefenseSide, play.Fouler);
+  incident.FlagrantLevel = level;
+  incident.Reviewed = reviewed;
   if (level > 0) PostFlagrant(level);
 }
 

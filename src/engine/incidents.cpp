@@ -53,6 +53,13 @@ void LeaveFloor(int side, int slot) {
   if (side == game.OffenseSide && slot == game.BallPlayer) game.BallPlayer = game.BallSlot = 0;
 }
 
+void StopInFrontcourt() {
+  game.PlayKind = "";
+  game.DeadBallKind = 2;
+  game.GameState = "DEADBALL-DEFENSE";
+  game.possession = {};
+}
+
 void StopForIncident() {
   game.GameState = "TIMEOUT-DEFENSE";
   game.PlayKind = "";
@@ -66,7 +73,6 @@ int Eject(int side, int slot, int games) {
   ManAt(side, slot).Ejected = 1;
   p.Stats[3].Ejections = 1;
   LeaveFloor(side, slot);
-  if (!league.rules.SuspensionsCheck) return 0;
   p.SuspensionGames = static_cast<u8>(std::min(p.SuspensionGames + games, 255));
   return games;
 }

@@ -38,8 +38,7 @@ int ShootingFoulShare() {
       Scale(share, 1.25);
     }
   }
-  const TeamRecord& team = game.team[game.OffenseSide];
-  if (team.TeamType == 'O' || team.TeamType == 'C') Scale(share, 0.75);
+  if (IsCollegeOrInternational(game.team[game.OffenseSide])) Scale(share, 0.75);
   return Clamp(share, 350, 950);
 }
 

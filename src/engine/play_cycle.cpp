@@ -295,6 +295,15 @@ void SetPlayBox() {
   }
 }
 
+void NoteStarters() {
+  for (int s = 1; s <= 2; ++s) {
+    game.side[s].Starters = game.side[s].Lineup;
+    for (const int slot : game.side[s].Lineup) {
+      if (slot > 0) PlayerAt(s, slot).Stats[3].GS = 1;
+    }
+  }
+}
+
 void JumpBall() {
   const bool opening = !game.GameStarted;
   const int had = game.OffenseSide;
@@ -316,7 +325,8 @@ void JumpBall() {
       game.OffenseSide = 2;
     }
   }
-  const bool changed = !game.PeriodStart && game.OffenseSide != had;
+  // Nobody has had the ball yet when a game is taken up in mid-period with a jump.
+  const bool changed = !game.PeriodStart && game.PlayLogCount > 0 && game.OffenseSide != had;
   if (changed) {
     CountPossession(had);
     game.SecondChance = 0;
@@ -326,12 +336,7 @@ void JumpBall() {
   game.PossessionArrow = game.DefenseSide;
   if (opening) {  // who won the opening tip is kept: later jumps leave it
     game.OpeningTipWinner = game.OffenseSide;
-    for (int s = 1; s <= 2; ++s) {
-      game.side[s].Starters = game.side[s].Lineup;
-      for (int p = 1; p <= kPositions; ++p) {
-        if (const int slot = game.side[s].Lineup[p]; slot > 0) PlayerAt(s, slot).Stats[3].GS = 1;
-      }
-    }
+    NoteStarters();
   }
   game.GameStarted = true;
   NarrateOpening();

@@ -204,19 +204,17 @@ void CountPossession(int side) {
   ++game.team[3 - side].OppPossessions[3];
 }
 
-void SwapSides() {
-  CountPossession(game.OffenseSide);
-  std::swap(game.OffenseSide, game.DefenseSide);
-  game.possession = {};
-  game.fastBreak = {};
-  game.SecondChance = 0;
-  game.BallPlayer = game.BallSlot = 0;
-}
-
 void FaceAbout() {
   std::swap(game.OffenseSide, game.DefenseSide);
   game.possession = {};
   game.BallPlayer = game.BallSlot = 0;
+}
+
+void SwapSides() {
+  CountPossession(game.OffenseSide);
+  FaceAbout();
+  game.fastBreak = {};
+  game.SecondChance = 0;
 }
 
 void AddPlayLog(int clock, int side, int slot, PlayKind action, PlayResult outcome, PlayNote note,

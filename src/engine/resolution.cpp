@@ -23,7 +23,7 @@ bool ShotClockRule() { return league.rules.ShotClockList > 0; }
 
 void ClearPlay() {
   game.play = {};
-  if (game.incident.Kind != IncidentKind::kNone && !game.AnalysisMode) game.incident = {};
+  if (!game.AnalysisMode) game.incident = {};
   game.TimeoutTaken = 0;
   game.MomentumMark = 0;
   game.possession.JustQuickPassed = 0;  // the play that follows a quick pass takes its own time
@@ -172,8 +172,8 @@ void HoldBall() {
 
 void FaceDefender() {
   game.BallDefender = GuardOf(game.BallSlot);
-  const auto college = [](const TeamRecord& t) { return t.TeamType == 'C' || t.TeamType == 'O'; };
-  if (college(game.team[1]) && college(game.team[2]) && game.BallDefender > 0 && game.BallPlayer > 0) {
+  if (IsCollegeOrInternational(game.team[1]) && IsCollegeOrInternational(game.team[2]) &&
+      game.BallDefender > 0 && game.BallPlayer > 0) {
     Offense().CollegeStrength = StrengthOf(BallHandler(), game.team[game.OffenseSide]);
     Defense().CollegeStrength =
         StrengthOf(PlayerAt(game.DefenseSide, game.BallDefender), game.team[game.DefenseSide]);

@@ -98,8 +98,7 @@ bool ForcedTimeout() {
 bool HeldBall() {
   if (game.GameClock >= FullPeriod()) return false;
   int odds = 250;
-  const TeamRecord& team = game.team[game.OffenseSide];
-  if (team.TeamType == 'O' || team.TeamType == 'C') Scale(odds, 0.35);
+  if (IsCollegeOrInternational(game.team[game.OffenseSide])) Scale(odds, 0.35);
   if (Defense().LineupDefense >= Rnd(10) + 24) Scale(odds, 0.7);
   return Rnd(odds) == 1;
 }

@@ -16,6 +16,7 @@
 #include "frontoffice/team_identity.h"
 #include "league/coach_repairs.h"
 #include "league/data_tree.h"
+#include "league/league_reset.h"
 #include "league/player_values.h"
 #include "league/rules.h"
 #include "league/saved_rotation.h"
@@ -239,6 +240,7 @@ void DrawTeams(const Plan& plan, const NameData& data, const std::vector<TeamIde
 RulesRecord NewRules(const LeagueRequest& request, const Plan& plan) {
   RulesRecord rules = RulesOf(plan.preset->level, plan.year);
   rules.LeagueName = request.Name;
+  rules.CleanMark = kCleaned;  // a new folder has nothing to clean
   for (int d = 1; d <= kDivisions; ++d)
     rules.DivisionName[d] = d <= plan.divisions ? kDivisionNames[d - 1] : "";
   return rules;

@@ -8,9 +8,6 @@
 namespace tipline {
 
 inline bool IsCollegeTeam(const TeamRecord& team) { return team.TeamType == 'C'; }
-inline bool IsCollegeOrInternational(const TeamRecord& team) {
-  return team.TeamType == 'C' || team.TeamType == 'O';
-}
 inline bool IsWoman(const PlayerRecord& player) { return player.Sex == 'W'; }
 
 /// The era row that a season is measured against. Seasons before the first or after the last row take that

@@ -1,11 +1,11 @@
 #include "frontoffice/schedule_csv.h"
 
 #include <algorithm>
-#include <charconv>
 #include <vector>
 
 #include "base/calendar.h"
 #include "base/csv.h"
+#include "base/numbers.h"
 #include "base/record_file.h"
 #include "frontoffice/schedule_rules.h"
 #include "league/files.h"
@@ -28,14 +28,6 @@ std::vector<std::string> Items(std::string_view text) {
   return items;
 }
 
-/// A whole number; -1 for any other text.
-int Number(std::string_view text) {
-  text = Trimmed(text);
-  int number = -1;
-  const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
-  return end.ec == std::errc() && end.ptr == text.data() + text.size() ? number : -1;
-}
-
 /// Calendar month by the first three letters of its name, or by its place in the season (1 is September); 0
 /// for no month.
 int MonthOf(std::string_view text) {
@@ -44,7 +36,7 @@ int MonthOf(std::string_view text) {
     const std::string name = Upper(kSeasonMonthNames[season - 1]);
     if (wanted.size() >= 3 && wanted.substr(0, 3) == name.substr(0, 3)) return CalendarMonth(season);
   }
-  const int season = Number(text);
+  const int season = NumberIn<int>(text).value_or(0);
   return season >= 1 && season <= 12 ? CalendarMonth(season) : 0;
 }
 
@@ -65,7 +57,7 @@ bool ReadGame(std::span<const std::string> fields, int n, ScheduleRecord& row) {
   const auto shown = [&fields](std::size_t k) { return std::string(Trimmed(fields[k])); };
   const int month = MonthOf(fields[0]);
   if (month == 0) return RefusedWith("Invalid month: " + shown(0) + " " + game);
-  const int day = Number(fields[1]);
+  const int day = NumberIn<int>(fields[1]).value_or(0);
   if (day < 1 || day > (month == 2 ? 29 : 31)) {
     return RefusedWith("Invalid Day For " + std::string(MonthName(month)) + " : " + shown(1), game);
   }

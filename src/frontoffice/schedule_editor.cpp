@@ -27,20 +27,6 @@ ScheduleRecord* OpenRow(int row) {
   return nullptr;
 }
 
-std::string StatusWords(const ScheduleRecord& row) {
-  switch (row.Status.bytes[0]) {
-    case 'D':
-      return "Deleted";
-    case 'N':
-      return "Play Now";
-    case 'P':
-      return std::to_string(row.Score[1]) + "-" + std::to_string(row.Score[2]) +
-             (row.Overtime == 1 ? " (ot)" : "");
-    default:
-      return "Unplayed";
-  }
-}
-
 ScheduleLine LineOf(const ScheduleRecord& row, int number) {
   return {number,
           StatusWords(row),
@@ -73,6 +59,20 @@ bool DayInMonth(const ScheduleChoice& choice) {
 }
 
 }  // namespace
+
+std::string StatusWords(const ScheduleRecord& row) {
+  switch (row.Status.bytes[0]) {
+    case 'D':
+      return "Deleted";
+    case 'N':
+      return "Play Now";
+    case 'P':
+      return std::to_string(row.Score[1]) + "-" + std::to_string(row.Score[2]) +
+             (row.Overtime == 1 ? " (ot)" : "");
+    default:
+      return "Unplayed";
+  }
+}
 
 bool HCSCHEDULE::Open() {
   Warned = false;

@@ -16,6 +16,9 @@ struct ScheduleLine {
   std::string status, visitor, home, points, rebounds, assists, location;
 };
 
+/// "101-99 (ot)" of a played game; else "Unplayed", "Play Now" or "Deleted".
+std::string StatusWords(const ScheduleRecord& row);
+
 inline constexpr const char* kScheduleColumns[] = {"Status",   "Visitor", "Home",    "Points",
                                                    "Rebounds", "Assists", "Location"};
 

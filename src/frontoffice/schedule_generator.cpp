@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <bitset>
-#include <charconv>
 #include <utility>
 
 #include "base/calendar.h"
+#include "base/numbers.h"
 #include "base/random.h"
 #include "league/schedule.h"
 #include "platform/dialogs.h"
@@ -281,12 +281,7 @@ void ScrambleSlots(int last, std::vector<ScheduleDraft::Game>& games) {
 }
 
 /// The number in a box; -1 for what is none.
-int BoxNumber(std::string_view box) {
-  box = Trimmed(box);
-  int number = -1;
-  const auto end = std::from_chars(box.data(), box.data() + box.size(), number);
-  return end.ec == std::errc() && end.ptr == box.data() + box.size() ? number : -1;
-}
+int BoxNumber(std::string_view box) { return NumberIn<int>(box).value_or(-1); }
 
 }  // namespace
 

@@ -1,10 +1,10 @@
 #include "frontoffice/team_identity.h"
 
 #include <algorithm>
-#include <charconv>
 #include <set>
 
 #include "base/csv.h"
+#include "base/numbers.h"
 #include "base/random.h"
 #include "base/record_file.h"
 #include "platform/folders.h"
@@ -18,11 +18,7 @@ std::vector<std::string> DataLines(const char* file) {
   return Lines(ReadWholeFile(platform::ShippedData() / file));
 }
 
-int Number(const std::string& text) {
-  int value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
-}
+int Number(const std::string& text) { return NumberIn<int>(text).value_or(0); }
 
 struct StateZones {
   std::vector<std::pair<std::string, int>> rows;

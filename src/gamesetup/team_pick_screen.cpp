@@ -5,7 +5,6 @@
 #include "base/calendar.h"
 #include "base/numbers.h"
 #include "base/record_file.h"
-#include "coach/computer_coach.h"
 #include "coach/substitutions.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -55,14 +54,20 @@ HCGameTeams2008::HCGameTeams2008() : Title(TitleOfGame()), CalendarYear(league.t
   for (int s = 1; s <= 2; ++s) {
     game.side[s].CoachMode = "H";
     TeamDir[s] = program.LeagueFolder;
-    game.GameTeam[s] = 0;
-    FillList(s);
+    ClearPick(s);
   }
+  FillList(1);
+  PickTeams[2] = PickTeams[1];
+  PickList[2] = PickList[1];
+}
+
+void HCGameTeams2008::ClearPick(int side) {
+  game.GameTeam[side] = 0;
+  TeamLabel[side] = {std::string(kSideWord[side])};
+  RosterPanel[side].clear();
 }
 
 void HCGameTeams2008::FillList(int side) {
-  TeamLabel[side] = {std::string(kSideWord[side])};
-  RosterPanel[side].clear();
   auto& teams = PickTeams[side];
   teams.assign(kTeams + 1, {});
   RecordFile(TeamDir[side] / "HCTEAMS", kTeamSlotBytes).ReadAll(kTeams, [&teams](int n, const u8* bytes) {
@@ -80,7 +85,7 @@ void HCGameTeams2008::FillList(int side) {
 
 void HCGameTeams2008::PickFolder(int side, const std::filesystem::path& folder) {
   if (LeagueGame()) return;
-  game.GameTeam[side] = 0;
+  ClearPick(side);
   TeamDir[side] = folder;
   FillList(side);
 }
@@ -102,8 +107,7 @@ bool HCGameTeams2008::LoadFrom(int side, int team) const {
 }
 
 void HCGameTeams2008::PickTeam(int side, int team) {
-  TeamLabel[side] = {std::string(kSideWord[side])};
-  RosterPanel[side].clear();
+  ClearPick(side);
   if (!LoadFrom(side, team)) return;
   const TeamRecord& t = game.team[side];
   Label& label = TeamLabel[side];
@@ -168,10 +172,12 @@ bool HCGameTeams2008::TakeDate() const {
 
 void HCGameTeams2008::StartScenario() const {
   LoadLineups();
+  NoteStarters();  // there is no opening tip to do it
   game.GameStarted = true;
   game.Period = ScenarioPeriod + 1;
   game.GameClock = ScenarioMinutes * kMinute + ScenarioSeconds * 10;
   for (int s = 1; s <= 2; ++s) game.side[s].Score = ScenarioPoints[s];
+  if (const int lead = Lead(1)) game.LeadSide = lead > 0 ? 1 : 2;
   if (ScenarioSituation == 0) {
     game.GameState = "JUMPBALL-1";
   } else {
@@ -180,7 +186,6 @@ void HCGameTeams2008::StartScenario() const {
     game.DefenseSide = 3 - ScenarioSituation;
     game.ShotClock = FullShotClock();
   }
-  SetPlayBox();
 }
 
 bool HCGameTeams2008::PlayCommand(GameScreens& screens) {
@@ -193,10 +198,7 @@ bool HCGameTeams2008::PlayCommand(GameScreens& screens) {
     return Refused("You must select two different teams for a league game!");
   }
   program.TwoFolderGame = !LeagueGame() && Plainly(TeamDir[1]) != Plainly(TeamDir[2]);
-  for (int s = 1; s <= 2; ++s) {
-    if (LeagueGame()) LoadTeam(game.GameTeam[s], s);
-    if (game.side[s].CoachMode == "C") ComputerDefenseCall(s);
-  }
+  for (int s = 1; LeagueGame() && s <= 2; ++s) LoadTeam(game.GameTeam[s], s);
   PrepareGame();
   program.Autoplaying = false;
   if (program.ScenarioGame) StartScenario();
@@ -205,9 +207,7 @@ bool HCGameTeams2008::PlayCommand(GameScreens& screens) {
   const bool computers = game.side[1].CoachMode == "C" && game.side[2].CoachMode == "C";
   if (computers && setup.ComputerCheck == 1) screens.OpenViewer();
   if (!game.GameOver && !program.ScenarioGame) NewGame();
-  // The stop of a scenario was made ready for two humans: a side that went to the computer looks at it anew.
-  const bool unattended = Watching() || game.side[1].CoachMode == "C" || game.side[2].CoachMode == "C";
-  if (program.ScenarioGame && unattended) SetPlayBox();
+  if (program.ScenarioGame && !game.GameOver) SetPlayBox();  // by what the screen has settled
   if (!game.GameOver && !program.Autoplaying) screens.OpenGame();
   return true;
 }

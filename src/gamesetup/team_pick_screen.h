@@ -43,7 +43,8 @@ struct HCGameTeams2008 {
 
   /// Another folder for a side; its pick is gone. Nothing in a league game: both teams are of this league.
   void PickFolder(int side, const std::filesystem::path& folder);
-  /// Loads the team into its side of the game. The league stays as it is, whatever folder the team is from.
+  /// Loads the team into its side of the game; one that is not there leaves the side without a pick. The
+  /// league stays as it is, whatever folder the team is from.
   void PickTeam(int side, int team);
   void PickDate(int calendarMonth, int day, int year);
   // Out of their bounds the boxes take the nearest bound; a full period leaves no seconds.
@@ -60,6 +61,7 @@ struct HCGameTeams2008 {
  private:
   std::filesystem::path savedLeagueFolder_;
 
+  void ClearPick(int side);
   bool LoadFrom(int side, int team) const;
   void FillList(int side);
   void ShowRoster(int side);

@@ -4,6 +4,7 @@
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "league/program.h"
+#include "league/roster.h"
 #include "league/schedule.h"
 #include "platform/dialogs.h"
 
@@ -19,17 +20,13 @@ void TakeDate(const ScheduleRecord& row) {
   if (game.GameMonth >= kJanuary) ++game.GameYear;
 }
 
-bool LoadBoth(const ScheduleRecord& row) {
-  const bool loaded = LoadTeam(row.Team[1], 1);
-  return LoadTeam(row.Team[2], 2) && loaded;
-}
-
-bool TeamsSelected(bool selected) {
-  if (!selected) {
-    platform::dialogs().Tell("Teams not selected for this game! Use Organize\\Schedule to select teams.",
-                             "Teams Not Selected For This Game!");
-  }
-  return selected;
+/// A row names no team yet, or one that was removed since.
+bool TeamsSelected(const ScheduleRecord& row) {
+  Roster roster;
+  if (LookAtRoster(row.Team[1], roster) && LookAtRoster(row.Team[2], roster)) return true;
+  platform::dialogs().Tell("Teams not selected for this game! Use Organize\\Schedule to select teams.",
+                           "Teams Not Selected For This Game!");
+  return false;
 }
 
 void PrepareAndPlay(GameScreens& screens) {
@@ -46,7 +43,7 @@ void PrepareAndPlay(GameScreens& screens) {
 bool PlayUpcomingGame(int row, GameScreens& screens) {
   if (row < 1 || row > league.GameCount()) return false;
   const ScheduleRecord chosen = league.ScheduleGame[static_cast<std::size_t>(row)];
-  if (!TeamsSelected(chosen.Team[1] != kFreeAgent && chosen.Team[2] != kFreeAgent)) return false;
+  if (!TeamsSelected(chosen)) return false;
   if (!screens.Preview(chosen)) return false;
   game.ScheduleRow = row;
   game.WatchUntil = "NONE";
@@ -56,13 +53,13 @@ bool PlayUpcomingGame(int row, GameScreens& screens) {
   program.TwoFolderGame = program.ScenarioGame = false;
   game.GameStarted = game.GameOver = game.GameDone = false;
   for (Side& side : game.side) side.CoachMode = "H";
-  const bool loaded = LoadBoth(chosen);
+  for (int s = 1; s <= 2; ++s) LoadTeam(chosen.Team[s], s);
   game.NeutralGame = chosen.NeutralSite == 1;
-  if (TeamsSelected(loaded)) PrepareAndPlay(screens);  // a row may name a team that was removed since
+  PrepareAndPlay(screens);
   game.ScheduleRow = 0;
   LoadSchedule();
   program.Autoplaying = program.ReplayLocked = false;
-  return loaded;
+  return true;
 }
 
 }  // namespace tipline

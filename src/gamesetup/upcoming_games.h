@@ -5,7 +5,8 @@
 namespace tipline {
 
 /// Plays row `row` of `league.ScheduleGame`. False, with its message and nothing changed, when a team is not
-/// selected; false as well for no row, and when the preview is left without a start.
+/// selected or one of the two is gone; false as well for no row, and when the preview is left without a
+/// start. Reads the whole schedule again at the end: season play has its own way.
 bool PlayUpcomingGame(int row, GameScreens& screens);
 
 }  // namespace tipline

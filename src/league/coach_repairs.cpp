@@ -70,16 +70,13 @@ struct CoachRepair {
 
 }  // namespace
 
-bool RepairCoach(CoachRecord& coach, TeamRecord& team) {
-  const auto coachBefore = RecordBytes(coach);
-  const auto teamBefore = RecordBytes(team);
+void RepairCoach(CoachRecord& coach, TeamRecord& team) {
   CoachRepair repair{coach, team};
   repair.Sounds();
   repair.Looks();
   repair.Habits();
   repair.Sliders();
   repair.Logo();
-  return RecordBytes(coach) != coachBefore || RecordBytes(team) != teamBefore;
 }
 
 void AssignLogo(TeamRecord& team) {

@@ -6,8 +6,8 @@
 namespace tipline {
 
 /// The repairs of a coach's record at the load of his team, and those of the team's logo, which come with
-/// them. The plans themselves are made elsewhere. True when one changed a record.
-bool RepairCoach(CoachRecord& coach, TeamRecord& team);
+/// them. The plans themselves are made elsewhere.
+void RepairCoach(CoachRecord& coach, TeamRecord& team);
 
 /// The logo of the team's city: the file that the table of cities knows, else <City>.jpg.
 void AssignLogo(TeamRecord& team);

@@ -1,7 +1,6 @@
 #include "league/era_screen.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 #include <iterator>
 
@@ -27,15 +26,6 @@ std::string Percentage(double made, double attempts) {
   return text.starts_with("0.") ? text.substr(1) : text;
 }
 
-/// -1 when `text` is no number.
-double NumberIn(std::string_view text) {
-  text = Trimmed(text);
-  double value = 0;
-  const auto end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value);
-  return result.ec == std::errc() && result.ptr == end ? value : -1;
-}
-
 }  // namespace
 
 void HCERAFORM::Open() { Closed = false; }
@@ -58,7 +48,7 @@ std::string HCERAFORM::BoxText(bool college, const EraBox& box) const {
 bool HCERAFORM::LeaveBox(bool college, std::string_view name, std::string_view text) {
   const auto* box = std::find_if(std::begin(kEraBoxes), std::end(kEraBoxes),
                                  [name](const EraBox& each) { return each.Name == name; });
-  const double value = NumberIn(text);
+  const double value = NumberIn<double>(text).value_or(-1);
   if (box == std::end(kEraBoxes) || box->Made || !(value >= 0 && value <= 32767)) return false;
   EraRecord& row = Row(Year, college);
   if (!box->Field) {

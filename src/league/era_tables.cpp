@@ -1,8 +1,8 @@
 // The era tables that ship with the program, as text: one line a season.
-#include <charconv>
 #include <optional>
 
 #include "base/csv.h"
+#include "base/numbers.h"
 #include "base/record_file.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
@@ -16,11 +16,8 @@ constexpr std::size_t kFields = 15;
 
 template <class Number>
 std::optional<Number> Parse(std::string_view text, Number least, Number most) {
-  Number value{};
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
-  if (!whole || !(value >= least && value <= most)) return std::nullopt;
-  return value;
+  const auto value = NumberIn<Number>(text);
+  return value && *value >= least && *value <= most ? value : std::nullopt;
 }
 
 /// Puts one line into its row; gives its year, 0 for a bad line.

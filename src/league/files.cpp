@@ -1,5 +1,7 @@
 #include "league/files.h"
 
+#include <algorithm>
+
 #include "base/record_file.h"
 #include "league/program.h"
 #include "platform/dialogs.h"
@@ -14,6 +16,13 @@ RecordFile Coaches() { return {CoachesFile(), kCoachSlotBytes}; }
 RecordFile Players() { return {PlayersFile(), kPlayerSlotBytes}; }
 
 RecordFile CoachExport(int team) { return {CoachExportFile(team), kCoachSlotBytes}; }
+
+/// The season of 2019 was cut short, and its era row with it; whoever has more games played it as planned.
+bool HoldsFullSeasonOf2019() {
+  return std::any_of(league.player.begin(), league.player.end(), [](const PlayerRecord& man) {
+    return man.Year == 2019 && IsTeamSlot(man.TeamNo) && man.Stats[1].G >= 75;
+  });
+}
 
 }  // namespace
 
@@ -83,6 +92,7 @@ void LoadLeaguePlayers() {
   file.ReadAll(rows, [](int row, const u8* bytes) {
     ReadRecord(bytes, league.player[static_cast<std::size_t>(row)]);
   });
+  league.FullSeasonScale = HoldsFullSeasonOf2019() ? 82.0 / 71 : 1.0;
 }
 
 bool SaveAllTeams() {

@@ -36,7 +36,7 @@ void ReadPlayer(int recNo, PlayerRecord& player);
 /// Writes a row at its `RecNo`; false when that is below 1 or the file can't be written.
 bool WritePlayer(const PlayerRecord& player);
 
-/// All rows of HCPLAYER into `league.player`, index = row.
+/// All rows of HCPLAYER into `league.player`, index = row; sets `league.FullSeasonScale`.
 void LoadLeaguePlayers();
 int PlayerRows();
 

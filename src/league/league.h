@@ -62,7 +62,7 @@ struct League {
   bool EqualDivisions = true;  ///< all used divisions are of one size
   bool MixedYears = false;     ///< the active teams hold more than one Year
 
-  double FullSeasonScale = 1.0;  ///< 82 / 71 when the rosters hold full seasons of 2019 or later
+  double FullSeasonScale = 1.0;  ///< 82 / 71 when men of 2019 played more games than that season had
 };
 
 extern League league;
@@ -83,5 +83,9 @@ const EraRecord& EraRow(int year, bool college, int fallback, int oldest = 1);
 inline int HeightOf(const PlayerRecord& player) {
   return player.HeightFeet * 12 + player.HeightInches;
 }  ///< inches
+
+inline bool IsCollegeOrInternational(const TeamRecord& team) {
+  return team.TeamType == 'C' || team.TeamType == 'O';
+}
 
 }  // namespace tipline

@@ -3,6 +3,7 @@
 #include "league/files.h"
 #include "league/league_reset.h"
 #include "league/roster.h"
+#include "league/rules.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -72,7 +73,16 @@ bool CleanLeagueFolderRoutine() {
   for (int team = 1; team <= kTeams; ++team) {
     if (league.team[team].TeamActive == 1 && !CleanTeam(team, inUse)) return false;
   }
-  return EmptyUnusedRows(inUse);
+  if (!EmptyUnusedRows(inUse)) return false;
+  LoadLeaguePlayers();
+  return true;
+}
+
+bool CleanUnmarkedFolder() {
+  if (league.rules.CleanMark == kCleaned) return true;
+  if (!CleanLeagueFolderRoutine()) return false;
+  league.rules.CleanMark = kCleaned;
+  return SaveRules();
 }
 
 bool CleanLeagueFolder() {

@@ -6,6 +6,7 @@
 #include "league/daily.h"
 #include "league/files.h"
 #include "league/league_check.h"
+#include "league/league_reset.h"
 #include "league/program.h"
 #include "league/roster.h"
 #include "league/rules.h"
@@ -90,6 +91,8 @@ class Doctor {
     if (!RulesMakeSense(league.rules)) Say("HCRULES holds rules outside their lists.");
     const TeamRecord& first = league.team[1];
     if (RepairRules(first.Year, first.TeamType.bytes[0])) Say("An opening would repair the rules.");
+    if (league.rules.CleanMark != kCleaned)
+      Say("An opening would clean the folder: rows of men who stand on no roster, or twice, go.");
   }
 
   void Team(int teamNo) {
@@ -119,7 +122,6 @@ class Doctor {
     Say(name + ": its load would repair " + list + ".");
   }
 
-  /// What the roster names, and what stands there.
   /// What the roster names, and what stands there.
   void Entries(const Roster& roster, const std::string& name) {
     int missing = 0;

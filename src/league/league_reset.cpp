@@ -93,11 +93,14 @@ bool DeleteBoxes(const WorkLabel& label) {
   return true;
 }
 
-}  // namespace
-
-bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
+/// Teams first: the schedule keeps only games of teams that are there.
+bool ReadSeason() {
   LoadAllTeams();
-  if (!LoadSchedule()) return false;
+  return LoadSchedule();
+}
+
+/// Of the season as it stands in memory.
+bool ClearResults(bool realLifeToo, const WorkLabel& label) {
   Say(label, "Deleting player stats..");
   for (const char* name : {"HcHighlights.txt", "HcLeaders", "HcTop40", "HCTICKER", "HcInjuryHistory"}) {
     if (!Truncate(name)) return false;
@@ -112,14 +115,18 @@ bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
   return SaveAllTeams();
 }
 
+}  // namespace
+
+bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
+  return ReadSeason() && ClearResults(realLifeToo, label);
+}
+
 bool ResetLeague(bool realLifeToo, const WorkLabel& label) {
-  LoadAllTeams();  // the schedule keeps only games of teams that are there
-  if (!LoadSchedule()) return false;
+  if (!ReadSeason()) return false;
   for (ScheduleRecord& row : league.ScheduleGame) {
     if (IsCupGame(row)) row.Status = "D";
   }
-  if (!SaveSchedule() || !ZeroPools() || !Truncate("HCRECORDS") || !ZeroStats(realLifeToo, label))
-    return false;
+  if (!ZeroPools() || !Truncate("HCRECORDS") || !ClearResults(realLifeToo, label)) return false;
   platform::dialogs().Tell("League Reset Complete!");
   return true;
 }

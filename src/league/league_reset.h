@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "base/types.h"
+
 namespace tipline {
 
 /// Told what is being done while it lasts: "Deleting player stats..".
@@ -20,7 +22,12 @@ bool ZeroStats(bool realLifeToo = false, const WorkLabel& label = {});
 /// file could not be written.
 bool CleanLeagueFolder();
 /// Of two rows of one roster with the same man and real season one goes, first the one without replay games;
-/// rows of HCPLAYER that are neither on a roster nor free agents are emptied.
+/// rows of HCPLAYER that are neither on a roster nor free agents are emptied. `league.player` follows.
 bool CleanLeagueFolderRoutine();
+
+inline constexpr u8 kCleaned = 133;  ///< `CleanMark` of a league whose folder has been cleaned
+/// The same without a question, once in the life of a league: nothing where the rules say that it was done.
+/// False, after telling the user, when a file could not be written.
+bool CleanUnmarkedFolder();
 
 }  // namespace tipline

@@ -1,10 +1,10 @@
 #include "league/name_tables.h"
 
-#include <charconv>
 #include <limits>
 #include <sstream>
 
 #include "base/csv.h"
+#include "base/numbers.h"
 #include "base/record_file.h"
 #include "league/player_record.h"
 #include "league/program.h"
@@ -19,9 +19,9 @@ using Fields = std::vector<std::string>;
 
 /// The whole text as a number from `low` to `high`.
 bool Number(std::string_view text, long low, long high, long& number) {
-  text = Trimmed(text);
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() && number >= low && number <= high;
+  const auto value = NumberIn<long>(text);
+  if (value) number = *value;
+  return value && number >= low && number <= high;
 }
 
 /// A table of the program folder as text, taken from what ships when the user has none.

@@ -8,6 +8,8 @@
 
 namespace tipline {
 
+inline constexpr int kInactive = 99;  ///< PlayerRecord::Status of a man who does not play
+
 struct PlayerRecord {
   static constexpr int kRecordSize = 1499;
 

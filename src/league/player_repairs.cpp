@@ -220,8 +220,7 @@ struct PlayerRepair {
 
 }  // namespace
 
-bool RepairPlayer(PlayerRecord& player, const TeamRecord& team) {
-  const auto before = RecordBytes(player);
+void RepairPlayer(PlayerRecord& player, const TeamRecord& team) {
   PlayerRepair repair{player, team};
   repair.Nobody();
   repair.WinLoss();
@@ -245,7 +244,6 @@ bool RepairPlayer(PlayerRecord& player, const TeamRecord& team) {
   if (TakeMark(player.InfoMark, 99)) player.InfoText = "";
   repair.Usage();
   repair.CommonSurname();
-  return RecordBytes(player) != before;
 }
 
 void SetMinutesFromLine(PlayerRecord& player) {

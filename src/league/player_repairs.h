@@ -7,8 +7,8 @@
 namespace tipline {
 
 /// The repairs of a man at the load of `team`, on whose roster he stands, in their order. Draws nothing. A
-/// row that holds nobody gets TeamNo 0. True when one changed the record.
-bool RepairPlayer(PlayerRecord& player, const TeamRecord& team);
+/// row that holds nobody gets TeamNo 0.
+void RepairPlayer(PlayerRecord& player, const TeamRecord& team);
 
 /// `TargetMinutes` from his real minutes, `PositionAllowed` from his three positions.
 void SetMinutesFromLine(PlayerRecord& player);

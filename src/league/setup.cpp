@@ -22,13 +22,6 @@ bool Damaged() {
   return setup.NarratorScroll > 20 || setup.ConferenceCheck[0] > 1 || setup.ConferenceCheck[1] > 1;
 }
 
-void FillCalls(const u8 (&grid)[3][5]) {
-  for (int band = 1; band <= 3; ++band) {
-    for (int period = 1; period <= 5; ++period)
-      setup.PlayCallFrequency[band][period] = grid[band - 1][period - 1];
-  }
-}
-
 }  // namespace
 
 std::filesystem::path SetupFile() {
@@ -53,18 +46,18 @@ bool SaveSetup() {
   return Written(file.Write(1, setup), file.Path());
 }
 
-void UseDefaultCalls() {
+void UseDefaultCalls(SetupRecord& s) {
   // clang-format off
-  FillCalls({{2,  2, 2,  3, 10},     // more than six minutes left: first to fourth period, overtime
-             {2,  2, 2,  5, 10},     // less than six
-             {2, 10, 2, 10, 10}});   // less than two
+  s.PlayCallFrequency[1] = {{2,  2, 2,  3, 10}};  // more than six minutes left: first to fourth period, overtime
+  s.PlayCallFrequency[2] = {{2,  2, 2,  5, 10}};  // less than six
+  s.PlayCallFrequency[3] = {{2, 10, 2, 10, 10}};  // less than two
   // clang-format on
 }
 
-void CallNoPlays() { setup.PlayCallFrequency = {}; }
+void CallNoPlays(SetupRecord& s) { s.PlayCallFrequency = {}; }
 
-void CallAllPlays() {
-  for (auto& band : setup.PlayCallFrequency) band.Fill(10);
+void CallAllPlays(SetupRecord& s) {
+  for (auto& band : s.PlayCallFrequency) band.Fill(10);
 }
 
 }  // namespace tipline

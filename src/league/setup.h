@@ -22,10 +22,10 @@ bool SaveSetup();
 /// The repairs of LoadSetup alone, on `setup`.
 void RepairSetup();
 
-// The buttons of the play-calling grid, `PlayCallFrequency`.
-void UseDefaultCalls();  ///< the human calls some plays, and all of them when it counts
-void CallNoPlays();
-void CallAllPlays();
+// The buttons of the play-calling grid, `PlayCallFrequency`; a screen has a record of its own.
+void UseDefaultCalls(SetupRecord& s = setup);  ///< the human calls some plays, and all when it counts
+void CallNoPlays(SetupRecord& s = setup);
+void CallAllPlays(SetupRecord& s = setup);
 
 /// What ratings 1 to 10 are called; index 0 is the first.
 inline constexpr std::array<std::string_view, 10> kRatingWord{

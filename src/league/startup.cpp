@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "league/data_tree.h"
 #include "league/files.h"
+#include "league/league_reset.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
@@ -71,7 +72,7 @@ bool CheckGameOpenStatus() {
 void MarkClosed() { WriteStatus("Closed"); }
 std::string StatusFilePath() { return StatusFile().string(); }
 
-bool ReloadLeague() {
+bool OpenLeague() {
   const fs::path folder = program.LeagueFolder;
   SaveSetup();
   LoadSetup();
@@ -80,16 +81,16 @@ bool ReloadLeague() {
   LoadAllTeams();
   LoadLeaguePlayers();
   const bool schedule = LoadSchedule();
-  return schedule && (rules || SaveRules());
+  return schedule && (rules || SaveRules()) && CleanUnmarkedFolder();
 }
 
 bool OpenSeason(const std::string& name) {
   if (FindLeague(name).empty() || !MakeCurrent(name)) return false;
-  return ReloadLeague();
+  return OpenLeague();
 }
 
 bool OpenRecentLeague(const std::string& folder) {
-  return IsAvailable(folder) && PushRecent(folder) && ReloadLeague();
+  return IsAvailable(folder) && PushRecent(folder) && OpenLeague();
 }
 
 std::string SeasonModeLabel() {
@@ -103,7 +104,7 @@ bool SwitchSeasonMode() {
   if (league.rules.IsPlayoffModule == 1) {
     program.PlayoffGame = false;
     if (Upper(folder).ends_with(Upper(kModule))) folder.resize(folder.size() - kModule.size());
-    return IsAvailable(folder) && PushSeason(folder) && ReloadLeague();
+    return IsAvailable(folder) && PushSeason(folder) && OpenLeague();
   }
   if (HasUnplayedGames() && !Ask("There are unplayed games on the schedule. Continue?")) return false;
   if (league.rules.HasPlayoffModule == 0) {
@@ -113,7 +114,7 @@ bool SwitchSeasonMode() {
     return false;
   }
   const std::string module = folder + std::string(kModule);
-  return IsAvailable(module) && PushSeason(module) && ReloadLeague();
+  return IsAvailable(module) && PushSeason(module) && OpenLeague();
 }
 
 HCSETUPFORM::HCSETUPFORM() : FolderLabel(program.RecentList.empty() ? "" : program.RecentList.front()) {}
@@ -130,9 +131,11 @@ std::vector<std::string> HCSETUPFORM::DriveList() const {
 std::vector<std::string> HCSETUPFORM::FolderList() const { return SeasonNames(); }
 
 bool HCSETUPFORM::ChooseDrive(const std::string& drive) {
-  if (!tipline::ChooseDrive(drive)) return false;
-  FolderLabel = SeasonsRoot();
-  return true;
+  MarkClosed();
+  const bool moved = tipline::ChooseDrive(drive);
+  WriteStatus("Open");
+  if (moved) FolderLabel = SeasonsRoot();
+  return moved;
 }
 
 bool HCSETUPFORM::SaveCommand() {
@@ -141,7 +144,7 @@ bool HCSETUPFORM::SaveCommand() {
     platform::dialogs().Tell("Please select a season or hit cancel.");
     return false;
   }
-  if (!PushRecent(FolderLabel) || !ReloadLeague()) return false;
+  if (!PushRecent(FolderLabel) || !OpenLeague()) return false;
   league.rules.CleanMark = 0;  // the new league is cleaned up at the next look
   if (!SaveRules()) return false;
   FindPhotoFolder();

@@ -14,9 +14,10 @@ void MarkClosed();
 std::string StatusFilePath();
 
 /// Reads the league in `program.LeagueFolder` anew, as every opening does: setup written and read, rules,
-/// teams with their repairs, players, schedule. A league without a rules file gets one, one without teams
-/// opens. False, told, when the schedule or that rules file can't be read or written.
-bool ReloadLeague();
+/// teams with their repairs, players, schedule; then the clean-up, where the folder never had it. A league
+/// without a rules file gets one, one without teams opens. False, told, when the schedule or that rules file
+/// can't be read or written, or the clean-up failed.
+bool OpenLeague();
 /// Makes a league of the seasons root current. False when there is no such folder, or it holds no league.
 bool OpenSeason(const std::string& name);
 /// Makes a league of the recent list current. False, with its message and nothing changed, when its folder is
@@ -38,7 +39,8 @@ struct HCSETUPFORM {
   std::vector<std::string> DriveList() const;
   /// Folders under the label's seasons root.
   std::vector<std::string> FolderList() const;
-  /// Moves the tree, and the folder list with it. False when there is no such drive.
+  /// Moves the tree, and the folder list with it; the tree left behind is free for another copy of the
+  /// program. False when there is no such drive.
   bool ChooseDrive(const std::string& drive);
   /// Makes the picked folder the active season. False, with its message, while no season is picked.
   bool SaveCommand();

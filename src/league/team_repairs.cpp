@@ -169,21 +169,17 @@ void RepairSlot(TeamRecord& t) {
   }
 }
 
-bool RepairTeamAtOpening(TeamRecord& team) {
-  const auto before = RecordBytes(team);
+void RepairTeamAtOpening(TeamRecord& team) {
   TeamRepair repair{team};
   repair.Totals();
   repair.Name();
   repair.RealRecord();
   repair.Conference();
   repair.Splits();
-  return RecordBytes(team) != before;
 }
 
-bool RepairTeam(TeamRecord& team, CoachRecord& coach) {
-  const auto before = RecordBytes(team);
-  const bool font = TakeMark(coach.FontMark, 99);
-  if (font) coach.TeamFont = "Arial";
+void RepairTeam(TeamRecord& team, CoachRecord& coach) {
+  if (TakeMark(coach.FontMark, 99)) coach.TeamFont = "Arial";
   TeamRepair repair{team};
   repair.Abbreviation();
   repair.Name();
@@ -203,7 +199,6 @@ bool RepairTeam(TeamRecord& team, CoachRecord& coach) {
   repair.Bounds();
   repair.Courts();
   repair.RoadColors();
-  return font || RecordBytes(team) != before;
 }
 
 void AssignHomeCourt(TeamRecord& team) {

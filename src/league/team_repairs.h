@@ -6,15 +6,15 @@
 
 namespace tipline {
 
-/// The repairs of an opened league, which need the team's record alone. True when one changed it.
-bool RepairTeamAtOpening(TeamRecord& team);
+/// The repairs of an opened league, which need the team's record alone.
+void RepairTeamAtOpening(TeamRecord& team);
 
 /// What every slot of an opened league must have, whether it holds a team or not.
 void RepairSlot(TeamRecord& team);
 
 /// The repairs of a team that is loaded. The font of its screens, which stands in the coach's record, goes
-/// with them. True when one changed a record.
-bool RepairTeam(TeamRecord& team, CoachRecord& coach);
+/// with them.
+void RepairTeam(TeamRecord& team, CoachRecord& coach);
 
 /// The court files of the team's city, as far as the table of cities knows them.
 void AssignHomeCourt(TeamRecord& team);

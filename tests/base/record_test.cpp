@@ -2,12 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "base/random.h"
 #include "league/coach_record.h"
+#include "league/daily.h"
 #include "league/era_record.h"
+#include "league/office_files.h"
 #include "league/player_record.h"
 #include "league/rules_record.h"
 #include "league/schedule_record.h"
+#include "league/setup_record.h"
 #include "league/team_record.h"
 #include "league/tournament_record.h"
 
@@ -17,7 +22,8 @@ namespace {
 template <class Record>
 class Records : public testing::Test {};
 using AllRecords = testing::Types<StatLine, RealTotalsLine, SeriesLine, TeamRecord, PlayerRecord, CoachRecord,
-                                  RulesRecord, EraRecord, ScheduleRecord, TournamentPools>;
+                                  RulesRecord, EraRecord, ScheduleRecord, TournamentPools, SetupRecord,
+                                  DailyRecord, AddressBook, DraftSettings, DraftSelections>;
 TYPED_TEST_SUITE(Records, AllRecords);
 
 TYPED_TEST(Records, OffsetsMeetEndToEnd) {
@@ -39,44 +45,34 @@ TYPED_TEST(Records, AnyBytesAreReadAndWrittenBackTheSame) {
   EXPECT_EQ(RecordBytes(record), bytes);
 }
 
-TEST(Record, SizesAreThoseOfTheFiles) {
-  EXPECT_EQ(TeamRecord::kRecordSize, 1500);
-  EXPECT_EQ(PlayerRecord::kRecordSize, 1499);
-  EXPECT_EQ(CoachRecord::kRecordSize, 13607);
-  EXPECT_EQ(RulesRecord::kRecordSize, 2680);
-  EXPECT_EQ(EraRecord::kRecordSize, 81);
+/// The record that these bytes of a file make, all others being 0.
+template <class Record>
+Record Read(const std::map<std::size_t, u8>& bytes) {
+  std::vector<u8> all(Record::kRecordSize);
+  for (const auto& [at, value] : bytes) all.at(at) = value;
+  Record record;
+  ReadRecord(all.data(), record);
+  return record;
 }
 
-TEST(Record, TheFirstIndexRunsFastest) {
-  std::vector<u8> team(TeamRecord::kRecordSize), player(PlayerRecord::kRecordSize),
-      coach(CoachRecord::kRecordSize);
-  team[1143 + 2 * (2 - 1 + 10)] = 7;                        // points of period 2, opponents
-  team[706 + 2 * (3 - 1 + 3 * 4 + 33 * (6 - 1))] = 8;       // zone 3, rating 4, coverage 6
-  player[745 + 2 * (5 - 1 + 5 * (3 - 1))] = 9;              // overtime points of the game
-  player[1327 + (2 - 1 + 5 * (20 - 1))] = 4;                // second period, minute 20
-  coach[56 + (4 - 1 + 5 * (19 - 1) + 100 * (2 - 1))] = 30;  // position 4, minute 19, period 2
-  coach[901 + (10 + 11 * (30 - 1))] = 6;                    // plan 10, slot 30
-  TeamRecord t;
-  PlayerRecord p;
-  CoachRecord c;
-  ReadRecord(team.data(), t);
-  ReadRecord(player.data(), p);
-  ReadRecord(coach.data(), c);
-  EXPECT_EQ(t.PeriodPoints[2][2], 7);
-  EXPECT_EQ(t.ScoutCoverage[3][4][6], 8);
-  EXPECT_EQ(p.QuarterPoints[5][3], 9);
-  EXPECT_EQ(p.RotationGrid[2][20], 4);
-  EXPECT_EQ(c.RotationByRank[4][19][2], 30);
-  EXPECT_EQ(c.DefendInside[10][30], 6);
+TEST(Record, TheFirstIndexRunsFastestButInTheGridOfCalls) {
+  const auto team = Read<TeamRecord>({{1143 + 2 * (2 - 1 + 10), 7}, {706 + 2 * (2 + 3 * 4 + 33 * 5), 8}});
+  EXPECT_EQ(team.PeriodPoints[2][2], 7);
+  EXPECT_EQ(team.ScoutCoverage[3][4][6], 8);
+  const auto man = Read<PlayerRecord>({{745 + 2 * (4 + 5 * 2), 9}, {1327 + 1 + 5 * 19, 4}});
+  EXPECT_EQ(man.QuarterPoints[5][3], 9);
+  EXPECT_EQ(man.RotationGrid[2][20], 4);
+  const auto coach = Read<CoachRecord>({{56 + 3 + 5 * 18 + 100, 30}, {901 + 10 + 11 * 29, 6}});
+  EXPECT_EQ(coach.RotationByRank[4][19][2], 30);
+  EXPECT_EQ(coach.DefendInside[10][30], 6);
+  const auto setup = Read<SetupRecord>({{12994, 12}, {13007, 35}});
+  EXPECT_EQ(setup.PlayCallFrequency[1][2], 12);
+  EXPECT_EQ(setup.PlayCallFrequency[3][5], 35);
 }
 
 TEST(Record, NumbersAreLittleEndianAndSigned) {
-  std::vector<u8> bytes(TeamRecord::kRecordSize);
-  bytes[372] = 0xFD, bytes[373] = 0xFF;                  // a streak of -3
-  bytes[65] = 0x33, bytes[66] = 0x22, bytes[67] = 0x11;  // 0x00112233
-  bytes[1197] = 0xF0, bytes[1198] = 0x3F;                // 1.0
-  TeamRecord team;
-  ReadRecord(bytes.data(), team);
+  const auto team = Read<TeamRecord>(
+      {{372, 0xFD}, {373, 0xFF}, {65, 0x33}, {66, 0x22}, {67, 0x11}, {1197, 0xF0}, {1198, 0x3F}});
   EXPECT_EQ(team.Streak, -3);
   EXPECT_EQ(team.HomeForeColor, 0x112233);
   EXPECT_EQ(team.PowerRating, 1.0);

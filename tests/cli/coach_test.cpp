@@ -39,19 +39,12 @@ Played PlayScript(const std::string& script, std::uint64_t seed = 1, const char*
   SetUpCoachedGame("pro", seed, visitor, "H");
   std::istringstream in(script);
   std::ostringstream out, err;
-  CoachSession session(in, out, err, {});
-  const bool finished = session.Run();
+  const bool finished = CoachSession(in, out, err, {}).Run();
   return {finished, out.str(), err.str(), GameBook()};
 }
 
-const Words kWrong{"",         "99",
-                   "-1",       "#31",
-                   "#0",       "nobody",
-                   "on",       "off",
-                   "1",        "5 5",
-                   "1 2 3",    "all all all",
-                   "\x01\xff", "99999999999999999999",
-                   "strong",   std::string(300, 'x')};
+constexpr std::string_view kWrong =
+    ";99;-1;#31;#0;nobody;on;off;1;5 5;1 2 3;all all all;\x01\xff;99999999999999999999;strong;";
 
 /// Coaches anything, line by line as the session reads it, and looks at the game at every line.
 class AnyCoach : public std::streambuf {
@@ -86,38 +79,38 @@ class AnyCoach : public std::streambuf {
     command_ = nullptr;
   }
 
-  /// One that is open and was never carried out, if there is one; else any.
-  const Command& Draw() {
+  const Command& AnyCommand() {
     const auto commands = Commands();
-    for (const Command& c : commands) {
-      if (draw_.Whole(3) == 1 && c.open() && !done.count(c.name)) return c;
-    }
     return commands[static_cast<std::size_t>(draw_.Whole(static_cast<int>(commands.size())) - 1)];
   }
+  /// One that is open and was never carried out, if there is one; else any.
+  const Command& Draw() {
+    for (const Command& c : Commands()) {
+      if (draw_.Whole(3) == 1 && c.open() && !done.count(c.name)) return c;
+    }
+    return AnyCommand();
+  }
 
-  std::string Example(const Command& c) {
-    Words examples;
-    std::istringstream all{std::string(c.examples)};
-    for (std::string one; std::getline(all, one, ';');) examples.push_back(one);
-    if (examples.empty()) return "";
-    return examples[static_cast<std::size_t>(draw_.Whole(static_cast<int>(examples.size())) - 1)];
+  std::string OneOf(std::string_view list) {
+    Words all;
+    std::istringstream rest{std::string(list)};
+    for (std::string one; std::getline(rest, one, ';');) all.push_back(one);
+    return all.empty() ? "" : all[static_cast<std::size_t>(draw_.Whole(static_cast<int>(all.size())) - 1)];
   }
 
   std::string NextLine() {
     if (draw_.Whole(2) == 1) return "";
     const Command& c = Draw();
-    if (c.name == "auto" && done.count("auto") && draw_.Whole(50) > 1)
-      return "";  // or there is little to coach
+    // A coach who plays on alone has little left to coach.
+    if (c.name == "auto" && done.count("auto") && draw_.Whole(50) > 1) return "";
     const int kind = draw_.Whole(10);
     if (kind <= 7) {
       command_ = &c;
-      return std::string(c.name) + " " + Example(c);
+      return std::string(c.name) + " " + OneOf(c.examples);
     }
-    const Command& other =
-        Commands()[static_cast<std::size_t>(draw_.Whole(static_cast<int>(Commands().size())) - 1)];
     const std::string name(kind == 8 || c.brief.empty() ? c.name : c.brief);
-    if (kind == 9) return name + " " + Example(other);
-    return name + " " + kWrong[static_cast<std::size_t>(draw_.Whole(static_cast<int>(kWrong.size())) - 1)];
+    if (kind == 9) return name + " " + OneOf(AnyCommand().examples);
+    return name + " " + (draw_.Whole(16) == 1 ? std::string(300, 'x') : OneOf(kWrong));
   }
 
   const std::ostringstream& err_;
@@ -137,8 +130,7 @@ TEST(CoachSession, EveryCommandRightAndWrongReachesTheEndOfTheGame) {
     std::ostringstream out, err;
     AnyCoach coach(seed, err, 4000);
     std::istream in(&coach);
-    CoachSession session(in, out, err, {});
-    EXPECT_TRUE(session.Run());
+    EXPECT_TRUE(CoachSession(in, out, err, {}).Run());
     EXPECT_TRUE(game.GameOver);
     EXPECT_EQ(BrokenLaw() + BrokenFinalLaw(), "");
   }
@@ -165,18 +157,18 @@ TEST(CoachSession, AnyCoachReachesTheEndUnderAnyRulesWithAnyMen) {
   }
 }
 
-std::string ManyLines() {
+std::string ManyLines(int count) {
   std::string script;
   const char* lines[] = {"",  "s",         "d",        "p",       "call inside 5", "q 3",
                          "x", "t rebound", "zone 2-3", "sub 1 6", "def tight"};
-  for (int i = 0; i < 600; ++i) script += std::string(lines[i * 7 % 11]) + "\n";
+  for (int i = 0; i < count; ++i) script += std::string(lines[i * 7 % 11]) + "\n";
   return script;
 }
 
 TEST(CoachSession, TheSameScriptAndSeedGiveTheSameGame) {
-  const Played first = PlayScript(ManyLines(), 5);
+  const Played first = PlayScript(ManyLines(600), 5);
   PlayScript("", 6);
-  const Played again = PlayScript(ManyLines(), 5);
+  const Played again = PlayScript(ManyLines(600), 5);
   EXPECT_EQ(first.out, again.out);
   EXPECT_EQ(first.err, again.err);
   EXPECT_EQ(first.book, again.book);
@@ -202,62 +194,58 @@ TEST(CoachSession, LeavesAGameOnlyWhenTheCoachIsSure) {
 }
 
 TEST(CoachSession, LinesFitTheScreenAndArePlain) {
-  std::string script = ManyLines().substr(0, ManyLines().size() / 2);
-  script +=
+  const std::string screens =
       "box\nstats\nstats 1\nbench\nbench ratings\ndefense\nplan\nset\nstrategy\nhelp all\nhelp call\nauto\n";
-  const Played played = PlayScript(script + ManyLines(), 2, "H");
+  const Played played = PlayScript(ManyLines(300) + screens + ManyLines(600), 2, "H");
   std::istringstream lines(played.out);
   for (std::string line; std::getline(lines, line);) EXPECT_LT(line.size(), 80u) << line;
   EXPECT_EQ(played.out.find('\033'), std::string::npos);
 }
 
+tipline::Side& Own() { return game.side[2]; }
+
 TEST(CoachSession, TellsWhatChangedOrWhyNot) {
   // clang-format off
-  const struct { const char* line; bool refused; const char* told; bool (*holds)(); } cases[] = {
-      {"press full", false, "Press: Fullcourt Pressure.", [] { return game.side[2].Pressure == 4; }},
-      {"press trap", true, "Press: None", [] { return game.side[2].Pressure == 0; }},
-      {"zone 2-3", false, "Defense: 2-3 Zone.", [] { return game.side[2].DefenseType == 2; }},
-      {"help strong inside", false, "Help: Strong Inside.", [] { return game.side[2].DefenseHelp == 3; }},
+  struct Case { const char* line; bool refused; const char* told; bool (*holds)() = [] { return true; }; };
+  const Case cases[] = {
+      {"press full", false, "Press: Fullcourt Pressure.", [] { return Own().Pressure == 4; }},
+      {"zone 2-3", false, "Defense: 2-3 Zone.", [] { return Own().DefenseType == 2; }},
+      {"help strong inside", false, "Help: Strong Inside.", [] { return Own().DefenseHelp == 3; }},
       {"crash strong", false, "Offensive boards: Strong.",
-       [] { return game.side[2].CrashBoardsOffense == 1 && game.side[2].CrashBoardsDefense == 1; }},
+       [] { return Own().CrashBoardsOffense == 1 && Own().CrashBoardsDefense == 1; }},
       {"match 1 2", false, "Match-ups:",
-       [] { return game.side[2].StoredMatchup[1] == 2 && game.side[2].StoredMatchup[2] == 1; }},
+       [] { return Own().StoredMatchup[1] == 2 && Own().StoredMatchup[2] == 1; }},
       {"match 1 2 3 4 4", true, "Each position must be defended..check the Defensive Matchups Grid",
-       [] { return game.side[2].StoredMatchup[5] == 5; }},
+       [] { return Own().StoredMatchup[5] == 5; }},
       {"cover 5 inside deny", false, "is covered inside: Deny.",
        [] { return ManAt(1, game.side[1].Lineup[5]).CoverageInside == 5; }},
       {"double 5", false, "is doubled anywhere.",
        [] { return ManAt(1, game.side[1].Lineup[5]).DoubleTeamThree == 1; }},
       {"order 3 three", false, "is told to shoot: three.",
-       [] { return ManAt(2, game.side[2].Lineup[3]).GlobalOffense == kThree; }},
+       [] { return ManAt(2, Own().Lineup[3]).GlobalOffense == kThree; }},
       {"match computer", false, "The rules leave the match-ups to you: nothing was searched",
-       [] { return game.side[2].StoredMatchup[1] == 1; }},
-      {"match c", true, "match ATTACKER DEFENDER", [] { return true; }},
-      {"safe", true, "safe WHO [off].", [] { return true; }},
-      {"help off", true, "There is no command \"off\"; help defense goes: Normal, Inside",
-       [] { return game.side[2].DefenseHelp == 0; }},
-      {"help i", true, "There is no command \"i\"", [] { return game.side[2].DefenseHelp == 0; }},
-      {"safe 4", false, "defends safely.", [] { return ManAt(2, game.side[2].Lineup[4]).SafeStyle == 1; }},
+       [] { return Own().StoredMatchup[1] == 1; }},
+      {"help i", true, "There is no command \"i\"; help defense goes: Normal, Inside",
+       [] { return Own().DefenseHelp == 0; }},
+      {"safe 4", false, "defends safely.", [] { return ManAt(2, Own().Lineup[4]).SafeStyle == 1; }},
       {"plan Drive 3", false, "Drive: 3, for this game.", [] { return game.coach[2].Coverage2[0] == 3; }},
-      {"plan Crash 3", true, "More than one slider", [] { return true; }},
+      {"plan Crash 3", true, "More than one slider"},
       {"plan Drive 5", true, "from 0, least, to 4, most", [] { return game.coach[2].Coverage2[0] <= 4; }},
-      {"set lastshot on", false, "On: hold for the last shot.", [] { return game.side[2].LastShot == 1; }},
-      {"set quickfoul poor", false, "Poor Shooter", [] { return game.side[2].QuickFoul == 2; }},
+      {"set lastshot on", false, "On: hold for the last shot.", [] { return Own().LastShot == 1; }},
+      {"set quickfoul poor", false, "Poor Shooter", [] { return Own().QuickFoul == 2; }},
       {"lineup free throw", false, "On the floor:",
        [] { return OnFloor(2, 1).RotationOrder[4] == 1 && OnFloor(2, 5).RotationOrder[4] == 5; }},
-      {"sub 1 #99", true, "There is no man #99 on the team.", [] { return true; }},
-      {"sub 1 #6 2", true, "Who plays position 2?", [] { return game.side[2].Lineup[1] != 6; }},
+      {"sub 1 #99", true, "There is no man #99 on the team."},
+      {"sub 1 #6 2", true, "Who plays position 2?", [] { return Own().Lineup[1] != 6; }},
       {"sub 1 2 2 van dyke", false, "On the floor: ",
-       [] { return game.side[2].Lineup[1] != 7 && game.side[2].Lineup[2] == 7; }},
-      {"sub 1", true, "sub POSITION MAN", [] { return true; }},
+       [] { return Own().Lineup[1] != 7 && Own().Lineup[2] == 7; }},
+      {"sub 1", true, "sub POSITION MAN"},
       {"delegate defense on", false, "The computer calls your defense.",
-       [] { return game.side[2].BothDefenses == 1; }},
+       [] { return Own().BothDefenses == 1; }},
       {"auto 1st 13:00", true, "no mark ahead", [] { return !Watching(); }},
-      {"auto :00", true, "no mark ahead", [] { return !Watching(); }},
       {"auto 123 6:00", true, "no mark ahead", [] { return !Watching(); }},
-      {"shoot", true, "Not at this stop: shoot. Open: continue", [] { return true; }},
-      {"xyzzy", true, "There is no command \"xyzzy\".", [] { return true; }},
-      {"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyy", true, "\"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyy..\"", [] { return true; }},
+      {"shoot", true, "Not at this stop: shoot. Open: continue"},
+      {"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyyy", true, "\"yyyyyyyyyyyyyyyyyyyyyyyyyyyyyy..\""},
   };
   // clang-format on
   for (const auto& c : cases) {
@@ -290,10 +278,11 @@ TEST(CoachWords, FindTheManWhoIsMeant) {
   // clang-format off
   const struct { const char* why; const char* said; int slot; } cases[] = {
       {"a whole last name before a part of one", "smith", 6}, {"a part", "smiths", 7},
-      {"two of a name", "Moreno", 0}, {"with the first name", "al moreno", 9}, {"first name and part", "john", 6},
+      {"two of a name", "Moreno", 0}, {"with the first name", "al moreno", 9}, {"and a part", "john", 6},
       {"signs are no matter", "oneil", 10}, {"a position", "2", 7}, {"a label", "pg", 6},
       {"an empty position", "5", 0}, {"a roster number", "#10", 10}, {"marked, or above 5", "10", 10},
-      {"marked: no position", "#2", 0}, {"nobody", "jones", 0}, {"no such number", "31", 0}, {"nothing", "", 0},
+      {"marked: no position", "#2", 0}, {"nobody", "jones", 0}, {"no such number", "31", 0},
+      {"nothing", "", 0},
       {"only signs", "'-", 0}, {"a bare mark", "#", 0},
   };
   // clang-format on

@@ -14,8 +14,6 @@
 namespace tipline::cli {
 namespace {
 
-using Told = std::vector<std::string>;
-
 /// What is printed goes into `text` while this lives.
 class Catch {
  public:
@@ -61,17 +59,10 @@ class TeamCommands : public testing::Test {
   }
 };
 
-std::size_t LongestLine(const std::string& text) {
-  std::size_t longest = 0;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) longest = std::max(longest, line.size());
-  return longest;
-}
-
 std::ptrdiff_t Crosses(const std::string& text) { return std::count(text.begin(), text.end(), 'X'); }
 
 TEST_F(TeamCommands, AllTeamsAreMadeWithoutAQuestion) {
-  const Roster before = Read(FirstTeam());
+  EXPECT_EQ(Read(FirstTeam()).coach.RotationByRank[1][1][1], 0);
   CoachRequest request;
   request.all = request.make = true;
   ASSERT_EQ(Run(ShowRotation, request).first + Run(ShowDepth, request).first, 0);
@@ -79,56 +70,42 @@ TEST_F(TeamCommands, AllTeamsAreMadeWithoutAQuestion) {
   int made = 0;
   for (int teamNo = 1; teamNo <= kTeams; ++teamNo) {
     if (league.team[teamNo].TeamActive != 1) continue;
-    const Roster roster = Read(teamNo);
-    EXPECT_NE(roster.coach.RotationByRank[1][1][1] + roster.coach.RotationByRank[5][1][1], 0) << teamNo;
-    EXPECT_NE(roster.coach.DepthChart[1][1], 0) << teamNo;
-    ++made;
+    const CoachRecord coach = Read(teamNo).coach;
+    made += coach.RotationByRank[1][1][1] + coach.RotationByRank[5][1][1] > 0 && coach.DepthChart[1][1] > 0;
   }
   EXPECT_EQ(made, 6);
-  EXPECT_EQ(before.coach.RotationByRank[1][1][1], 0);
 }
 
 TEST_F(TeamCommands, TheListOfDaysOff) {
   const int teamNo = FirstTeam();
   const Roster roster = Read(teamNo);
-  DailyRequest request;
-  request.team = std::to_string(teamNo);
-  auto shown = Run(ShowDaily, request);
-  ASSERT_EQ(shown.first, 0);
-  EXPECT_LE(LongestLine(shown.second), 110u);
-  const std::size_t at = shown.second.find("10-");
-  ASSERT_NE(at, std::string::npos);
-  const std::string first = shown.second.substr(at, 5);
   int slot = 1;
   while (!OnTeam(roster, slot)) ++slot;
   const std::string man = "#" + std::to_string(slot);
+  DailyRequest request;
+  request.team = std::to_string(teamNo);
+  std::string shown = Run(ShowDaily, request).second;
+  const std::string first = shown.substr(shown.find("10-"), 5);
 
   request.toggle = {{man, first}};
   request.use = "on";
-  shown = Run(ShowDaily, request);
-  EXPECT_EQ(shown.first, 0);
-  EXPECT_EQ(Crosses(shown.second.substr(shown.second.find("10-"))), 1);
+  shown = Run(ShowDaily, request).second;
+  EXPECT_EQ(Crosses(shown.substr(shown.find("10-"))), 1);
   EXPECT_EQ(Read(teamNo).daily[slot].InactiveDates[1], 200 + std::stoi(first.substr(3)));
   EXPECT_EQ(Read(teamNo).coach.UseDailyInactive, 1);
 
-  const struct {
-    const char* why;
-    std::pair<std::string, std::string> second;
-  } refused[] = {{"no game", {man, "08-31"}},
-                 {"no date", {man, "02-30"}},
-                 {"nobody", {"#30", first}},
-                 {"no name", {"", first}}};
-  for (const auto& c : refused) {
-    request.toggle = {{man, first}, c.second};
-    EXPECT_EQ(Run(ShowDaily, request).first, 1) << c.why;
-    EXPECT_NE(Read(teamNo).daily[slot].InactiveDates[1], 0) << c.why << ": nothing is kept";
+  const std::pair<std::string, std::string> refused[] = {
+      {man, "08-31"}, {man, "02-30"}, {"#30", first}, {"", first}};  // no game, no date, nobody, no name
+  for (const auto& second : refused) {
+    request.toggle = {{man, first}, second};
+    EXPECT_EQ(Run(ShowDaily, request).first, 1) << second.first << second.second;
+    EXPECT_NE(Read(teamNo).daily[slot].InactiveDates[1], 0) << "nothing is kept";
   }
   request = {.team = request.team, .toggle = {}, .activateAll = false, .inactivateAll = true, .use = ""};
   dialogs.answers = {false, true, true};
   EXPECT_EQ(Run(ShowDaily, request).first, 1);
   common.Csv = true;
-  shown = Run(ShowDaily, request);
-  EXPECT_GE(Crosses(shown.second), 15 * 20) << "every man on every date";
+  EXPECT_GE(Crosses(Run(ShowDaily, request).second), 15 * 20) << "every man on every date";
   request.inactivateAll = false, request.activateAll = true;
   EXPECT_EQ(Crosses(Run(ShowDaily, request).second), 0);
 }
@@ -138,10 +115,8 @@ TEST_F(TeamCommands, APlanGoesOutAndComesBack) {
   CoachRequest request;
   request.team = std::to_string(teamNo);
   request.importPlan = true;
-  EXPECT_EQ(Run(ShowPlan, request).first, 1);
-  EXPECT_EQ(dialogs.told, Told{league.team[teamNo].City.Str() + " Coach.coa is not there!"});
-  request.importPlan = false, request.exportPlan = true;
-  request.settings = {"Three=4"};
+  EXPECT_EQ(Run(ShowPlan, request).first, 1) << "there is none";
+  request.importPlan = false, request.exportPlan = true, request.settings = {"Three=4"};
   EXPECT_EQ(Run(ShowPlan, request).first, 0);
   EXPECT_EQ(Read(teamNo).coach.Coverage5[0], 4) << "saved with the export";
   request.exportPlan = false, request.settings = {"Three=1", "Drive=0"};

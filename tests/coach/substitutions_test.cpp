@@ -24,46 +24,48 @@ void Watched() {
   PlayerAt(1, 7).TargetMinutes = 34;  // ranked behind him, but used as much
 }
 
+PlayerRecord& P() { return PlayerAt(1, 2); }
+Man& M() { return ManAt(1, 2); }
+void LastQuarter(int clock, int lead) {
+  game.Period = 4;
+  game.GameClock = clock;
+  game.side[1].Score = 60 + lead;
+  game.side[2].Score = 60;
+}
+
 TEST(LoadLineups, TakesOffWhoHasToGo) {
-  const auto lastPeriod = [](int clock, int margin) {
-    game.Period = 4;
-    game.GameClock = clock;
-    game.side[1].Score = margin;
-  };
   // clang-format off
   const struct {
     const char* why;
     Change change;
     bool stays;
   } cases[] = {
-      {"tired at 83", [] { ManAt(1, 2).Energy = 83; }, false},
-      {"not at 84", [] { ManAt(1, 2).Energy = 84; }, true},
-      {"plays on when tired", [] { ManAt(1, 2).Energy = 83, PlayerAt(1, 2).DontPlayWhenTired = 0; }, true},
-      {"just after a change", [] { game.LastSubClock = 5089, ManAt(1, 2).Energy = 70; }, true},
-      {"nine seconds after one", [] { game.LastSubClock = 5090, ManAt(1, 2).Energy = 70; }, false},
-      {"named for the free throws", [] { game.side[1].FreeThrowMan = 2, ManAt(1, 2).Energy = 82; }, true},
-      {"a better man is ready", [] { PlayerAt(1, 7).DepthRank[2] = 6, PlayerAt(1, 2).DepthRank[2] = 5; },
-       false},
+      {"tired at 83", [] { M().Energy = 83; }, false},
+      {"not at 84", [] { M().Energy = 84; }, true},
+      {"plays on when tired", [] { M().Energy = 83, P().DontPlayWhenTired = 0; }, true},
+      {"just after a change", [] { game.LastSubClock = 5089, M().Energy = 70; }, true},
+      {"nine seconds after one", [] { game.LastSubClock = 5090, M().Energy = 70; }, false},
+      {"named for the free throws", [] { game.side[1].FreeThrowMan = 2, M().Energy = 82; }, true},
+      {"a better man is ready", [] { PlayerAt(1, 7).DepthRank[2] = 6, P().DepthRank[2] = 5; }, false},
       {"a better man is not fresh",
-       [] { PlayerAt(1, 7).DepthRank[2] = 6, PlayerAt(1, 2).DepthRank[2] = 5, ManAt(1, 7).Energy = 99; },
-       true},
+       [] { PlayerAt(1, 7).DepthRank[2] = 6, P().DepthRank[2] = 5, ManAt(1, 7).Energy = 99; }, true},
       {"close game: tired crunch man",
-       [&] { lastPeriod(1000, 2), ManAt(1, 2).Energy = 30, PlayerAt(1, 2).PlayAtCrunchTime = 1; }, true},
-      {"no blowouts for him", [&] { lastPeriod(1199, 16), PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, false},
-      {"not yet a blowout", [&] { lastPeriod(1200, 16), PlayerAt(1, 2).NeverPlayInBlowouts = 1; }, true},
-      {"two fouls in the first", [] { PlayerAt(1, 2).Stats[3].Pf = 2; }, false},
-      {"five in the last, too early", [&] { lastPeriod(3601, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, false},
-      {"five in the last, for the end", [&] { lastPeriod(3600, 0), PlayerAt(1, 2).Stats[3].Pf = 5; }, true},
-      {"foul trouble, check off",
-       [] { game.side[1].AutoSubWhenFoulTrouble = 0, PlayerAt(1, 2).Stats[3].Pf = 2; }, true},
+       [] { LastQuarter(1000, 2), M().Energy = 30, P().PlayAtCrunchTime = 1; }, true},
+      {"no blowouts for him", [] { LastQuarter(1199, 16), P().NeverPlayInBlowouts = 1; }, false},
+      {"not yet a blowout", [] { LastQuarter(1200, 16), P().NeverPlayInBlowouts = 1; }, true},
+      {"two fouls in the first", [] { P().Stats[3].Pf = 2; }, false},
+      {"five in the last, too early", [] { LastQuarter(3601, 0), P().Stats[3].Pf = 5; }, false},
+      {"five in the last, for the end", [] { LastQuarter(3600, 0), P().Stats[3].Pf = 5; }, true},
+      {"two fouls, unchecked", [] { game.side[1].AutoSubWhenFoulTrouble = 0, P().Stats[3].Pf = 2; }, true},
       {"out of position",
-       [] { PlayerAt(1, 2).PrimaryPosition = 5, PlayerAt(1, 2).DepthRank = {},
-       PlayerAt(1, 2).PositionAllowed = {}; }, false},
-      {"fouled out", [] { PlayerAt(1, 2).Stats[3].Pf = 6; }, false},
-      {"in a trip of three", [] { game.PlayKind = "SHOOT3", ManAt(1, 2).Energy = 10; }, true},
+       [] { P().PrimaryPosition = 5, P().DepthRank = {}, P().PositionAllowed = {}; }, false},
+      {"fouled out", [] { P().Stats[3].Pf = 6; }, false},
+      {"named twice: he stays at one",
+       [] { game.side[1].Lineup[3] = 2, P().PositionAllowed[3] = 1, P().DepthRank[3] = 6; }, true},
+      {"in a trip of three", [] { game.PlayKind = "SHOOT3", M().Energy = 10; }, true},
       {"the last of a trip, on defense",
-       [] { game.PlayKind = "SHOOT1", game.GameState = "FREETHROW-WAIT", ManAt(1, 2).Energy = 10; }, false},
-      {"the period dies with this play", [] { game.PlayTime = 5000, ManAt(1, 2).Energy = 10; }, true},
+       [] { game.PlayKind = "SHOOT1", game.GameState = "FREETHROW-WAIT", M().Energy = 10; }, false},
+      {"the period dies with this play", [] { game.PlayTime = 5000, M().Energy = 10; }, true},
       {"the grid has another man",
        [] { game.side[1].UseRotationGrid = 1, PlayerAt(1, 7).RotationGrid[1][4] = 2; }, false},
       {"nobody made a grid", [] { game.side[1].UseRotationGrid = 1; }, true},
@@ -110,63 +112,21 @@ TEST(LoadLineups, BuildsAFreshFiveAtAPeriodStart) {
   }
 }
 
-TEST(LoadLineups, FillsAPositionThatNobodyPlays) {
+TEST(LoadLineups, FillsAHole) {
   Watched();
   game.side[1].Lineup[5] = 0;
   for (const int slot : {5, 10}) LoadedAt(1, slot).PlayerOut = 1;
   PlayerAt(1, 9).PositionAllowed[5] = 1;
   ManAt(1, 9).Energy = 80;
   LoadLineups();
-  EXPECT_EQ(PositionOf(1, 9), 5) << "his coach allows it";
-}
-
-TEST(LoadLineups, PlaysShortWhenNobodyIsLeft) {
-  const struct {
-    const char* why;
-    int men, minutes, dq;
-  } cases[] = {{"four men", 4, 12, 6}, {"nobody", 0, 12, 6}, {"short periods, one foul", 10, 1, 1}};
-  for (const auto& c : cases) {
-    Watched();
-    league.rules.MinuteList = static_cast<u8>(c.minutes);
-    league.rules.DqList = static_cast<u8>(c.dq);
-    game.GameClock = c.minutes * kMinute;
-    for (int slot = 1; slot <= kMen; ++slot) {
-      PlayerAt(1, slot).TargetMinutes = 0;
-      if (slot > c.men) PlayerAt(1, slot) = {};
-    }
-    LoadLineups();
-    int men = 0;
-    for (const int slot : game.side[1].Lineup) men += slot > 0 ? 1 : 0;
-    EXPECT_EQ(men, std::min(c.men, 5)) << c.why;
-  }
-}
-
-// Any state of a game: five different men who can play, whenever there are five.
-TEST(LoadLineups, AlwaysLeavesFiveDifferentMen) {
-  for (unsigned seed = 1; seed <= 400; ++seed) {
-    TwoTeams();
-    random.Seed(seed);
-    program.Autoplaying = seed % 2 == 0;
-    game.Period = Rnd(6);
-    game.GameClock = Rnd(7200);
-    game.side[2].Score = Rnd(40);
-    for (int side = 1; side <= 2; ++side) {
-      if (Rnd(2) == 1) game.side[side].CoachMode = "C";
-      for (int slot = 1; slot <= kMen; ++slot) {
-        ManAt(side, slot).Energy = Rnd(100);
-        ManAt(side, slot).FatigueLoad = Rnd(9000);
-        ManAt(side, slot).PlayerGameTime = Rnd(20000);
-        PlayerAt(side, slot).SecondaryPosition = static_cast<u8>(Rnd(5));
-        PlayerAt(side, slot).RotationGrid[Clamp(game.Period, 1, 5)][3] = static_cast<u8>(Rnd(7) - 1);
-      }
-      game.side[side].Lineup[Rnd(5)] = Rnd(kMen);
-    }
-    LoadLineups();
-    for (Side& side : game.side) {
-      std::set<int> five(side.Lineup.begin(), side.Lineup.end());
-      EXPECT_TRUE(five.size() == 5 && five.count(0) == 0) << seed;
-    }
-  }
+  EXPECT_EQ(PositionOf(1, 9), 5) << "nobody plays there, but his coach allows it";
+  Watched();
+  LastQuarter(1100, 30);
+  game.side[1].CoachMode = "C";
+  game.side[1].Lineup[3] = 0;
+  PlayerAt(1, 8).NeverPlayInBlowouts = 1;
+  LoadLineups();
+  EXPECT_NE(game.side[1].Lineup[3], 8) << "no blowouts for him";
 }
 
 TEST(RefreshCrunchTime, NeedsACloseEnd) {
@@ -187,34 +147,31 @@ TEST(RefreshCrunchTime, NeedsACloseEnd) {
 TEST(SubScreens, RefuseWithTheirMessages) {
   TwoTeams();
   platform::ScriptedDialogs dialogs;
-  PlayerAt(2, 7).FirstName = "Al";
-  PlayerAt(2, 7).LastName = "Reed";
+  Side& side = game.side[2];
+  PlayerAt(2, 7).FirstName = "Al", PlayerAt(2, 7).LastName = "Reed";
   ManAt(2, 7).Energy = 79;
-  game.side[2].AutoSubWhenTired = 1;
+  side.AutoSubWhenTired = 1;
   HCQUICKSUB panel(2);
-  EXPECT_FALSE(panel.PutIn(2, 0));
-  EXPECT_FALSE(panel.PutIn(2, 7));
-  game.side[2].AutoSubWhenTired = 0;
-  game.side[2].AutoSubWhenFoulTrouble = 1;
+  EXPECT_FALSE(panel.PutIn(2, 0) || panel.PutIn(2, 7));
+  side.AutoSubWhenTired = 0, side.AutoSubWhenFoulTrouble = 1;
   PlayerAt(2, 7).Stats[3].Pf = 2;
   EXPECT_FALSE(panel.PutIn(2, 7));
-  game.side[2].AutoSubWhenFoulTrouble = 0;
+  side.AutoSubWhenFoulTrouble = 0;
   EXPECT_TRUE(panel.PutIn(1, 7));
   panel.lineup[3] = 0;
   EXPECT_FALSE(panel.Ok());
-  EXPECT_TRUE(panel.PutIn(3, 8));
+  panel.lineup[3] = 8;
   game.GameState = "FREETHROW-WAIT";
   EXPECT_FALSE(panel.Ok()) << "the shooter is missing";
-  EXPECT_EQ(game.side[2].Lineup[1], 1);
-  EXPECT_TRUE(panel.PutIn(2, 1));
-  EXPECT_TRUE(panel.Ok());
-  EXPECT_EQ(game.side[2].Lineup[2], 1);
-  ASSERT_EQ(dialogs.told.size(), 5u);
-  EXPECT_EQ(dialogs.told[0], "You must select a player!");
-  EXPECT_EQ(dialogs.told[1].substr(0, 20), "Al Reed is tired!. U");
-  EXPECT_EQ(dialogs.told[2].substr(0, 28), "Al Reed is in foul trouble!.");
-  EXPECT_EQ(dialogs.told[3], "You must fill all 5 lineup spots!");
-  EXPECT_NE(dialogs.told[4].find(" is at the line..he must be in the game!"), std::string::npos);
+  EXPECT_EQ(side.Lineup[1], 1);
+  EXPECT_TRUE(panel.PutIn(2, 1) && panel.Ok());
+  EXPECT_EQ(side.Lineup[2], 1);
+  const char* told[] = {"You must select a player!", "Al Reed is tired!. U", "Al Reed is in foul trouble!.",
+                        "You must fill all 5 lineup spots!", " is at the line..he must be in the game!"};
+  ASSERT_EQ(dialogs.told.size(), std::size(told));
+  for (std::size_t i = 0; i < std::size(told); ++i) {
+    EXPECT_NE(dialogs.told[i].find(told[i]), std::string::npos) << dialogs.told[i];
+  }
 }
 
 TEST(SubScreens, AskBeforeUsingAManOutOfPosition) {
@@ -228,18 +185,6 @@ TEST(SubScreens, AskBeforeUsingAManOutOfPosition) {
   EXPECT_TRUE(list.Choose(9)) << "no question for a man who plays there";
   EXPECT_EQ(game.side[1].Lineup[4], 9);
   EXPECT_EQ(dialogs.asked.size(), 2u);
-}
-
-TEST(LoadLineups, KeepsBenchMenOutOfReachInABlowout) {
-  Watched();
-  game.Period = 4;
-  game.GameClock = 1100;
-  game.side[1].Score = 30;
-  game.side[1].CoachMode = "C";
-  game.side[1].Lineup[3] = 0;
-  PlayerAt(1, 8).NeverPlayInBlowouts = 1;
-  LoadLineups();
-  EXPECT_NE(game.side[1].Lineup[3], 8);
 }
 
 TEST(LoadLineups, ThinksOfTheFinishAndOfTheBench) {
@@ -256,10 +201,7 @@ TEST(LoadLineups, ThinksOfTheFinishAndOfTheBench) {
   for (const auto& c : cases) {
     Watched();
     c.change();
-    game.Period = 4;
-    game.GameClock = c.clock;
-    game.side[1].Score = 60 + c.lead;
-    game.side[2].Score = 60;
+    LastQuarter(c.clock, c.lead);
     game.side[1].CoachMode = "C";
     int regulars = 0;
     EachSeed(100, [&] {

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "aftermath/finish_game.h"
+#include "engine/eligible.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 namespace {
@@ -16,37 +18,46 @@ void SetUpLoad() {
   program.GameKind = "L";
   program.ReplayLocked = true;
   league.rules.InjuryOption = 1;
+  league.rules.DqList = 6;
   league.rules.TransactionDatesCheck = 1;
   game.GameMonth = 4;
   game.GameDay = 10;
 }
 
+void Hurt(u8 month, u8 day) { P().InjuryReturnMonth = month, P().InjuryReturnDay = day; }
+void Gone() { P().StartMonth = 1, P().EndMonth = 4, P().EndDay = 9; }
+void InactiveSpan(u8 from, u8 to) {
+  P().InactiveStartMonth[5] = P().InactiveStopMonth[5] = 4;
+  P().InactiveStartDay[5] = from, P().InactiveStopDay[5] = to;
+}
+
 // clang-format off
 TEST(Availability, WhoMayPlay) {
-  const struct { const char* why; void (*change)(); bool out; } cases[] = {
-      {"nothing against him", [] {}, false},
-      {"inactive", [] { P().Status = 99; }, true},
-      {"suspended", [] { P().SuspensionGames = 1; }, true},
-      {"suspended, but no league game", [] { P().SuspensionGames = 1, program.GameKind = "E"; }, false},
-      {"hurt", [] { P().InjuryReturnMonth = 4, P().InjuryReturnDay = 10; }, true},
-      {"back since yesterday", [] { P().InjuryReturnMonth = 4, P().InjuryReturnDay = 9; }, false},
-      {"back, and active again", [] { P().InjuryReturnMonth = 3, P().InjuryReturnDay = 30, P().Status = 99; }, false},
-      {"hurt, without injuries in the rules", [] { P().InjuryReturnMonth = 5, league.rules.InjuryOption = 0; }, false},
-      {"an August return is none", [] { P().InjuryReturnMonth = 12, P().InjuryReturnDay = 20; }, false},
-      {"not there yet", [] { P().StartMonth = 4, P().StartDay = 11; }, true},
-      {"his first day", [] { P().StartMonth = 4, P().StartDay = 10, P().EndMonth = 12; }, false},
-      {"gone", [] { P().StartMonth = 1, P().EndMonth = 4, P().EndDay = 9; }, true},
-      {"gone, but dates don't count", [] { P().EndMonth = 4, P().EndDay = 9, league.rules.TransactionDatesCheck = 0; }, false},
-      {"in a span", [] { P().InactiveStartMonth[5] = 4, P().InactiveStartDay[5] = 1, P().InactiveStopMonth[5] = 4, P().InactiveStopDay[5] = 10; }, true},
-      {"a span that ends before it starts", [] { P().InactiveStartMonth[5] = 4, P().InactiveStartDay[5] = 10, P().InactiveStopMonth[5] = 4, P().InactiveStopDay[5] = 9; }, false},
-  };
-  for (const auto& c : cases) {
-    SetUpLoad();
-    c.change();
+  const auto plays = [] {
     SetAvailability(1);
-    EXPECT_EQ(LoadedAt(1, 1).PlayerOut, c.out) << c.why;
-    EXPECT_EQ(LoadedAt(1, 2).PlayerOut, 0) << c.why;
-  }
+    EXPECT_TRUE(IsEligible(1, 2));
+    return IsEligible(1, 1);
+  };
+  ExpectRows(SetUpLoad, plays, {
+      {"one foul left", [] { P().Stats[3].Pf = 5; }, true},
+      {"fouled out", [] { P().Stats[3].Pf = 6; }, false},
+      {"no limit of fouls", [] { league.rules.DqList = 0, P().Stats[3].Pf = 9; }, true},
+      {"another team's man", [] { P().TeamNo = 7; }, false},
+      {"inactive", [] { P().Status = 99; }, false},
+      {"suspended", [] { P().SuspensionGames = 1; }, false},
+      {"suspended, but no league game", [] { P().SuspensionGames = 1, program.GameKind = "E"; }, true},
+      {"hurt", [] { Hurt(4, 10); }, false},
+      {"back since yesterday", [] { Hurt(4, 9); }, true},
+      {"back, and active again", [] { Hurt(3, 30), P().Status = 99; }, true},
+      {"hurt, without injuries in the rules", [] { Hurt(5, 0), league.rules.InjuryOption = 0; }, true},
+      {"an August return is none", [] { Hurt(12, 20); }, true},
+      {"not there yet", [] { P().StartMonth = 4, P().StartDay = 11; }, false},
+      {"his first day", [] { P().StartMonth = 4, P().StartDay = 10, P().EndMonth = 12; }, true},
+      {"gone", [] { Gone(); }, false},
+      {"gone, but dates don't count", [] { Gone(), league.rules.TransactionDatesCheck = 0; }, true},
+      {"in a span", [] { InactiveSpan(1, 10); }, false},
+      {"a span that ends before it starts", [] { InactiveSpan(10, 9); }, true},
+  });
 }
 
 TEST(Availability, ALightInjuryEndsEarlyOrDragsOn) {
@@ -61,7 +72,7 @@ TEST(Availability, ALightInjuryEndsEarlyOrDragsOn) {
   for (const auto& c : cases) {
     SetUpLoad();
     game.GameDay = c.day;
-    P().InjurySeverity = 1, P().InjuryReturnMonth = 4, P().InjuryReturnDay = 17, P().RateDurability = 9;
+    Hurt(4, 17), P().InjurySeverity = 1, P().RateDurability = 9;
     random.Script(c.draws);
     DrawLightInjury(P());
     random.Script({});

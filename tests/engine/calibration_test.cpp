@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "base/record_file.h"
 #include "engine/weights.h"
 #include "harness/temporary_home.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 
@@ -50,31 +53,26 @@ TEST(CalibrateLeague, PullsADriftedReplayBack) {
 }
 
 TEST(CalibrateLeague, LeavesAloneWhatItCannotMeasure) {
-  // clang-format off
-  const struct { const char* why; void (*change)(); } cases[] = {
-      {"draft team", [] { DTeam().RosterKind = "D"; }},
-      {"exhibition", [] { program.GameKind = "E"; }},
-      {"two seasons", [] { DTeam().Year = 2001; }},
-      {"five games", [] { OTeam().Wins = 2; }},
-      {"49 men", [] { league.player.resize(50); }},
-      {"men of a closed team", [] { league.team[1].TeamActive = 0; }},
-      {"hardly played", [] { for (auto& man : league.player) man.Stats[2].FGA = 28; }},
-      {"no league at all", [] { league.player.clear(); }},
-      {"no era table", [] { league.EraPro.Fill({}); }},
-  };
-  // clang-format on
-  for (const auto& c : cases) {
-    SetUpLeague(200);
-    game.TwoTune = 9, game.BlockTune = 9;
-    c.change();
+  constexpr std::array kNeutral{0.0, 0.0, 1.0, 1.0, 1.0, 1.0};
+  const auto setUp = [] { SetUpLeague(200), game.TwoTune = game.BlockTune = 9; };
+  const auto tunes = [] {
     CalibrateLeague();
-    EXPECT_EQ(game.TwoTune, 0) << c.why;
-    EXPECT_EQ(game.ThreeTune, 0) << c.why;
-    EXPECT_EQ(game.TurnoverTune, 1) << c.why;
-    EXPECT_EQ(game.FoulTune, 1) << c.why;
-    EXPECT_EQ(game.StealTune, 1) << c.why;
-    EXPECT_EQ(game.BlockTune, 1) << c.why;
-  }
+    return std::array<double, 6>{game.TwoTune,  game.ThreeTune, game.TurnoverTune,
+                                 game.FoulTune, game.StealTune, game.BlockTune};
+  };
+  // clang-format off
+  ExpectRows(setUp, tunes, {
+      {"draft team", [] { DTeam().RosterKind = "D"; }, kNeutral},
+      {"exhibition", [] { program.GameKind = "E"; }, kNeutral},
+      {"two seasons", [] { DTeam().Year = 2001; }, kNeutral},
+      {"five games", [] { OTeam().Wins = 2; }, kNeutral},
+      {"49 men", [] { league.player.resize(50); }, kNeutral},
+      {"men of a closed team", [] { league.team[1].TeamActive = 0; }, kNeutral},
+      {"hardly played", [] { for (auto& man : league.player) man.Stats[2].FGA = 28; }, kNeutral},
+      {"no league at all", [] { league.player.clear(); }, kNeutral},
+      {"no era table", [] { league.EraPro.Fill({}); }, kNeutral},
+  });
+  // clang-format on
 }
 
 TEST(CalibrateLeague, MeasuresBothTeams) {

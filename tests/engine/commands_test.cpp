@@ -6,38 +6,31 @@
 #include "engine/shot_selection.h"
 #include "platform/dialogs.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 namespace {
 
 /// Two human coaches; side 2, slot 1, has the ball in the first period.
 void SetUpCommands() {
-  SetUpNeutralGame();
-  Rules().ShotClockList = 24;
+  SetUpPlay("");
   Rules().OverTimeList = 5;
-  game.GameState = "OFFENSE";
-  game.GameStarted = true;
-  game.PlayKind = "";
-  game.PutbackClass = 0;
+  game.GameClock = 7000;
   game.ShotClock = 240;
   game.ActingSide = 2;
   for (int s = 1; s <= 2; ++s) {
     game.team[s].City = s == 1 ? "Boston" : "Denver";
     game.side[s].CoachMode = "H";
     game.side[s].TimeoutsLeft = 3;
-    for (int p = 1; p <= kPositions; ++p) {
-      PlayerRecord& man = game.player[s][p];
-      man.ShortName = "Man" + std::to_string(p);
-      for (int k = 1; k <= 5; ++k) man.ShotSelection[k] = 3;
-      man.HeightFeet = 6;
-      game.side[s].Option[p] = 1;
-      game.man[s][p].ShotPick = kOutside;
-    }
   }
 }
 void Late() { game.Period = 4, game.GameClock = 1000; }
 void Acts(int side) { game.ActingSide = side; }
-void Substitute() { game.player[2][7] = MeanMan(2, 1), game.player[2][7].ShortName = "Sub"; }
+void Limit(u8 men) { game.GameStarted = false, Rules().RosterLimitList = men; }
+void FourLeft() {
+  D().Lineup[5] = 0;
+  for (int slot = 5; slot <= 12; ++slot) LoadedAt(1, slot).PlayerOut = 1;
+}
 
 /// What the dialogs said first, "" when nothing.
 std::string Said(const platform::ScriptedDialogs& d) {
@@ -47,72 +40,53 @@ std::string Said(const platform::ScriptedDialogs& d) {
 /// Share of 400 seeds at which `holds` after the command.
 double Share(void (*change)(), void (*command)(), bool (*holds)()) {
   int count = 0;
-  for (std::uint64_t seed = 1; seed <= 400; ++seed) {
-    SetUpCommands();
-    change();
-    random.Seed(seed);
+  SetUpCommands();
+  change();
+  EachSeed(400, [&] {
     command();
     count += holds() ? 1 : 0;
-  }
+  });
   return count / 400.0;
 }
 
-TEST(Continue, RefusalsKeepTheState) {
+TEST(Continue, RefusesAndKeepsTheStateOrGoesToTheNextStop) {
   // clang-format off
-  struct Case { const char* why; GameState state; void (*change)(); Refusal refusal; std::string message; };
-  const Case cases[] = {
-      {"the game is over", "DEADBALL-OFFENSE", [] { game.GameOver = true; }, Refusal::kNotNow, ""},
-      {"a play has to be chosen", "OFFENSE", [] {}, Refusal::kNotNow, ""},
-      {"one man too many", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 4; },
-       Refusal::kRosterLimit, "Denver is 1 player over the roster limit! Allow?"},
-      {"two of them", "JUMPBALL-1", [] { game.GameStarted = false, Rules().RosterLimitList = 3; },
-       Refusal::kRosterLimit, "Denver is 2 players over the roster limit! Allow?"},
-      {"a position is empty", "DEADBALL-OFFENSE",
-       [] { O().Lineup[3] = 0; }, Refusal::kLineup, "Invalid Lineup!"},
-      {"one man twice", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 2; }, Refusal::kLineup, "Invalid Lineup!"},
-      {"the shooter sits", "FREETHROW-WAIT", [] { Substitute(), game.BallPlayer = 7; },
-       Refusal::kShooterGone, "Sub must be in the game!"},
-      {"the jumper of a held ball sits", "JUMPBALL-2", [] { Substitute(), O().JumperOf = 7; },
-       Refusal::kJumperGone, "Sub must be in the game for the jump ball!"},
+  const struct {
+    const char* why; GameState state; void (*change)(); bool agrees;
+    Refusal refusal; std::string said; GameState next;
+  } cases[] = {
+      {"a play has to be chosen", "OFFENSE", [] {}, true, Refusal::kNotNow, "", "OFFENSE"},
+      {"one man too many", "JUMPBALL-1", [] { Limit(11); }, false, Refusal::kRosterLimit,
+       "Denver is 1 player over the roster limit! Allow?", "JUMPBALL-1"},
+      {"two of them", "JUMPBALL-1", [] { Limit(10); }, false, Refusal::kRosterLimit,
+       "Denver is 2 players over the roster limit! Allow?", "JUMPBALL-1"},
+      {"allowed", "JUMPBALL-1", [] { Limit(11), Acts(1); }, true, Refusal::kNone,
+       "Boston is 1 player over the roster limit! Allow?", "JUMPBALL-2"},
+      {"a position is empty", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 0; }, true, Refusal::kLineup,
+       "Invalid Lineup!", "DEADBALL-OFFENSE"},
+      {"one man twice", "DEADBALL-OFFENSE", [] { O().Lineup[3] = 2; }, true, Refusal::kLineup,
+       "Invalid Lineup!", "DEADBALL-OFFENSE"},
+      {"four men are all that is left", "DEADBALL-DEFENSE", [] { Acts(1), FourLeft(); }, true, Refusal::kNone,
+       "", "DEADBALL-OFFENSE"},
+      {"the shooter sits", "FREETHROW-WAIT", [] { game.BallPlayer = 7; }, true, Refusal::kShooterGone,
+       "Sub must be in the game!", "FREETHROW-WAIT"},
+      {"the jumper of a held ball sits", "JUMPBALL-2", [] { O().JumperOf = 7; }, true, Refusal::kJumperGone,
+       "Sub must be in the game for the jump ball!", "JUMPBALL-2"},
+      {"an old jumper at a period's start", "JUMPBALL-1",
+       [] { game.GameClock = 7200, Acts(1), D().JumperOf = 7; }, true, Refusal::kNone, "", "JUMPBALL-2"},
+      {"the quarter begins", "QUARTER-OFFENSE", [] {}, true, Refusal::kNone, "", "DEFENSE"},
   };
   // clang-format on
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     platform::ScriptedDialogs dialogs;
-    dialogs.answers = {false};
+    dialogs.answers = {c.agrees};
     SetUpCommands();
+    game.player[2][7].ShortName = "Sub";
     game.GameState = c.state;
     c.change();
     EXPECT_EQ(ContinueChosen(), c.refusal) << c.why;
-    EXPECT_TRUE(game.GameState == c.state) << c.why;
-    EXPECT_EQ(Said(dialogs), c.message) << c.why;
-  }
-}
-
-TEST(Continue, GoesToTheNextStop) {
-  // clang-format off
-  struct Case { const char* why; GameState state, next; void (*change)() = [] {}; };
-  const Case cases[] = {
-      {"over the limit, but allowed", "JUMPBALL-1", "JUMPBALL-2",
-       [] { game.GameStarted = false, Acts(1), Rules().RosterLimitList = 3; }},
-      {"four men are all that is left", "DEADBALL-DEFENSE", "DEADBALL-OFFENSE",
-       [] { Acts(1), D().Lineup[5] = 0, LoadedAt(1, 5).PlayerOut = 1; }},
-      {"an old jumper at a period's start", "JUMPBALL-1", "JUMPBALL-2",
-       [] { game.GameClock = 7200, Acts(1), D().JumperOf = 7; }},
-      {"the defense is ready", "FREETHROW-WAIT", "FREETHROW-SHOOT", [] { Acts(1); }},
-      {"both coaches after a timeout", "TIMEOUT-DEFENSE", "TIMEOUT-OFFENSE", [] { Acts(1); }},
-      {"the defense first", "QUARTER-DEFENSE", "QUARTER-OFFENSE", [] { Acts(1); }},
-      {"the quarter begins", "QUARTER-OFFENSE", "DEFENSE"},
-      {"the defense had its look", "DEFENSE", "OFFENSE", [] { Acts(1); }},
-  };
-  // clang-format on
-  for (const Case& c : cases) {
-    platform::ScriptedDialogs dialogs;
-    dialogs.answers = {true};
-    SetUpCommands();
-    game.GameState = c.state;
-    c.change();
-    EXPECT_EQ(ContinueChosen(), Refusal::kNone) << c.why;
     EXPECT_TRUE(game.GameState == c.next) << c.why << ": " << game.GameState.Text();
+    EXPECT_EQ(Said(dialogs), c.said) << c.why;
   }
 }
 
@@ -152,7 +126,6 @@ TEST(Timeout, TakesOneAndStopsPlay) {
     EXPECT_TRUE(game.GameState == c.next) << c.why;
     EXPECT_EQ(O().TimeoutsLeft, c.left) << c.why;
     EXPECT_EQ(game.DeadBallKind, c.deadBall) << c.why;
-    EXPECT_EQ(game.AfterTimeout, taken) << c.why;
     EXPECT_EQ(game.PlayLog[1].Clock, taken ? clock : 0) << c.why;
   }
 }
@@ -180,62 +153,56 @@ TEST(Pass, IsMadeOrNot) {
 }
 
 TEST(QuickPass, TheComputerPassesQuicklyOnlyWithAFreshClock) {
+  const auto tried = [] {
+    const int before = O().QuickPassesGame;
+    random.Script({1});
+    const bool passes = ComputerQuickPass();
+    random.Script({});
+    EXPECT_EQ(O().QuickPassesGame - before, passes ? 1 : 0);
+    return passes;
+  };
   // clang-format off
-  const struct { const char* why; void (*change)(); bool tried; } cases[] = {
+  ExpectRows(SetUpCommands, tried, {
       {"fresh", [] {}, true}, {"running", [] { game.ShotClock = 239; }, false},
       {"once a possession", [] { game.possession.QuickPassCount = 1; }, false},
       {"one play in five", [] { O().QuickPassesGame = 3, O().GameFGA = 14; }, true},
       {"and no more", [] { O().QuickPassesGame = 3, O().GameFGA = 13; }, false},
       {"nobody is open", [] { O().Option = {}; }, false},
-  };
+  });
   // clang-format on
-  for (const auto& c : cases) {
-    SetUpCommands();
-    c.change();
-    const int before = O().QuickPassesGame;
-    random.Script({1});
-    EXPECT_EQ(ComputerQuickPass(), c.tried) << c.why;
-    EXPECT_EQ(O().QuickPassesGame - before, c.tried ? 1 : 0) << c.why;
-    random.Script({});
-  }
 }
 
 TEST(DefenseCall, HoldsForOnePlay) {
   constexpr int kCoverage[7] = {0, 1, 2, 3, 4, 6, 3};
   for (int call = 1; call <= 6; ++call) {
+    SetUpCommands();
+    OMan().CoverageOutside = 5;
+    OMan().DoubleTeamOutside = call == 6 ? 0 : 1;
+    D().DefenseHelp = 2;
+    game.GameState = "DEFENSE-CALL";
+    game.PlayKind = "OUTSIDE";
+    game.call.DefenseCall = call;
     int seen = 0;
-    for (std::uint64_t seed = 1; seed <= 20; ++seed) {
-      SetUpCommands();
-      OMan().CoverageOutside = 5;
-      OMan().DoubleTeamOutside = call == 6 ? 0 : 1;
-      D().DefenseHelp = 2;
-      game.GameState = "DEFENSE-CALL";
-      game.PlayKind = "OUTSIDE";
-      game.call.DefenseCall = call;
-      random.Seed(seed);
+    EachSeed(20, [&] {
       DefensePlayCallChosen();
       seen += D().ScoutCoverage[kOutside][6][kCoverage[call]];
       EXPECT_EQ(OMan().CoverageOutside, 5) << call;
       EXPECT_EQ(OMan().DoubleTeamOutside, call == 6 ? 0 : 1) << call;
       EXPECT_EQ(D().DefenseHelp, 2) << call;
-    }
+    });
     // The four others are covered as usual: 3.
     EXPECT_GT(seen, kCoverage[call] == 3 ? 4 * 15 + 10 : 10) << call;
   }
 }
 
-TEST(DefenseCall, LeavesABurnedClockBurning) {
+TEST(DefenseCall, LeavesABurnedClockBurningAndNobodyBlocksIt) {
   const auto burn = [] { BurnChosen(), DefensePlayCallChosen(); };
-  EXPECT_GT(Share([] {}, burn, [] { return game.PlayResult == "BURN"; }), 0.75);
-  EXPECT_EQ(Share([] {}, burn, [] { return O().GameFGA > 0; }), 0);
-}
-
-TEST(DefenseCall, NobodyBlocksABurnedClock) {
   const auto blocked = [] {
     return std::any_of(game.PlayLog.begin(), game.PlayLog.end(),
                        [](const PlayLogRow& row) { return row.Outcome == "BURN" && row.Note == kBlockedBy; });
   };
-  EXPECT_EQ(Share([] {}, [] { BurnChosen(), DefensePlayCallChosen(); }, blocked), 0);
+  EXPECT_GT(Share([] {}, burn, [] { return game.PlayResult == "BURN"; }), 0.75);
+  EXPECT_EQ(Share([] {}, burn, [] { return O().GameFGA > 0; }) + Share([] {}, burn, blocked), 0);
 }
 
 /// The rebounder stands beyond the arc with a minute to go; in the set before he had a shot outside.
@@ -263,20 +230,19 @@ void CoveredTightly() {
   }
 }
 
-void AnsweredLooseBefore() {
-  game.GameState = "DEFENSE-CALL";
-  game.call.DefenseCall = 2;
-  DefensePlayCallChosen();
-  const int last = D().DefenseList;
-  SetUpCommands();
-  D().DefenseList = last;
-  CoveredTightly();
-}
-
 TEST(UsePlay, AManWhoWasLeftAloneBeginsThePlayHimself) {
   const auto passes = [] { return game.possession.PassFirst == 1; };
+  const auto answeredLooseBefore = [] {
+    game.GameState = "DEFENSE-CALL";
+    game.call.DefenseCall = 2;
+    DefensePlayCallChosen();
+    const int last = D().DefenseList;
+    SetUpCommands();
+    D().DefenseList = last;
+    CoveredTightly();
+  };
   EXPECT_GT(Share(CoveredTightly, UsePlayNowRoutine, passes), 0.35);
-  EXPECT_LT(Share(AnsweredLooseBefore, UsePlayNowRoutine, passes), 0.15);
+  EXPECT_LT(Share(answeredLooseBefore, UsePlayNowRoutine, passes), 0.15);
 }
 
 TEST(UsePlay, NeedsTime) {
@@ -304,31 +270,34 @@ TEST(UsePlay, NeedsTime) {
   }
 }
 
-void Calls(int kind, int player) { game.call.CallKind = kind, game.call.CallPlayer = player; }
-bool Plays(int man, PlayKind kind) { return game.BallPlayer == man && game.PlayKind == kind; }
-bool AnyThree() {
-  bool any = game.PlayKind == "THREE";
-  for (int slot = 1; slot <= kPositions; ++slot) any = any || OMan(slot).ShotPick == kThree;
-  return any;
-}
-
 TEST(UsePlay, RunsWhatWasCalled) {
+  const auto threes = [] {
+    bool any = game.PlayKind == "THREE";
+    for (int slot = 1; slot <= kPositions; ++slot) any = any || OMan(slot).ShotPick == kThree;
+    return any;
+  };
   // clang-format off
-  const struct { const char* why; void (*change)(); bool (*holds)(); double atLeast, atMost; } cases[] = {
-      {"pick",
-       [] { Calls(6, 5); }, [] { return game.call.PickBall == 1 && game.call.PickScreener == 5; }, 0.6, 1},
-      {"force a three",
-       [] { Calls(7, 5); }, [] { return Plays(5, "THREE") && game.call.ForcedThree; }, 0.6, 1},
-      {"hold, anybody: a guard does",
-       [] { Calls(8, 6); }, [] { return Plays(1, "HOLD BALL") || Plays(2, "HOLD BALL"); }, 1, 1},
-      {"three without a line", [] { Calls(3, 2), Rules().ThreePointCheck = 0; }, AnyThree, 0, 0},
-      {"force one without a line", [] { Calls(7, 2), Rules().ThreePointCheck = 0; }, AnyThree, 0, 0},
+  const struct { const char* why; int kind, man; bool line, (*holds)(); double atLeast, atMost; } cases[] = {
+      {"pick", 6, 5, true, [] { return game.call.PickBall == 1 && game.call.PickScreener == 5; }, 0.6, 1},
+      {"force a three", 7, 5, true, [] {
+        return game.BallPlayer == 5 && game.PlayKind == "THREE" && game.call.ForcedThree; }, 0.6, 1},
+      {"hold, anybody: a guard does", 8, 6, true, [] {
+        return game.BallPlayer <= 2 && game.PlayKind == "HOLD BALL"; }, 1, 1},
+      {"three without a line", 3, 2, false, threes, 0, 0},
+      {"force one without a line", 7, 2, false, threes, 0, 0},
   };
   // clang-format on
   for (const auto& c : cases) {
-    const double share = Share(c.change, UsePlayNowRoutine, c.holds);
-    EXPECT_GE(share, c.atLeast) << c.why;
-    EXPECT_LE(share, c.atMost) << c.why;
+    int count = 0;
+    SetUpCommands();
+    game.call.CallKind = c.kind, game.call.CallPlayer = c.man;
+    Rules().ThreePointCheck = c.line;
+    EachSeed(400, [&] {
+      UsePlayNowRoutine();
+      count += c.holds() ? 1 : 0;
+    });
+    EXPECT_GE(count, 400 * c.atLeast) << c.why;
+    EXPECT_LE(count, 400 * c.atMost) << c.why;
   }
 }
 

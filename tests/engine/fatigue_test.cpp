@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/rows.h"
 #include "support/two_teams.h"
 
 namespace tipline {
@@ -65,43 +66,25 @@ TEST(SetStints, StaysInBoundsAndRunsWithTheMinutes) {
   }
 }
 
-TEST(EmptyFouledOut, RefillsOnlyWithFiveMenLeft) {
-  const struct {
-    const char* why;
-    int men, left;
-  } cases[] = {{"a bench", kMen, 5}, {"six men, five can play", 6, 5}, {"five men, four can play", 5, 4}};
-  for (const auto& c : cases) {
-    TwoTeams();
-    for (int slot = c.men + 1; slot <= kMen; ++slot) PlayerAt(1, slot) = {};
-    PlayerAt(1, 2).Stats[3].Pf = 6;
-    EmptyFouledOut();
-    int left = 0;
-    for (const int slot : game.side[1].Lineup) left += slot > 0 ? 1 : 0;
-    EXPECT_EQ(left, c.left) << c.why;
-    EXPECT_EQ(PositionOf(1, 2), 0) << c.why;
-  }
-}
-
 TEST(LineupCheck, LooksOnlyWithAReason) {
-  const auto changed = [] {
+  const auto setUp = [] {
+    TwoTeams();
     game.side[1].Lineup[4] = 3;  // a man who stands twice tells whether anybody looked
-    for (int side = 1; side <= 2; ++side) {
-      for (int slot = 1; slot <= 5; ++slot) LoadedAt(side, slot).PlayLength = 14000;
-    }
     PlayerAt(1, 3).DepthRank[4] = 6;
+    for (auto& side : game.loaded) side.Fill({.PlayLength = 14000});
+  };
+  const auto looks = [] {
     LineupCheck();
     return game.side[1].Lineup[4] != 3;
   };
-  TwoTeams();
-  EXPECT_FALSE(changed());
-  TwoTeams();
-  ManAt(2, 5).Energy = 99;
-  EXPECT_TRUE(changed());
-  TwoTeams();
-  game.play.Fouler = 9;
-  game.play.FoulingSide = 2;
-  PlayerAt(2, 9).Stats[3].Pf = 2;
-  EXPECT_TRUE(changed()) << "more fouls than periods";
+  // clang-format off
+  ExpectRows(setUp, looks, {
+      {"nothing has happened", [] {}, false},
+      {"a tired man", [] { ManAt(2, 5).Energy = 99; }, true},
+      {"a fouler has more fouls than periods", [] {
+        game.play.Fouler = 9, game.play.FoulingSide = 2, PlayerAt(2, 9).Stats[3].Pf = 2; }, true},
+  });
+  // clang-format on
 }
 
 }  // namespace

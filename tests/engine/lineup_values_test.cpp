@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "engine/weights.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 
@@ -16,12 +19,16 @@ void Positions(int primary, int secondary, int spot) {
 }  // namespace
 
 TEST(LineupValues, SumWhatFiveMenShowWhereTheyStand) {
-  struct Sums {
-    int offense, force, insideDefense, passing, defensiveBoards, offensiveBoards;
-    bool operator==(const Sums&) const = default;
+  // Offense, force, inside defense, passing, defensive boards, offensive boards.
+  const auto sums = [] {
+    LineupValues();
+    EXPECT_EQ(D().LineupOffense, 250);
+    const Side& o = O();
+    return std::array{o.LineupOffense, o.LineupForce,  static_cast<int>(o.LineupDefInside),
+                      o.LineupPassing, o.LineupRebDef, o.LineupRebOff};
   };
   // clang-format off
-  const struct { const char* why; void (*change)(); Sums sums; } cases[] = {
+  ExpectRows(SetUpNeutralGame, sums, {
       {"five at home", [] {}, {250, 25, 18, 20, 14, 19}},
       {"a centre on the wing", [] { Positions(5, 0, 0); }, {248, 23, 16, 19, 15, 18}},
       {"named twice: the later place", [] { Positions(3, 0, 3); }, {249, 24, 17, 20, 14, 19}},
@@ -37,20 +44,8 @@ TEST(LineupValues, SumWhatFiveMenShowWhereTheyStand) {
       {"an empty place ends the count", [] { O().Lineup[3] = 0; }, {100, 10, 6, 8, 5, 7}},
       {"men who can do nothing", [] {
         for (int p = 1; p <= 5; ++p) game.player[2][p] = {}; }, {0, 0, 0, 0, 0, 0}},
-  };
+  });
   // clang-format on
-  for (const auto& c : cases) {
-    SetUpNeutralGame();
-    c.change();
-    LineupValues();
-    const Side& o = O();
-    const Sums got{o.LineupOffense, o.LineupForce,  static_cast<int>(o.LineupDefInside),
-                   o.LineupPassing, o.LineupRebDef, o.LineupRebOff};
-    EXPECT_TRUE(got == c.sums) << c.why << ": " << got.offense << ' ' << got.force << ' ' << got.insideDefense
-                               << ' ' << got.passing << ' ' << got.defensiveBoards << ' '
-                               << got.offensiveBoards;
-    EXPECT_EQ(D().LineupOffense, 250) << c.why;
-  }
 }
 
 TEST(LineupValues, DefenseAndUsage) {

@@ -63,26 +63,23 @@ TEST_F(LoadedTeam, VariesHisSeasonInItsOrder) {
 }
 
 TEST_F(LoadedTeam, KeepsTheVariationOnceHeHasPlayed) {
-  const struct {
-    const char* why;
-    void (*change)(PlayerRecord&);
-    bool drawn;
-  } cases[] = {
-      {"his first game", [](PlayerRecord&) {}, true},
-      {"he has played", [](PlayerRecord& p) { p.Stats[2].G = 1; }, false},
-      {"never drawn", [](PlayerRecord& p) { p.Stats[2].G = 1, p.AltForm4 = 26; }, true},
-      {"a playoff module", [](PlayerRecord&) { league.rules.IsPlayoffModule = 1; }, false},
-      {"no game", [](PlayerRecord&) { program.ReplayLocked = false; }, false},
+  // clang-format off
+  const struct { const char* why; i16 games; u8 fourth, module; bool locked, drawn; } cases[] = {
+      {"his first game", 0, 9, 0, true, true},
+      {"he has played", 1, 9, 0, true, false},
+      {"never drawn", 1, 26, 0, true, true},
+      {"a playoff module", 0, 9, 1, true, false},
+      {"no game", 0, 9, 0, false, false},
   };
+  // clang-format on
   for (const auto& c : cases) {
-    program.ReplayLocked = true;
-    league.rules.IsPlayoffModule = 0;
+    program.ReplayLocked = c.locked;
+    league.rules.IsPlayoffModule = c.module;
     PlayerRecord man;
     ReadPlayer(1, man);
-    man.Stats[2].G = 0, man.AltForm4 = 9;
-    c.change(man);
+    man.Stats[2].G = c.games, man.AltForm4 = c.fourth;
     WritePlayer(man);
-    random.Script({2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2});
+    random.Script(std::vector<double>(22, 2));
     ASSERT_TRUE(LoadTeam(3, 1));
     random.Script({});
     EXPECT_EQ(Man().AltForm2, c.drawn ? 10 : 20) << c.why;

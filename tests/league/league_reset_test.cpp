@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
 #include "league/combo_players.h"
@@ -10,6 +13,7 @@
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
+#include "league/startup.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -17,7 +21,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// Two teams with a man each, and a free agent; rows 4 and 5 are nobody's.
+/// Two teams with a man each, a free agent and two men on no roster.
 class Resets : public testing::Test {
  protected:
   TemporaryLeague folder;
@@ -32,12 +36,10 @@ class Resets : public testing::Test {
       PutMan(team, team, "Man");
     }
     PutMan(3, kFreeAgent, "Free");
-    PutMan(4, 3, "Stray");
-    PutMan(5, 1005, "Former");
-    ASSERT_TRUE(SaveAllTeams());
+    PutMan(4, 3, "Stray");  // of a team that is not there
+    PutMan(5, 1002, "Former");
     LoadRules();
-    SaveRules();
-    LoadRules();
+    ASSERT_TRUE(SaveAllTeams() && SaveRules());
   }
 
   static void PutMan(int recNo, int team, const char* name, int replayGames = 3) {
@@ -56,23 +58,20 @@ class Resets : public testing::Test {
 };
 
 TEST_F(Resets, ASeasonBeginsAnew) {
-  league.ScheduleGame.resize(3);
-  league.ScheduleGame[1] = NewScheduleGame(1, 2, 11, 5);
-  league.ScheduleGame[1].Status = "P", league.ScheduleGame[1].BoxFile = "BOX1.BOX";
-  league.ScheduleGame[1].PlayoffFlag = "Y", league.ScheduleGame[1].Score[1] = 99;
-  league.ScheduleGame[2] = NewScheduleGame(2, 1, 11, 6);
+  league.ScheduleGame = {{}, NewScheduleGame(1, 2, 11, 5), NewScheduleGame(2, 1, 11, 6)};
+  ScheduleRecord& played = league.ScheduleGame[1];
+  played.Status = "P", played.BoxFile = "BOX1.BOX", played.PlayoffFlag = "Y", played.Score[1] = 99;
   TournamentPools pools;
   pools.PoolMark = TournamentPools::kSetMark, pools.PoolWins[1] = 2, pools.PoolOfTeam[1] = 4;
   pools.DateType[6][11] = "Q";
   WriteRecord(pools, league.tournamentPools.data());
   ASSERT_TRUE(SaveSchedule() && SaveRules());
-  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "BOX1.BOX", "box2.box", "GAMELOGS"}) {
+  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "BOX1.BOX", "box2.box", "GAMELOGS"})
     ASSERT_TRUE(WriteWholeFile(LeagueFile(name), "something"));
-  }
   Texts labels;
   ASSERT_TRUE(ResetLeague(false, [&labels](const std::string& text) { labels.push_back(text); }));
-  EXPECT_EQ(labels, (Texts{"Deleting player stats..", "Deleting game scores..", "Deleting box 1 of 2...",
-                           "Deleting box 2 of 2...", "Deleting team stats.."}));
+  ASSERT_EQ(labels.size(), 5u);
+  EXPECT_EQ(labels[3], "Deleting box 2 of 2...");
   EXPECT_EQ(dialogs.told, Texts{"League Reset Complete!"});
   for (const char* name : {"HCRECORDS", "SCORES", "HcTop40"})
     EXPECT_EQ(ReadWholeFile(LeagueFile(name)), "") << name;
@@ -91,48 +90,59 @@ TEST_F(Resets, ASeasonBeginsAnew) {
   EXPECT_EQ(ReadPools().PoolOfTeam[1], 4) << "who plays in which pool stays";
 }
 
-TEST_F(Resets, RealLifeGoesOnlyWhenAsked) {
-  ASSERT_TRUE(ZeroStats(true));
-  EXPECT_EQ(Man(1).Stats[1].G, 0);
-}
-
 TEST_F(Resets, AFileThatCantBeWrittenStopsIt) {
   TemporaryLeague::Block(LeagueFile("HcLeaders"));
   EXPECT_FALSE(ResetLeague());
   EXPECT_EQ(dialogs.told, Texts{"HcLeaders could not be written!"});
   EXPECT_EQ(Man(1).Stats[2].G, 3);
+  std::filesystem::remove(LeagueFile("HcLeaders"));
+  EXPECT_TRUE(ZeroStats(true));
+  EXPECT_EQ(Man(1).Stats[1].G, 0) << "real life goes when that is asked";
 }
 
 TEST_F(Resets, TheFolderIsRidOfRowsNobodyNeeds) {
   league.team[2].Roster[7] = 6, league.team[2].Roster[9] = 7, league.team[2].Roster[11] = 5;
   PutMan(6, 2, "Man", 0);   // a twin who never played here
   PutMan(7, 2, "Mann", 0);  // not the same man
-  PutMan(5, 1002, "Former");
   ASSERT_TRUE(WriteTeam(2));
   dialogs.answers = {false, true};
   EXPECT_FALSE(CleanLeagueFolder());
   EXPECT_EQ(Man(4).TeamNo, 3);
   EXPECT_TRUE(CleanLeagueFolder());
   EXPECT_EQ(dialogs.told, Texts{"League Folder Cleaned!"});
-  const struct {
-    const char* why;
-    int row;
-    bool stays;
-  } cases[] = {{"on a roster", 1, true}, {"free agent", 3, true}, {"a team that is not there", 4, false},
-               {"twin", 6, false},       {"no twin", 7, true},    {"former member", 5, true}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(Man(c.row).TeamNo != 0, c.stays) << c.why;
-    EXPECT_EQ(!Man(c.row).LastName.Empty(), c.stays) << c.why;
-  }
+  for (const int row : {1, 3, 5, 7}) EXPECT_TRUE(Man(row).TeamNo != 0 && !Man(row).LastName.Empty()) << row;
+  for (const int row : {4, 6}) EXPECT_TRUE(Man(row).TeamNo == 0 && Man(row).LastName.Empty()) << row;
   ReadTeam(2);
   EXPECT_EQ(league.team[2].Roster[7], 0);
 }
 
+TEST_F(Resets, AnOpeningCleansTheFolderOnce) {
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 0);
+  EXPECT_EQ(league.player[4].TeamNo, 0) << "in memory as well";
+  PutMan(4, 3, "Stray");
+  ASSERT_TRUE(OpenLeague());
+  EXPECT_EQ(Man(4).TeamNo, 3) << "not again";
+  EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Resets, TheSeasonOf2019MayBeAFullOne) {
+  PlayerRecord man;
+  man.RecNo = 3, man.Year = 2019, man.Stats[1].G = 75;
+  for (const int team : {kFreeAgent, 720}) {
+    man.TeamNo = static_cast<i16>(team);
+    ASSERT_TRUE(WritePlayer(man));
+    LoadLeaguePlayers();
+    EXPECT_EQ(league.FullSeasonScale > 1, team == 720) << team;
+  }
+}
+
+/// A man's row in his team, with games and minutes; `roster` is the team that has him.
 struct Part {
-  int team, games, minutes;
-  int onRoster = 0;  ///< of this team
+  i16 team, games, minutes;
+  int roster = 0;
   const char* name = "Al";
-  int comboDone = 0, age = 25;
+  u8 done = 0, age = 25;
 };
 
 /// Rows 1, 2, 3 ..; teams 1 to 3 have played 40, 50 and 60 games.
@@ -140,16 +150,16 @@ void OpenParts(const std::vector<Part>& parts) {
   league = {};
   constexpr const char* kNames[] = {"", "bos", "atl", "mia"};
   for (int team = 1; team <= 3; ++team) {
-    league.team[team].TeamActive = 1, league.team[team].Wins = static_cast<i16>(30 + 10 * team);
-    league.team[team].Abbrev = kNames[team];
+    league.team[team].TeamActive = 1, league.team[team].Abbrev = kNames[team];
+    league.team[team].Wins = static_cast<i16>(30 + 10 * team);
   }
-  league.player.resize(parts.size() + 1);
-  for (std::size_t k = 0; k < parts.size(); ++k) {
-    PlayerRecord& man = league.player[k + 1];
-    man.FirstName = parts[k].name, man.LastName = "Ames", man.Age = static_cast<u8>(parts[k].age);
-    man.TeamNo = static_cast<i16>(parts[k].team), man.ComboDone = static_cast<u8>(parts[k].comboDone);
-    man.Stats[2].G = static_cast<i16>(parts[k].games), man.Stats[2].Min = static_cast<i16>(parts[k].minutes);
-    if (parts[k].onRoster) league.team[parts[k].onRoster].Roster[k + 1] = static_cast<i16>(k + 1);
+  for (const Part& part : parts) {
+    const std::size_t row = std::max<std::size_t>(league.player.size(), 1);
+    league.player.resize(row + 1);
+    PlayerRecord& man = league.player[row];
+    man.FirstName = part.name, man.LastName = "Ames", man.Age = part.age, man.TeamNo = part.team;
+    man.ComboDone = part.done, man.Stats[2].G = part.games, man.Stats[2].Min = part.minutes;
+    if (part.roster) league.team[part.roster].Roster[1] = static_cast<i16>(row);
   }
 }
 
@@ -161,9 +171,7 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
     int games, minutes;
   } cases[] = {
       {"two teams", {{1, 10, 300, 1}, {1002, 20, 500}}, "BOS-ATL", 30, 800},
-      {"the former row stands first", {{1002, 20, 500}, {1, 10, 300, 1}}, "BOS-ATL", 30, 800},
       {"three teams", {{1, 10, 300, 1}, {1002, 12, 500}, {1003, 15, 100}}, "BOS-ATL-MIA", 37, 900},
-      {"a third part too many", {{1, 20, 300, 1}, {1002, 20, 500}, {1003, 20, 700}}, "BOS-ATL-MIA", 60, 1500},
       {"as many games as the team", {{1, 15, 300, 1}, {1002, 25, 500}}, "BOS-ATL", 40, 800},
       {"more than one team has played", {{1, 16, 300, 1}, {1002, 25, 500}}, "", 0, 0},
       {"written twice", {{1, 10, 300, 1}, {1002, 10, 300}}, "BOS-ATL", 10, 300},
@@ -171,43 +179,39 @@ TEST(ComboPlayers, PartsOfASeasonAreJoined) {
       {"another man", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Bo"}}, "", 0, 0},
       {"a son", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Al", 0, 20}}, "", 0, 0},
       {"one team", {{1, 10, 300, 1}, {1001, 20, 500}}, "", 0, 0},
-      {"on no roster", {{1, 10, 300}, {1002, 20, 500}}, "", 0, 0},
       {"done already", {{1, 10, 300, 1, "Al", 1}, {1002, 20, 500}}, "", 0, 0},
+      {"on no roster", {{1, 10, 300}, {1002, 20, 500}}, "", 0, 0},
       {"the other is done", {{1, 10, 300, 1}, {1002, 20, 500, 0, "Al", 1}}, "BOS-ATL", 10, 300},
       {"a free agent is nobody's part", {{1, 10, 300, 1}, {999, 20, 500}}, "", 0, 0},
+      {"too many games: the longest", {{1, 70, 300, 1}, {1002, -30, 500, 0, "Al", 1}}, "BOS-ATL", -30, 500},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.why);
     OpenParts(c.parts);
     for (int scan = 1; scan <= 2; ++scan) {
       ComboPlayerScan();
-      ASSERT_EQ(league.player.size(), c.parts.size() + (*c.text ? 2 : 1)) << c.why;
+      ASSERT_EQ(league.player.size(), c.parts.size() + (*c.text ? 2 : 1));
       if (!*c.text) continue;
       const PlayerRecord& whole = league.player.back();
-      EXPECT_EQ(whole.TeamNo, kCombined) << c.why;
-      EXPECT_EQ(whole.Stats[2].G, c.games) << c.why;
-      EXPECT_EQ(whole.Stats[2].Min, c.minutes) << c.why;
-      EXPECT_EQ(league.ComboTeams[static_cast<int>(league.player.size()) - 1], c.text) << c.why;
+      EXPECT_EQ(whole.TeamNo, kCombined);
+      EXPECT_EQ(whole.Stats[2].G, c.games);
+      EXPECT_EQ(whole.Stats[2].Min, c.minutes);
+      EXPECT_EQ(league.ComboTeams[static_cast<int>(league.player.size()) - 1], c.text);
     }
   }
-  OpenParts({{1, 70, 300, 1}, {1002, -30, 500, 0, "Al", 1}});
-  ComboPlayerScan();
-  EXPECT_EQ(league.player.back().Stats[2].Min, 500) << "a wrong join: the longest part stands for him";
   league = {};
 }
 
 TEST_F(Resets, OfficeFilesAreKeptWhole) {
   AddressBook book;
-  LoadAddressBook(book);
-  EXPECT_EQ(book.MemberUsed[1], 0);
-  book.MemberUsed[50] = 1, book.MemberEmail[50] = "a@b.c", book.LeagueName = "Demo";
+  book.MemberEmail[50] = "a@b.c";
   ASSERT_TRUE(SaveAddressBook(book));
   const std::string bytes = ReadWholeFile(LeagueFile("HCADDRESSBOOK"));
   EXPECT_EQ(bytes.size(), 30000u);
-  EXPECT_EQ(bytes[7334 + 50], 1);
   EXPECT_EQ(bytes.substr(7334 + 3621 + 50 * 70, 5), "a@b.c");
-  AddressBook again;
-  LoadAddressBook(again);
-  EXPECT_EQ(RecordBytes(again), RecordBytes(book));
+  book = {};
+  LoadAddressBook(book);
+  EXPECT_EQ(book.MemberEmail[50], "a@b.c");
 
   DraftLog log;
   LoadDraftLog(log);
@@ -217,15 +221,77 @@ TEST_F(Resets, OfficeFilesAreKeptWhole) {
   EXPECT_EQ(draft.size(), 64000u);
   EXPECT_EQ(draft[3610], 9);
   EXPECT_EQ(draft[63998], 7);
+}
 
-  LoadScores();
-  EXPECT_EQ(league.Scores.size(), 1u);
-  league.Scores.push_back(NewScheduleGame(1, 2, 12, 3));
-  ASSERT_TRUE(SaveScores());
-  league.Scores.clear();
-  LoadScores();
-  ASSERT_EQ(league.Scores.size(), 2u);
-  EXPECT_EQ(league.Scores[1].Team[2], 2);
+/// A record with the byte 1 everywhere.
+template <class Record>
+Record Full() {
+  Record record;
+  ReadRecord(std::vector<u8>(Record::kRecordSize, 1).data(), record);
+  return record;
+}
+
+/// Names of the fields of which something is cleared.
+template <class Record>
+std::set<std::string> Cleared(const Record& record) {
+  const auto bytes = RecordBytes(record);
+  std::set<std::string> names;
+  Describe(record, [&](int offset, const char* name, const auto& member, const char*) {
+    const auto first = bytes.begin() + offset;
+    const auto last = first + DiskSize<std::remove_cvref_t<decltype(member)>>();
+    if (std::count(first, last, 1) < last - first) names.insert(name);
+  });
+  return names;
+}
+
+template <class Record>
+void ExpectKept(const Record& record, std::size_t cleared, const std::vector<const char*>& kept) {
+  EXPECT_EQ(Cleared(record).size(), cleared);
+  for (const char* name : kept) EXPECT_FALSE(Cleared(record).contains(name)) << name;
+}
+
+TEST(SeasonReset, ATeamKeepsWhatIsNotOfTheSeason) {
+  TemporaryLeague folder;
+  league.team[720] = Full<TeamRecord>();
+  ZeroTeam(720);
+  const TeamRecord& team = league.team[720];
+  ExpectKept(
+      team, 94,
+      {"TeamActive",     "City",         "Abbrev",       "Year",       "TeamType",         "RealTotals",
+       "Roster",         "LogoFile",     "PlanMark",     "SplitsMark", "ScheduleStrength", "HighLowMark",
+       "LastTenMark",    "SavedWins",    "ArenaAge",     "RealWins",   "SavedPowerRating", "RealLosses",
+       "TeamTotalsMark", "ReservedText", "ReservedFlagA"});
+  EXPECT_EQ(team.TeamRebounds[1], 257) << "real life stays";
+  EXPECT_EQ(team.TeamRebounds[2], 0);
+  EXPECT_EQ(team.LastTen[10], " ");
+}
+
+TEST(SeasonReset, APlayerLosesOneBlock) {
+  TemporaryLeague folder;
+  auto real = Full<PlayerRecord>();
+  ZeroPlayer(real, 1);
+  EXPECT_EQ(Cleared(real), (std::set<std::string>{"Stats", "HomeStats", "RoadStats", "QuarterPoints"}));
+  EXPECT_EQ(real.Stats[1].FGA + real.QuarterPoints[5][1], 0);
+  EXPECT_EQ(real.Stats[2].FGA, 257);
+
+  auto replay = Full<PlayerRecord>();
+  ZeroPlayer(replay, 2);
+  EXPECT_EQ(replay.Stats[1].FGA, 257) << "real life stays";
+  EXPECT_EQ(replay.Stats[2].DunkMark, 1) << "else the next load would clear the real dunks";
+  EXPECT_EQ(replay.Stats[3].FGA, 257) << "so does the last game";
+  EXPECT_EQ(replay.Flagrants[3], 1);
+  EXPECT_EQ(replay.SeriesStats.FGA, 0);
+  ExpectKept(replay, 53,
+             {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
+              "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"});
+
+  auto inGame = Full<PlayerRecord>();
+  program.ReplayLocked = true;
+  ZeroPlayer(inGame, 2);
+  EXPECT_EQ(inGame.SeriesStats.FGA, 257) << "the series goes on while a game holds the data";
+  auto other = Full<PlayerRecord>();
+  ZeroPlayer(other, 3);
+  EXPECT_TRUE(Cleared(other).empty());
 }
 
 }  // namespace

@@ -20,13 +20,9 @@ class Rosters : public testing::Test {
 
   void SetUp() override {
     TeamRecord& team = league.team[5];
-    team.TeamActive = 1;
-    team.City = "Salem/West";
-    team.Roster[1] = 2;
-    team.Roster[4] = 3;
-    team.Roster[5] = 1;
-    team.Roster[6] = 99;
-    team.Roster[7] = -8;
+    team.TeamActive = 1, team.City = "Salem/West";
+    constexpr int kRows[][2] = {{1, 2}, {4, 3}, {5, 1}, {6, 99}, {7, -8}};
+    for (const auto& [slot, row] : kRows) team.Roster[slot] = static_cast<i16>(row);
     ASSERT_TRUE(WriteTeam(5));
     PutMan(1, 0, "Gone");
     PutMan(2, 5, "Ames");
@@ -35,9 +31,7 @@ class Rosters : public testing::Test {
 
   static void PutMan(int recNo, int team, const char* name) {
     PlayerRecord man;
-    man.RecNo = static_cast<i16>(recNo);
-    man.TeamNo = static_cast<i16>(team);
-    man.LastName = name;
+    man.RecNo = static_cast<i16>(recNo), man.TeamNo = static_cast<i16>(team), man.LastName = name;
     ASSERT_TRUE(WritePlayer(man));
   }
 };
@@ -50,23 +44,16 @@ TEST_F(Rosters, MenStandInTheirSlotsAndRemovedOnesLeave) {
   EXPECT_EQ(roster.team.Roster[6], 0) << "a row behind the end of the file";
   EXPECT_EQ(roster.player[0].RecNo + roster.player[7].RecNo, 0);
   EXPECT_EQ(league.team[5].Roster[5], 0) << "the table follows";
-  const auto bytes = [] {
-    return ReadWholeFile(TeamsFile()) + ReadWholeFile(PlayersFile()) + ReadWholeFile(CoachesFile());
-  };
-  const std::string repaired = bytes();
   ASSERT_TRUE(LookAtRoster(5, roster));
   EXPECT_EQ(roster.team.Roster[6], 0) << "the file was repaired";
   EXPECT_FALSE(RepairRoster(roster).Any()) << "once";
-  ASSERT_TRUE(ReadRoster(5, roster));
-  EXPECT_EQ(bytes(), repaired);
   for (const int team : {0, 4, 721}) EXPECT_FALSE(ReadRoster(team, roster)) << team;
 }
 
 TEST_F(Rosters, AManStandsOnOneSlotAndMissingOnesEnterTheHighestFreeOne) {
-  PutMan(4, 5, "Late");
   PutMan(5, 0, "Late");
   PlayerRecord wrong;
-  ReadPlayer(4, wrong);
+  wrong.TeamNo = 5, wrong.LastName = "Late";
   wrong.RecNo = 3;  // the row knows its own number badly
   ASSERT_TRUE(RecordFile(PlayersFile(), kPlayerSlotBytes).Write(4, wrong));
   league.team[5].Roster[8] = 2;
@@ -77,9 +64,8 @@ TEST_F(Rosters, AManStandsOnOneSlotAndMissingOnesEnterTheHighestFreeOne) {
   ASSERT_TRUE(ReadRoster(5, roster));
   EXPECT_EQ(roster.team.Roster[1], 2);
   EXPECT_EQ(roster.team.Roster[8], 0) << "he stands at slot 1";
-  EXPECT_EQ(roster.team.Roster[30], 4);
   EXPECT_EQ(roster.player[30].LastName, "Late");
-  EXPECT_EQ(roster.player[30].RecNo, 4);
+  EXPECT_TRUE(roster.team.Roster[30] == 4 && roster.player[30].RecNo == 4);
   EXPECT_EQ(std::count(roster.team.Roster.begin(), roster.team.Roster.end(), 5), 0);
 }
 
@@ -92,7 +78,7 @@ TEST_F(Rosters, ARowOfNobodyIsGivenUp) {
   EXPECT_EQ(man.TeamNo, 0);
 }
 
-TEST_F(Rosters, CoachMenAndTeamAreWrittenBack) {
+TEST_F(Rosters, CoachMenAndTeamAreWrittenBackOrNothingIsTaken) {
   ASSERT_TRUE(ReadRoster(5, roster));
   roster.player[1].Age = 31;
   roster.player[4].RecNo = 0;
@@ -100,39 +86,30 @@ TEST_F(Rosters, CoachMenAndTeamAreWrittenBack) {
   roster.team.Wins = 12;
   ASSERT_TRUE(WriteRoster(roster));
   EXPECT_EQ(league.team[5].Wins, 12) << "the league's table follows";
-  Roster again;
-  ASSERT_TRUE(ReadRoster(5, again));
-  EXPECT_EQ(again.player[1].Age, 31);
-  EXPECT_EQ(again.team.Roster[4], 0) << "a man without a record leaves his slot";
-  EXPECT_EQ(again.coach.OverallPace, 4);
-}
-
-TEST_F(Rosters, AFailedWriteStopsAndKeepsTheTable) {
   ASSERT_TRUE(ReadRoster(5, roster));
+  EXPECT_EQ(roster.player[1].Age, 31);
+  EXPECT_EQ(roster.team.Roster[4], 0) << "a man without a record leaves his slot";
+  EXPECT_EQ(roster.coach.OverallPace, 4);
+
   TemporaryLeague::Block(PlayersFile());
-  roster.team.Wins = 12;
+  roster.team.Wins = 13;
   EXPECT_FALSE(WriteRoster(roster));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"HCPLAYER could not be written!"});
-  EXPECT_EQ(league.team[5].Wins, 0);
+  EXPECT_EQ(league.team[5].Wins, 12);
 }
 
 TEST_F(Rosters, APlanTravelsOnlyToItsOwnTeam) {
-  league.coach[5].OverallPace = 3;
-  ASSERT_TRUE(WriteCoach(5));
   ASSERT_TRUE(ExportCoach(5));
-  const auto file = program.LeagueFolder / "SalemWest Coach.coa";
-  CoachRecord coach;
-  ASSERT_TRUE(ImportCoach(5, coach));
-  EXPECT_EQ(coach.OverallPace, 3);
-
   league.team[6].City = "Aston";
-  std::filesystem::rename(file, program.LeagueFolder / "Aston Coach.coa");
-  coach = {};
+  const auto file = program.LeagueFolder / "Aston Coach.coa";
+  std::filesystem::rename(program.LeagueFolder / "SalemWest Coach.coa", file);
+  CoachRecord coach;
+  coach.OverallPace = 3;
   EXPECT_FALSE(ImportCoach(6, coach));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"You may only import a game plan for Aston!"});
-  EXPECT_EQ(coach.OverallPace, 0);
-  std::filesystem::resize_file(program.LeagueFolder / "Aston Coach.coa", 3);
+  std::filesystem::resize_file(file, 3);
   EXPECT_FALSE(ImportCoach(6, coach)) << "cut off before the team number";
+  EXPECT_EQ(coach.OverallPace, 3);
 }
 
 }  // namespace

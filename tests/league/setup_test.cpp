@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
 #include "league/data_tree.h"
@@ -12,95 +10,55 @@
 namespace tipline {
 namespace {
 
-void WriteSetup(const std::string& bytes) { ASSERT_TRUE(WriteWholeFile(SetupFile(), bytes)); }
-
 TEST(LoadSetup, FillsWhatIsMissingAndKeepsTheRest) {
   const TemporaryHome home;
-  // clang-format off
-  const struct { const char* why; std::function<void()> file; int speed; } cases[] = {
-      {"no file", [] {}, 25},
-      {"999 bytes are no setup", [] { WriteSetup(std::string(999, '\7')); }, 25},
-      {"1000 are: the speed on it is kept, what lies behind it is filled",
-       [] { std::string bytes(1000, '\0'); bytes[70] = 77, bytes[71] = 9; WriteSetup(bytes); }, 9},
-      {"the narrator can't be that fast",
-       [] { setup = {}; RepairSetup(); setup.PBPscroll = 9, setup.NarratorScroll = 21;
-            ASSERT_TRUE(SaveSetup()); }, 25},
-      {"a sound one", [] { setup = {}; RepairSetup(); setup.PBPscroll = 9; ASSERT_TRUE(SaveSetup()); }, 9},
-      {"out of range", [] { setup = {}; RepairSetup(); setup.PBPscroll = 101; ASSERT_TRUE(SaveSetup()); }, 20},
+  const auto saved = [](u8 speed, u8 narrator) {
+    setup = {};
+    RepairSetup();
+    setup.PBPscroll = speed, setup.NarratorScroll = narrator;
+    const auto bytes = RecordBytes(setup);
+    return std::string(bytes.begin(), bytes.end());
   };
-  // clang-format on
+  std::string shortest(1000, '\0');
+  shortest[70] = 77, shortest[71] = 9;
+  const struct {
+    const char* why;
+    std::string file;
+    int speed;
+  } cases[] = {
+      {"999 bytes are no setup", std::string(999, '\7'), 25},
+      {"1000 are: the speed on it is kept, what lies behind it is filled", shortest, 9},
+      {"the narrator can't be that fast", saved(9, 21), 25},
+      {"a sound one", saved(9, 20), 9},
+      {"out of range", saved(101, 20), 20},
+  };
   for (const auto& c : cases) {
-    std::filesystem::remove(SetupFile());
-    c.file();
+    SCOPED_TRACE(c.why);
+    ASSERT_TRUE(WriteWholeFile(SetupFile(), c.file));
     setup = {};
     LoadSetup();
-    EXPECT_EQ(setup.PBPscroll, c.speed) << c.why;
-    EXPECT_EQ(setup.PlayCallFrequency[3][2], 10) << c.why;
-    EXPECT_EQ(setup.PlayCallFrequency[1][1], 2) << c.why;
-    EXPECT_TRUE(setup.ScreenNameText == "MyName") << c.why;
-    EXPECT_TRUE(setup.EncyclopediaName[10] == "HCencyclopedia10") << c.why;
-    EXPECT_TRUE(setup.StatViewName[4] == "Per 48 Minutes" && setup.StatViewName[11] == "Custom") << c.why;
+    EXPECT_EQ(setup.PBPscroll, c.speed);
+    EXPECT_EQ(setup.PlayCallFrequency[3][2], 10);
+    EXPECT_EQ(setup.EncyclopediaName[10], "HCencyclopedia10");
+    EXPECT_EQ(setup.StatViewName[11], "Custom");
     const SetupRecord once = setup;
     RepairSetup();
-    EXPECT_EQ(RecordBytes(setup), RecordBytes(once)) << "a second load has nothing to do: " << c.why;
+    EXPECT_EQ(RecordBytes(setup), RecordBytes(once)) << "a second load has nothing to do";
   }
-}
-
-TEST(RepairSetup, AMarkerOffFillsItsFieldsAndOnLeavesThem) {
-  // clang-format off
-  const struct { const char* why; u8 SetupRecord::*mark; u8 SetupRecord::*field; u8 filled; } cases[] = {
-      {"calls", &SetupRecord::PlayCallMark, nullptr, 0},
-      {"fonts", &SetupRecord::PbpFontMark, &SetupRecord::PbpFontSize, 2},
-      {"the edition's sounds", &SetupRecord::SoundEditionMark, &SetupRecord::SoundCrowdScroll, 100},
-      {"the edition's narrator", &SetupRecord::NarratorEditionMark, &SetupRecord::NarratorScroll, 10},
-      {"reports", &SetupRecord::ReportFontMark, &SetupRecord::ReportFontMenu, 3},
-      {"box", &SetupRecord::BoxOptionsMark, &SetupRecord::PlusMinusCheck, 0},
-  };
-  // clang-format on
-  for (const auto& c : cases) {
-    for (const bool missing : {false, true}) {
-      setup = {};
-      RepairSetup();
-      if (missing) setup.*c.mark = 1;
-      if (c.field) setup.*c.field = 7;
-      setup.PlayCallFrequency[1][1] = 9;
-      RepairSetup();
-      if (c.field) {
-        EXPECT_EQ(setup.*c.field, missing ? c.filled : 7) << c.why;
-      }
-      EXPECT_EQ(setup.PlayCallFrequency[1][1], c.field || !missing ? 9 : 2) << c.why;
-    }
-  }
-}
-
-TEST(PlayCalls, LieInTheFilePeriodByPeriod) {
-  setup = {};
-  for (int band = 1; band <= 3; ++band) {
-    for (int period = 1; period <= 5; ++period)
-      setup.PlayCallFrequency[band][period] = static_cast<u8>(10 * band + period);
-  }
-  const auto bytes = RecordBytes(setup);
-  EXPECT_EQ(bytes[12993], 11);
-  EXPECT_EQ(bytes[12994], 12);
-  EXPECT_EQ(bytes[13007], 35);
   setup = {};
 }
 
 TEST(DataTree, TheDriveFileIsUsedOrMended) {
-  // clang-format off
-  const struct { const char* why; const char* text; const char* drive; } cases[] = {
-      {"no file", nullptr, "C:"}, {"no colon", "D\n", "C:"}, {"too long", "D:\\\n", "C:"},
-      {"a drive that is not there", "E:\n", "C:"}, {"one that is", "D:\n", "D:"}, {"nothing", "", "C:"},
-  };
-  // clang-format on
+  const struct {
+    const char *why, *text, *drive;
+  } cases[] = {{"no file", nullptr, "C:"},    {"no colon", "D\n", "C:"},
+               {"too long", "D:\\\n", "C:"},  {"a drive that is not there", "E:\n", "C:"},
+               {"one that is", "D:\n", "D:"}, {"nothing", "", "C:"}};
   for (const auto& c : cases) {
     const TemporaryHome home;
     std::filesystem::create_directories(program.Home / "drive-d");
-    std::filesystem::create_directories(program.ProgramFolder);
     const auto file = program.ProgramFolder / "Orvex-Basketball-Drive";
-    if (c.text) {
-      ASSERT_TRUE(WriteWholeFile(file, c.text));
-    }
+    ASSERT_TRUE(!c.text || WriteWholeFile(file, c.text));
     ReadDrive();
     EXPECT_EQ(program.DataDrive, c.drive) << c.why;
     EXPECT_EQ(ReadWholeFile(file), std::string(c.drive) + "\n") << c.why;
@@ -110,15 +68,13 @@ TEST(DataTree, TheDriveFileIsUsedOrMended) {
 TEST(DataTree, MakesItsFoldersAndStamps) {
   const TemporaryHome home;
   ReadRecentList();
-  const auto sport = program.Home / "orvex-data" / "Basketball";
-  for (const char* folder : {"Seasons", "PlayerPhotos", "Uniforms", "Arenas"})
-    EXPECT_TRUE(std::filesystem::is_directory(sport / folder)) << folder;
-  const auto stamp = sport / "Sounds" / "Basketball-Sound-Edition";
-  EXPECT_EQ(ReadWholeFile(stamp), "2023\n");
-  ASSERT_TRUE(WriteWholeFile(stamp, "2019\n"));
-  MakeDataFolders();
-  EXPECT_EQ(ReadWholeFile(stamp), "2023\n");
-  EXPECT_EQ(program.LeagueFolder, sport / "Seasons") << "no league yet";
+  const auto stamp = TreePath("Basketball\\Sounds\\Basketball-Sound-Edition");
+  for (const char* edition : {"2023\n", "2019\n"}) {
+    ASSERT_TRUE(WriteWholeFile(stamp, edition)) << "the folder is there";
+    MakeDataFolders();
+    EXPECT_EQ(ReadWholeFile(stamp), "2023\n");
+  }
+  EXPECT_EQ(program.LeagueFolder, TreePath("Basketball\\Seasons")) << "no league yet";
 }
 
 TEST(RecentList, IsReadNormalisedAndWrittenWithoutRepetition) {

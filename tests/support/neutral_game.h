@@ -69,6 +69,34 @@ inline void SetUpNeutralGame() {
   game.play.TeamDefense = 23.1;
 }
 
+/// An ordinary play of that game at this stop: twelve men a side who take every kind of shot,
+/// rebound, stand outside on spots of their own and are first options; five team fouls are the penalty.
+inline void SetUpPlay(PlayKind kind, GameState state = "OFFENSE") {
+  SetUpNeutralGame();
+  game.PutbackClass = 0;
+  game.PlayKind = kind;
+  game.GameState = state;
+  game.GameStarted = true;
+  game.GameClock = 5000;
+  game.ShotClock = 200;
+  league.rules.ShotClockList = 24;
+  league.rules.FoulLimit = {{5, 7, 10}};
+  league.rules.Penalty = {{3, 3, 3}};
+  for (int s = 1; s <= 2; ++s) {
+    game.side[s].Option = {{1, 1, 1, 1, 1}};
+    for (int slot = 1; slot <= 12; ++slot) {
+      PlayerRecord& man = game.player[s][slot];
+      man = MeanMan(s, (slot - 1) % 5 + 1);
+      man.PositionAllowed[man.PrimaryPosition] = 1;
+      man.HeightFeet = 6;
+      man.Stats[1].Reb = 400, man.Stats[1].Off = 120;
+      for (int k = 1; k <= 5; ++k) man.ShotSelection[k] = 3;
+      game.man[s][slot].ShotPick = kOutside;
+      game.man[s][slot].CourtSpot = 200 + slot % 9 + 1;
+    }
+  }
+}
+
 inline Side& O() { return game.side[2]; }
 inline Side& D() { return game.side[1]; }
 inline TeamRecord& OTeam() { return game.team[2]; }
@@ -102,13 +130,5 @@ void EachSeed(int times, Play play) {
     play();
   }
 }
-
-/// One change to the neutral game, what it leaves, and the draws on the way.
-struct ChanceCase {
-  const char* why;
-  void (*change)();
-  int chance;
-  std::vector<double> draws = {};
-};
 
 }  // namespace tipline

@@ -1,27 +1,36 @@
 #pragma once
 // An open file of this machine, closed with the object. For what the standard streams can't do: hold a file
 // against other programs, cut it, flush it to the disk.
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <utility>
 
-#include "base/types.h"
+namespace tipline::platform {
 
-namespace tipline {
+enum class Opening {
+  kChange,  ///< a file that is there, to read and write
+  kNew,     ///< the same, but it must not be there yet
+  kOver,    ///< to write from its beginning, whether it was there or not
+};
 
 class FileHandle {
  public:
   FileHandle() = default;
-  /// `flags` as `open` takes them (O_RDWR ...); a new file may be read by whom the user's mask lets.
-  FileHandle(const std::filesystem::path& file, int flags);
-  FileHandle(FileHandle&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  /// A new file may be read by whom the user's mask lets.
+  FileHandle(const std::filesystem::path& file, Opening opening);
+  FileHandle(FileHandle&& other) noexcept
+      : number_(std::exchange(other.number_, -1)), fault_(std::exchange(other.fault_, 0)) {}
   FileHandle& operator=(FileHandle&& other) noexcept {
     std::swap(number_, other.number_);
+    std::swap(fault_, other.fault_);
     return *this;
   }
   ~FileHandle() { Close(); }
 
   bool Open() const { return number_ >= 0; }
+  bool Missing() const;              ///< not open, because there is no such file
+  bool Taken() const;                ///< not open, because a new one is there already
   bool Close();                      ///< false when the system could not keep what was written
   bool Hold() const;                 ///< waits until no other program holds it; held until it is closed
   bool Removed() const;              ///< the open file has no name any more
@@ -29,12 +38,12 @@ class FileHandle {
   bool Cut(long long length) const;  ///< cuts, or lengthens with zeros
   bool Flush() const;                ///< to the disk itself
   /// All of `size` bytes, else false.
-  bool ReadAt(long long offset, u8* bytes, std::size_t size) const;
-  bool WriteAt(long long offset, const u8* bytes, std::size_t size) const;
+  bool ReadAt(long long offset, std::uint8_t* bytes, std::size_t size) const;
+  bool WriteAt(long long offset, const std::uint8_t* bytes, std::size_t size) const;
   std::string ReadAll(bool* ok) const;
 
  private:
-  int number_ = -1;
+  int number_ = -1, fault_ = 0;
 };
 
-}  // namespace tipline
+}  // namespace tipline::platform

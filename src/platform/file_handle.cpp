@@ -1,4 +1,4 @@
-#include "base/file_handle.h"
+#include "platform/file_handle.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -7,7 +7,7 @@
 
 #include <cerrno>
 
-namespace tipline {
+namespace tipline::platform {
 namespace {
 
 /// Calls move(done) for what is left until all of `size` is done; false on an error or when nothing moves.
@@ -23,10 +23,24 @@ bool MoveAll(std::size_t size, Move&& move) {
   return true;
 }
 
+int Flags(Opening opening) {
+  switch (opening) {
+    case Opening::kNew:
+      return O_RDWR | O_CREAT | O_EXCL;
+    case Opening::kOver:
+      return O_WRONLY | O_CREAT | O_TRUNC;
+    default:
+      return O_RDWR;
+  }
+}
+
 }  // namespace
 
-FileHandle::FileHandle(const std::filesystem::path& file, int flags)
-    : number_(::open(file.c_str(), flags | O_CLOEXEC, 0666)) {}
+FileHandle::FileHandle(const std::filesystem::path& file, Opening opening)
+    : number_(::open(file.c_str(), Flags(opening) | O_CLOEXEC, 0666)), fault_(number_ < 0 ? errno : 0) {}
+
+bool FileHandle::Missing() const { return fault_ == ENOENT; }
+bool FileHandle::Taken() const { return fault_ == EEXIST; }
 
 bool FileHandle::Close() { return number_ < 0 || ::close(std::exchange(number_, -1)) == 0; }
 
@@ -52,13 +66,13 @@ bool FileHandle::Cut(long long length) const { return ::ftruncate(number_, lengt
 
 bool FileHandle::Flush() const { return ::fdatasync(number_) == 0; }
 
-bool FileHandle::ReadAt(long long offset, u8* bytes, std::size_t size) const {
+bool FileHandle::ReadAt(long long offset, std::uint8_t* bytes, std::size_t size) const {
   return MoveAll(size, [&](std::size_t done) {
     return ::pread(number_, bytes + done, size - done, offset + static_cast<long long>(done));
   });
 }
 
-bool FileHandle::WriteAt(long long offset, const u8* bytes, std::size_t size) const {
+bool FileHandle::WriteAt(long long offset, const std::uint8_t* bytes, std::size_t size) const {
   return MoveAll(size, [&](std::size_t done) {
     return ::pwrite(number_, bytes + done, size - done, offset + static_cast<long long>(done));
   });
@@ -67,8 +81,8 @@ bool FileHandle::WriteAt(long long offset, const u8* bytes, std::size_t size) co
 std::string FileHandle::ReadAll(bool* ok) const {
   const long long length = Length();
   std::string bytes(length < 0 ? 0 : static_cast<std::size_t>(length), '\0');
-  *ok = length >= 0 && ReadAt(0, reinterpret_cast<u8*>(bytes.data()), bytes.size());
+  *ok = length >= 0 && ReadAt(0, reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size());
   return bytes;
 }
 
-}  // namespace tipline
+}  // namespace tipline::platform
