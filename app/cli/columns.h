@@ -4,8 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "league/stat_line.h"
-
 namespace tipline::cli {
 
 class Columns {
@@ -35,7 +33,6 @@ std::string Plain(std::string text);
 inline std::string Str(int value) { return std::to_string(value); }
 /// "7-15".
 inline std::string Of(int made, int tried) { return Str(made) + "-" + Str(tried); }
-inline int PointsOf(const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }
 /// `value` with that many places behind the point.
 std::string Fixed(double value, int places);
 /// A percentage as it is written on a box: ".487", "1.000"; ".000" without attempts.

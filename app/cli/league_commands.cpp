@@ -46,7 +46,7 @@ std::vector<std::string> StatCells(const StatLine& s) {
           each(s.Bk),
           each(s.To),
           each(s.Pf),
-          each(2 * s.FGM + s.F3M + s.FTM)};
+          each(PointsOf(s))};
 }
 
 std::vector<std::string> RatingCells(const PlayerRecord& p) {

@@ -137,7 +137,7 @@ void HCGameTeams2008::ShowRoster(int side) {
     RosterPanel[side].push_back(
         {slot, position >= 1 && position <= kPositions ? league.PositionLabel[position] : "",
          man.FirstName.Str() + " " + man.LastName.Str(), line.Reb / games, line.Ast / games, line.St / games,
-         line.Bk / games, (2 * line.FGM + line.F3M + line.FTM) / games});
+         line.Bk / games, PointsOf(line) / games});
   }
 }
 

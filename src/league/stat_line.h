@@ -19,6 +19,8 @@ struct StatLine {
   Text<22> Spare;
 };
 
+constexpr int PointsOf(const StatLine& line) { return 2 * line.FGM + line.F3M + line.FTM; }
+
 template <class Record, class Visitor>
 requires std::same_as<std::remove_const_t<Record>, StatLine>
 void Describe(Record& r, Visitor&& field) {
