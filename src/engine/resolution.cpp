@@ -58,8 +58,8 @@ void SeasonForm() {
     if (game.GameClock > kMinute) game.side[s].LastPossessionClock = 999;
     const TeamRecord& team = game.team[s];
     const int games = team.Wins + team.Losses;
-    game.side[s].TeamPointDiff =
-        games > 0 ? static_cast<double>(PointsOf(team.TeamStats[1]) - PointsOf(team.TeamStats[2])) / games : 0;
+    const int margin = PointsOf(team.TeamStats[1]) - PointsOf(team.TeamStats[2]);
+    game.side[s].TeamPointDiff = games > 0 ? static_cast<double>(margin) / games : 0;
   }
 }
 
