@@ -44,18 +44,18 @@ struct Measure {
 };
 // clang-format off
 constexpr Measure kMeasures[] = {
-    {"points a game",     [](const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }, false, 0.95},
-    {"rebounds a game",   [](const StatLine& s) -> int { return s.Reb; },              false, 0.95},
-    {"assists a game",    [](const StatLine& s) -> int { return s.Ast; },              false, 0.95},
-    {"steals a game",     [](const StatLine& s) -> int { return s.St; },               false, 0},
-    {"blocks a game",     [](const StatLine& s) -> int { return s.Bk; },               false, 0},
-    {"turnovers a game",  [](const StatLine& s) -> int { return s.To; },               false, 0},
-    {"fouls a game",      [](const StatLine& s) -> int { return s.Pf; },               false, 0},
-    {"attempts, 36 min",  [](const StatLine& s) -> int { return s.FGA; },              true,  0},
-    {"threes, 36 min",    [](const StatLine& s) -> int { return s.F3A; },              true,  0},
-    {"free throws, 36 m", [](const StatLine& s) -> int { return s.FTA; },              true,  0},
-    {"points, 36 min",    [](const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }, true,  0},
-    {"rebounds, 36 min",  [](const StatLine& s) -> int { return s.Reb; },              true,  0},
+    {"points a game",     PointsOf,                                       false, 0.95},
+    {"rebounds a game",   [](const StatLine& s) -> int { return s.Reb; }, false, 0.95},
+    {"assists a game",    [](const StatLine& s) -> int { return s.Ast; }, false, 0.95},
+    {"steals a game",     [](const StatLine& s) -> int { return s.St; },  false, 0},
+    {"blocks a game",     [](const StatLine& s) -> int { return s.Bk; },  false, 0},
+    {"turnovers a game",  [](const StatLine& s) -> int { return s.To; },  false, 0},
+    {"fouls a game",      [](const StatLine& s) -> int { return s.Pf; },  false, 0},
+    {"attempts, 36 min",  [](const StatLine& s) -> int { return s.FGA; }, true,  0},
+    {"threes, 36 min",    [](const StatLine& s) -> int { return s.F3A; }, true,  0},
+    {"free throws, 36 m", [](const StatLine& s) -> int { return s.FTA; }, true,  0},
+    {"points, 36 min",    PointsOf,                                       true,  0},
+    {"rebounds, 36 min",  [](const StatLine& s) -> int { return s.Reb; }, true,  0},
 };
 // clang-format on
 
@@ -170,7 +170,7 @@ void PrintPositions(std::ostream& out, const SeasonSums& sums) {
     const StatLine& s = man.Stats[1];
     const int position = man.PrimaryPosition;
     if (position < 1 || position > kPositions || s.Min == 0) continue;
-    const double points = (2.0 * s.FGM + s.F3M + s.FTM) / s.Min * SumsOf(sums, man).minutes;
+    const double points = 1.0 * PointsOf(s) / s.Min * SumsOf(sums, man).minutes;
     real[position] += points;
     all += points;
   }

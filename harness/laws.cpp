@@ -44,8 +44,6 @@ class Judge {
   std::string broken_;
 };
 
-int PointsOf(const StatLine& s) { return 2 * s.FGM + s.F3M + s.FTM; }
-
 /// Sums over the men of a side.
 struct Sums {
   int points = 0, time = 0, plusMinus = 0;

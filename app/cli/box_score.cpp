@@ -1,10 +1,10 @@
 // The box of the game: periods, every man's line, totals.
+#include "cli/box_score.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "cli/box_score.h"
 #include "cli/columns.h"
-#include "cli/commands.h"
 #include "engine/game_state.h"
 #include "league/player_values.h"
 
@@ -13,18 +13,13 @@ namespace {
 
 constexpr std::size_t kLongestName = 16;  // or the lines of the box are wider than a screen
 
-/// "1", "2", past regulation "OT", "2OT".
-std::string PeriodName(int period) {
-  const int extra = period - league.rules.PeriodList;
-  return extra <= 0 ? Str(period) : extra == 1 ? "OT" : Str(extra) + "OT";
-}
 std::string Signed(int value) { return value > 0 ? "+" + Str(value) : Str(value); }
 
 std::vector<std::string> LineCells(const std::string& name, const std::string& position, int tenths,
                                    const StatLine& s, const std::string& plusMinus) {
   return {name,
           position,
-          Str((tenths + kMinute / 2) / kMinute),
+          Str(BoxMinutes(tenths)),
           Of(s.FGM, s.FGA),
           Of(s.F3M, s.F3A),
           Of(s.FTM, s.FTA),
@@ -37,14 +32,6 @@ std::vector<std::string> LineCells(const std::string& name, const std::string& p
           Str(s.To),
           plusMinus,
           Str(PointsOf(s))};
-}
-
-void AddTo(StatLine& sum, const StatLine& s) {
-  for (auto counter : {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA,
-                       &StatLine::FTM, &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St,
-                       &StatLine::Bk, &StatLine::To, &StatLine::Pf}) {
-    sum.*counter = static_cast<i16>(sum.*counter + s.*counter);
-  }
 }
 
 /// Starters in their places, then the bench by minutes; men who did not play are left out.
@@ -95,6 +82,21 @@ void PrintSide(std::ostream& out, int side) {
 }
 
 }  // namespace
+
+std::string PeriodName(int period) {
+  const int extra = period - league.rules.PeriodList;
+  return extra <= 0 ? Str(period) : extra == 1 ? "OT" : Str(extra) + "OT";
+}
+
+int BoxMinutes(int tenths) { return (tenths + kMinute / 2) / kMinute; }
+
+void AddTo(StatLine& sum, const StatLine& line) {
+  for (auto counter : {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA,
+                       &StatLine::FTM, &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St,
+                       &StatLine::Bk, &StatLine::To, &StatLine::Pf}) {
+    sum.*counter = static_cast<i16>(sum.*counter + line.*counter);
+  }
+}
 
 void PrintPeriods(std::ostream& out, int last) {
   std::vector<std::string> headings{"<"};

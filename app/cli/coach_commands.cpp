@@ -28,8 +28,8 @@ std::vector<std::string> LabelsOfPositions(const char* first) {
 template <class Stands>
 std::vector<std::string> LineOf(const Roster& roster, std::string_view label, Stands stands) {
   std::vector<std::string> line{std::string(label)};
+  const std::vector<int> men = MenOf(roster);
   for (int position = 1; position <= 5; ++position) {
-    const auto men = MenOf(roster);
     const auto man =
         std::find_if(men.begin(), men.end(), [&](int slot) { return stands(roster.player[slot], position); });
     line.push_back(man == men.end() ? "-" : InitialName(roster.player[*man]));

@@ -193,9 +193,8 @@ Answer PlanForThem(CoachSession& session, PlanScreen& screen) {
   const int side = session.Side();
   const int them = game.GameTeam[3 - side];
   if (!screen.OpponentLoaded()) {
-    for (screen.plan = 1; screen.plan <= 10 && screen.own.coach.PlanOpponent[screen.plan] != 0;)
-      ++screen.plan;
-    if (screen.plan > 10) return session.Refuse("All ten plans are taken.");
+    screen.plan = FirstFreePlan(screen.own.coach);
+    if (screen.plan == 0) return session.Refuse("All ten plans are taken.");
     if (!screen.ChooseOpponent(them)) return session.Refuse("No plan can be written against this team.");
   }
   game.side[side].GamePlanIndex = PlanAgainst(screen.own.coach, them);

@@ -1,6 +1,5 @@
 #include "cli/coach_screen.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "cli/box_score.h"
@@ -17,11 +16,8 @@
 namespace tipline::cli {
 namespace {
 
-int MinutesOf(const Man& man) { return (man.PlayerGameTime + kMinute / 2) / kMinute; }
-
 std::string PeriodText() {
-  const int extra = game.Period - league.rules.PeriodList;
-  if (extra > 0) return extra == 1 ? "OT" : Str(extra) + "OT";
+  if (game.Period > league.rules.PeriodList) return PeriodName(game.Period);
   const bool halves = league.rules.PeriodList == 2;
   constexpr const char* kNth[] = {"th", "st", "nd", "rd"};
   return Str(game.Period) + kNth[game.Period <= 3 ? game.Period : 0] + (halves ? " half" : "");
@@ -152,8 +148,8 @@ void PrintFive(std::ostream& out, int side) {
     const int zone = other == game.BallPlayer ? BallZone()
                      : PutbackIsOn()          ? 0
                                               : ManAt(3 - side, other).ShotPick;
-    table.Row({Place(p), " " + ManName(side, slot), Str(man.Energy), Str(line.Pf), Str(MinutesOf(man)),
-               Str(PointsOf(line)), ManName(3 - side, other),
+    table.Row({Place(p), " " + ManName(side, slot), Str(man.Energy), Str(line.Pf),
+               Str(BoxMinutes(man.PlayerGameTime)), Str(PointsOf(line)), ManName(3 - side, other),
                Str(PointsOf(PlayerAt(3 - side, other).Stats[3])), attacked ? ShotName(zone) : ""});
   }
   table.Print(out, false);
@@ -173,13 +169,7 @@ std::string BenchStatus(int side, int slot) {
 StatLine SumOf(int side) {
   StatLine sum;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot)) continue;
-    const StatLine& s = PlayerAt(side, slot).Stats[3];
-    for (auto counter :
-         {&StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA, &StatLine::FTM,
-          &StatLine::Reb, &StatLine::Off, &StatLine::Ast, &StatLine::St, &StatLine::Bk, &StatLine::To}) {
-      sum.*counter = static_cast<i16>(sum.*counter + s.*counter);
-    }
+    if (OnTeam(side, slot)) AddTo(sum, PlayerAt(side, slot).Stats[3]);
   }
   return sum;
 }
@@ -234,7 +224,7 @@ void PrintBench(std::ostream& out, int side) {
     const PlayerRecord& p = PlayerAt(side, slot);
     const StatLine& s = p.Stats[3];
     table.Row({"#" + Str(slot), ManName(side, slot), Positions(p), Str(ManAt(side, slot).Energy), Str(s.Pf),
-               Str(MinutesOf(ManAt(side, slot))), Str(PointsOf(s)), Str(s.Reb), Str(s.Ast),
+               Str(BoxMinutes(ManAt(side, slot).PlayerGameTime)), Str(PointsOf(s)), Str(s.Reb), Str(s.Ast),
                Str(p.RateOffense / 10), BenchStatus(side, slot)});
   }
   table.Print(out, false);
@@ -274,9 +264,9 @@ void PrintMan(std::ostream& out, int side, int slot) {
   const StatLine& real = p.Stats[1];
   out << Plain(FullName(p) + " (#" + Str(slot) + ", " + Positions(p) + "), " + ShortTeam(side)) << '\n';
   Columns lines({"<", "Min", "FG", "3P", "FT", "Off", "Reb", "Ast", "PF", "St", "Bk", "TO", "Pts"});
-  lines.Row({"This game", Str(MinutesOf(ManAt(side, slot))), Of(now.FGM, now.FGA), Of(now.F3M, now.F3A),
-             Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast), Str(now.Pf), Str(now.St),
-             Str(now.Bk), Str(now.To), Str(PointsOf(now))});
+  lines.Row({"This game", Str(BoxMinutes(ManAt(side, slot).PlayerGameTime)), Of(now.FGM, now.FGA),
+             Of(now.F3M, now.F3A), Of(now.FTM, now.FTA), Str(now.Off), Str(now.Reb), Str(now.Ast),
+             Str(now.Pf), Str(now.St), Str(now.Bk), Str(now.To), Str(PointsOf(now))});
   const auto each = [&real](int count) { return Average(count, real.G); };
   lines.Row({"His season", each(real.Min), Share(real.FGM, real.FGA), Share(real.F3M, real.F3A),
              Share(real.FTM, real.FTA), each(real.Off), each(real.Reb), each(real.Ast), each(real.Pf),

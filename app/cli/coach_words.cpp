@@ -184,9 +184,6 @@ Found FindPosition(int side, std::string_view said) {
   return {0, ManName(side, man.value) + " is not on the floor."};
 }
 
-std::string ManName(int side, int slot) {
-  const PlayerRecord& p = PlayerAt(side, slot);
-  return p.ShortName.Empty() ? p.LastName.Str() : p.ShortName.Str();
-}
+std::string ManName(int side, int slot) { return KnownName(PlayerAt(side, slot)); }
 
 }  // namespace tipline::cli

@@ -9,8 +9,8 @@
 #include "cli/team_work.h"
 #include "cli/terminal.h"
 #include "coach/daily_lineups.h"
-#include "frontoffice/schedule_rules.h"
 #include "league/player_values.h"
+#include "league/schedule.h"
 
 namespace tipline::cli {
 namespace {

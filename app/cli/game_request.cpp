@@ -1,13 +1,10 @@
 #include "cli/game_request.h"
 
-#include <cctype>
+#include <array>
 #include <optional>
 
-#include "base/calendar.h"
 #include "cli/coach_words.h"
-#include "cli/schedule_commands.h"
 #include "cli/terminal.h"
-#include "league/program.h"
 
 namespace tipline::cli {
 namespace {

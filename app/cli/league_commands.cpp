@@ -27,26 +27,10 @@ double PerGame(int count, int games) { return games > 0 ? static_cast<double>(co
 
 std::vector<std::string> StatCells(const StatLine& s) {
   const auto each = [&s](int count) { return Fixed(PerGame(count, s.G), 1); };
-  return {Str(s.G),
-          Str(s.GS),
-          each(s.Min),
-          each(s.FGM),
-          each(s.FGA),
-          Share(s.FGM, s.FGA),
-          each(s.F3M),
-          each(s.F3A),
-          Share(s.F3M, s.F3A),
-          each(s.FTM),
-          each(s.FTA),
-          Share(s.FTM, s.FTA),
-          each(s.Off),
-          each(s.Reb),
-          each(s.Ast),
-          each(s.St),
-          each(s.Bk),
-          each(s.To),
-          each(s.Pf),
-          each(2 * s.FGM + s.F3M + s.FTM)};
+  return {Str(s.G),    Str(s.GS),        each(s.Min),         each(s.FGM), each(s.FGA), Share(s.FGM, s.FGA),
+          each(s.F3M), each(s.F3A),      Share(s.F3M, s.F3A), each(s.FTM), each(s.FTA), Share(s.FTM, s.FTA),
+          each(s.Off), each(s.Reb),      each(s.Ast),         each(s.St),  each(s.Bk),  each(s.To),
+          each(s.Pf),  each(PointsOf(s))};
 }
 
 std::vector<std::string> RatingCells(const PlayerRecord& p) {
@@ -172,11 +156,8 @@ int ShowTeams(const Common& common) {
 }
 
 int ShowRoster(const std::string& text, const std::string& view, const Common& common) {
-  if (!OpenTheLeague(common)) return 1;
-  const int teamNo = FindTeam(text);
-  if (teamNo == 0) return 1;
   Roster roster;
-  if (!ReadRoster(teamNo, roster)) return Refuse("the team can't be read: " + TeamsFile().string());
+  if (!OpenTheLeague(common) || !TakeTeam(text, roster)) return 1;
   std::vector<std::string> headings{"No", "<Player", "<Pos", "Ht", "Wt", "Age"};
   const std::vector<std::string> more =
       view == "ratings"
@@ -221,10 +202,8 @@ int RateTeams(const std::string& text, bool all, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
   const hcratings screen;
   if (all) return screen.DEFAULTRATINGS_ALL() ? 0 : 1;
-  const int teamNo = FindTeam(text);
-  if (teamNo == 0) return 1;
   Roster roster;
-  if (!ReadRoster(teamNo, roster)) return Refuse("the team can't be read: " + TeamsFile().string());
+  if (!TakeTeam(text, roster)) return 1;
   if (!screen.DEFAULTRATINGS(roster)) return 1;
   return WriteRoster(roster) ? 0 : 1;
 }

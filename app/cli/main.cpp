@@ -7,7 +7,7 @@
 
 #include "base/random.h"
 #include "cli/phrase_commands.h"
-#include "cli/schedule_commands.h"
+#include "cli/schedule_options.h"
 #include "cli/stop_signals.h"
 #include "cli/terminal.h"
 #include "league/dump.h"

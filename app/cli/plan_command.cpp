@@ -68,11 +68,8 @@ bool OpenPlan(PlanScreen& screen, const Roster& opponent, bool writes) {
   screen.plan = PlanAgainst(screen.own.coach, opponent.TeamNo);
   screen.opponent = &opponent;
   if (screen.plan != 0 || !writes) return true;
-  for (int plan = 1; plan <= 10; ++plan) {
-    if (screen.own.coach.PlanOpponent[plan] != 0) continue;
-    screen.plan = plan;
-    return screen.ChooseOpponent(opponent.TeamNo);
-  }
+  screen.plan = FirstFreePlan(screen.own.coach);
+  if (screen.plan != 0) return screen.ChooseOpponent(opponent.TeamNo);
   Refuse("all ten plans are taken");
   return false;
 }

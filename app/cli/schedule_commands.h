@@ -1,6 +1,5 @@
 #pragma once
-// The commands of the schedule, with their options.
-#include <CLI/CLI.hpp>
+// The commands of the schedule.
 #include <string>
 #include <vector>
 
@@ -14,10 +13,6 @@ struct ScheduleArguments {
   std::string Start, Date, To, Team, Visitor, Home, File, Name, Coach;
   bool Yes = false;
 };
-
-/// Adds `schedule` and its commands; RunSchedule carries out the one that was given.
-void AddSchedule(CLI::App& app, ScheduleArguments& a, Common& common);
-int RunSchedule(const CLI::App& app, const ScheduleArguments& a, const Common& common);
 
 int MakeSchedule(const ScheduleArguments& a, const Common& common);
 int ShowSchedule(const ScheduleArguments& a, const Common& common);

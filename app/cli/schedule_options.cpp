@@ -1,7 +1,6 @@
-#include <functional>
-#include <utility>
+#include "cli/schedule_options.h"
 
-#include "cli/schedule_commands.h"
+#include <utility>
 
 namespace tipline::cli {
 namespace {

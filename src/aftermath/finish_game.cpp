@@ -6,6 +6,7 @@
 #include "engine/eligible.h"
 #include "engine/game_state.h"
 #include "league/program.h"
+#include "league/shot_splits.h"
 
 namespace tipline {
 namespace {
@@ -47,32 +48,6 @@ void CloseGameLine(int side, int slot) {
   line.Dq = FouledOut(line) ? 1 : 0;
 }
 
-/// The shot table: a man's counters and the team's, which stand in another order.
-struct Split {
-  Table<i16, 2, 3> PlayerRecord::*man;
-  i16 TeamRecord::*team;
-};
-// clang-format off
-constexpr Split kSplits[] = {
-    {&PlayerRecord::ShotAttInside, &TeamRecord::ShotAttInside},
-    {&PlayerRecord::ShotAttOutside, &TeamRecord::ShotAttOutside},
-    {&PlayerRecord::ShotAttThree, &TeamRecord::ShotAttThree},
-    {&PlayerRecord::ShotAttDrive, &TeamRecord::ShotAttDrive},
-    {&PlayerRecord::ShotAttFastbreak2, &TeamRecord::ShotAttFastbreak2},
-    {&PlayerRecord::ShotAttOffReb2, &TeamRecord::ShotAttOffReb2},
-    {&PlayerRecord::ShotAttFastbreak3, &TeamRecord::ShotAttFastbreak3},
-    {&PlayerRecord::ShotAttOffReb3, &TeamRecord::ShotAttOffReb3},
-    {&PlayerRecord::ShotMadeInside, &TeamRecord::ShotMadeInside},
-    {&PlayerRecord::ShotMadeOutside, &TeamRecord::ShotMadeOutside},
-    {&PlayerRecord::ShotMadeThree, &TeamRecord::ShotMadeThree},
-    {&PlayerRecord::ShotMadeDrive, &TeamRecord::ShotMadeDrive},
-    {&PlayerRecord::ShotMadeFastbreak2, &TeamRecord::ShotMadeFastbreak2},
-    {&PlayerRecord::ShotMadeOffReb2, &TeamRecord::ShotMadeOffReb2},
-    {&PlayerRecord::ShotMadeFastbreak3, &TeamRecord::ShotMadeFastbreak3},
-    {&PlayerRecord::ShotMadeOffReb3, &TeamRecord::ShotMadeOffReb3},
-};
-// clang-format on
-
 /// The line of the games at home or on the road: index 3 the last such game, 2 all of them.
 void AddPlaceLine(Table<StatLine, 1, 3>& lines, const StatLine& line) {
   lines[3] = line;
@@ -99,7 +74,7 @@ void AddToSeason(int side, int slot) {
   AddLine(season, line);
   Add(season.Ejections, man.Ejected);
   Add(p.Flagrants[2], p.Flagrants[3]);
-  for (const Split& split : kSplits) Add((p.*split.man)[2], (p.*split.man)[3]);
+  for (const ShotSplit& split : kShotSplits) Add((p.*split.man)[2], (p.*split.man)[3]);
   Add(p.OppFGA[2], p.OppFGA[3]);
   Add(p.OppFGM[2], p.OppFGM[3]);
   AddPlaceLine(side == 2 ? p.HomeStats : p.RoadStats, line);
@@ -121,7 +96,7 @@ void AddToSeason(int side, int slot) {
 void AddManToTeam(int side, TeamRecord& team, const PlayerRecord& p) {
   AddLine(team.TeamStats[1], p.Stats[3]);
   if (side == 2) AddLine(team.HomeStats[1], p.Stats[3]);
-  for (const Split& split : kSplits) Add(team.*split.team, (p.*split.man)[3]);
+  for (const ShotSplit& split : kShotSplits) Add(team.*split.team, (p.*split.man)[3]);
 }
 
 /// Both teams' lines of the season: their own and their opponents'.

@@ -56,6 +56,13 @@ int PlanAgainst(const CoachRecord& coach, int opponent) {
   return 0;
 }
 
+int FirstFreePlan(const CoachRecord& coach) {
+  for (int plan = 1; plan <= 10; ++plan) {
+    if (coach.PlanOpponent[plan] == 0) return plan;
+  }
+  return 0;
+}
+
 void SetDefaultPlanSliders(Roster& roster, bool keepPlayerDefense) {
   CoachRecord& coach = roster.coach;
   double x = 0;  // carried from plan to plan

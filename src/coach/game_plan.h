@@ -14,6 +14,9 @@ void NormalCoverage(CoachRecord& coach, int plan);
 /// The plan of a coach against this opponent: the lowest number wins, 0 (the general plan) when he has none.
 int PlanAgainst(const CoachRecord& coach, int opponent);
 
+/// The lowest of the ten plans that is against nobody yet; 0 when all are taken.
+int FirstFreePlan(const CoachRecord& coach);
+
 /// Fills all eleven plans of a team from its men's ratings. The coverage of single opponents goes back to
 /// normal unless `keepPlayerDefense`.
 void SetDefaultPlanSliders(Roster& roster, bool keepPlayerDefense = false);

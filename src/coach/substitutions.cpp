@@ -145,7 +145,7 @@ void NoteChange() {
       game.side[2].Lineup == game.side[2].PreviousLineup)
     return;
   const bool fullClock = game.GameClock == FullPeriod();
-  if (!fullClock) NarrateLineups();
+  if (!PeriodOpens()) NarrateLineups();
   if (Watching()) return;
   if (!fullClock) {
     game.PlayResult = "";

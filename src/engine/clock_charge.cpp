@@ -44,12 +44,6 @@ const EraRecord& EraOf(const PlayerRecord& p) {
   return EraTableOf(IsCollege(p))[Clamp<int>(p.Year, kFirstEraYear, kLastEraYear)];
 }
 
-/// Points by field goals and free throws of the real season.
-int RealPoints(const PlayerRecord& p) {
-  const StatLine& real = p.Stats[1];
-  return 2 * real.FGM + real.FTM + real.F3M;
-}
-
 bool LeagueOfTheIslands() { return league.team[13].City == "Hawaii"; }
 
 // The base without a shot clock: long possessions, shorter in the early game and among students.
@@ -108,7 +102,7 @@ void RunAndGun(Charge& c) {
   for (int p = 1; p <= kPositions; ++p) {
     if (c.offense.Lineup[p] == 0) continue;
     const PlayerRecord& man = OnFloor(game.OffenseSide, p);
-    points = Round(points + static_cast<double>(RealPoints(man)) / (man.Stats[1].Min + 1) * 40);
+    points = Round(points + static_cast<double>(PointsOf(man.Stats[1])) / (man.Stats[1].Min + 1) * 40);
   }
   if (points > 90 + Rnd(30)) c.Times(0.2 + 0.3 * Rnd());
   if (game.play.IntentionalFoul != 1 && c.time < 15) c.time = 10 + Rnd(10);
@@ -312,7 +306,7 @@ void ReplayFeedback(Charge& c) {
 }
 
 double PointsPer48(const PlayerRecord& man) {
-  return static_cast<double>(RealPoints(man)) / man.Stats[1].Min * 48;
+  return static_cast<double>(PointsOf(man.Stats[1])) / man.Stats[1].Min * 48;
 }
 
 // Scorers of different seasons on one floor have to share the ball.

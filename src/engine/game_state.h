@@ -308,6 +308,7 @@ struct Scene {
   int PutbackClass = 0;
   int Tension = 0;           ///< before the play
   Table<int, 1, 2> Score{};  ///< before the play
+  Table2<int, 1, 2, 1, kPositions> Five{};  ///< [side][position] who stood on the floor
   int QuickFoul = 0, StealFoul = 0;  ///< orders of the defense, which the end of a period takes back
   tipline::Call Call;
   tipline::Possession Possession;

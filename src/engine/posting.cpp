@@ -128,8 +128,7 @@ void PostPoints(int side, int slot, int points, char kind) {
   if (game.SecondChance && ownBall && game.PlayKind != "OFFREB") s.ExtraSecondChancePoints += points;
   PlusMinus(side, points);
   RunsAndLeads(side, points);
-  const StatLine& line = p.Stats[3];
-  LogScore(side, slot, kind, 2 * line.FGM + line.F3M + line.FTM);
+  LogScore(side, slot, kind, PointsOf(p.Stats[3]));
 }
 
 void PostShot(int slot, bool three, bool made) {

@@ -8,6 +8,7 @@
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
 #include "engine/weights.h"
+#include "league/shot_splits.h"
 
 namespace tipline {
 namespace {
@@ -15,29 +16,10 @@ namespace {
 void ClearGameLine(PlayerRecord& p) {
   p.Stats[3] = {};
   for (int period = 1; period <= 5; ++period) p.QuarterPoints[period][3] = 0;
-  for (auto* pair : {&p.ShotAttInside,
-                     &p.ShotAttOutside,
-                     &p.ShotAttThree,
-                     &p.ShotAttDrive,
-                     &p.ShotAttFastbreak2,
-                     &p.ShotAttOffReb2,
-                     &p.ShotAttFastbreak3,
-                     &p.ShotAttOffReb3,
-                     &p.ShotMadeInside,
-                     &p.ShotMadeOutside,
-                     &p.ShotMadeThree,
-                     &p.ShotMadeDrive,
-                     &p.ShotMadeFastbreak2,
-                     &p.ShotMadeOffReb2,
-                     &p.ShotMadeFastbreak3,
-                     &p.ShotMadeOffReb3,
-                     &p.OppFGA,
-                     &p.OppFGM,
-                     &p.CarriedTotal1,
-                     &p.CarriedTotal2,
-                     &p.CarriedTotal3,
-                     &p.CarriedTotal4}) {
-    (*pair)[3] = 0;
+  for (const ShotSplit& split : kShotSplits) (p.*split.man)[3] = 0;
+  for (auto* total :
+       {&p.OppFGA, &p.OppFGM, &p.CarriedTotal1, &p.CarriedTotal2, &p.CarriedTotal3, &p.CarriedTotal4}) {
+    (*total)[3] = 0;
   }
   p.Flagrants[3] = 0;
 }

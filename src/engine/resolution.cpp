@@ -58,10 +58,9 @@ void SeasonForm() {
   for (int s = 1; s <= 2; ++s) {
     if (game.GameClock > kMinute) game.side[s].LastPossessionClock = 999;
     const TeamRecord& team = game.team[s];
-    const auto points = [](const StatLine& line) { return 2 * line.FGM + line.F3M + line.FTM; };
     const int games = team.Wins + team.Losses;
-    game.side[s].TeamPointDiff =
-        games > 0 ? static_cast<double>(points(team.TeamStats[1]) - points(team.TeamStats[2])) / games : 0;
+    const int margin = PointsOf(team.TeamStats[1]) - PointsOf(team.TeamStats[2]);
+    game.side[s].TeamPointDiff = games > 0 ? static_cast<double>(margin) / games : 0;
   }
 }
 

@@ -230,8 +230,7 @@ void RunFor(const Search& s, int p) {
 bool TimeForPlay() {
   const bool shotClockOut = league.rules.ShotClockList > 0 && game.ShotClock < 10;
   if (shotClockOut || game.GameClock < 10) {
-    platform::dialogs().Tell("You don't have enough time to call a play!");
-    return false;
+    return platform::RefusedWith("You don't have enough time to call a play!");
   }
   return game.GameClock >= 50 ||
          platform::dialogs().Ask("You May Need A Timeout To Complete This Play. Continue?",

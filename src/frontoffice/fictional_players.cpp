@@ -123,8 +123,7 @@ bool HcCreateFictionalPlayer::CreateFictionalPlayers() {
   Created = Assigned = 0;
   const FictionFiles names = LoadFictionFiles();
   if (names.Last.size() < kFewestLastNames) {
-    platform::dialogs().Tell("Missing ORV Fiction Data Files!");
-    return false;
+    return platform::RefusedWith("Missing ORV Fiction Data Files!");
   }
   TeamNeeds needs = LeagueWide ? CountTeamNeeds() : TeamNeeds{};
   for (int i = 1; i <= FictionQuantity; ++i) {
@@ -151,8 +150,7 @@ bool HcCreateFictionalPlayer::AddPlayer(const FictionFiles& names, int position,
   PlayerRecord player = CreateOnePlayer(order, names, slot ? roster.team : PoolTeam());
   const int row = PlayerRows() + 1;
   if (row > std::numeric_limits<i16>::max()) {
-    platform::dialogs().Tell("The player file is full!");
-    return false;
+    return platform::RefusedWith("The player file is full!");
   }
   player.RecNo = static_cast<i16>(row);
   if (!WritePlayer(player)) return false;

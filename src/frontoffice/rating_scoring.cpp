@@ -8,8 +8,6 @@ namespace {
 
 constexpr int kLastYearWithoutMinutes = 1951;
 
-double PointsOf(const StatLine& line) { return 2.0 * line.FGM + line.F3M + line.FTM; }
-
 /// Possessions a man used per game against the league's average man, 50 each.
 int PossessionUse(const PlayerRecord& player, const RatingRun& run) {
   const StatLine& real = player.Stats[1];

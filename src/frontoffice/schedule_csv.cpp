@@ -7,13 +7,14 @@
 #include "base/csv.h"
 #include "base/numbers.h"
 #include "base/record_file.h"
-#include "frontoffice/schedule_rules.h"
 #include "league/files.h"
 #include "league/schedule.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
+
+using platform::RefusedWith;
 
 constexpr std::size_t kMostImported = 10000;
 

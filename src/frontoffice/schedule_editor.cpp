@@ -3,10 +3,13 @@
 #include <algorithm>
 
 #include "base/calendar.h"
+#include "league/schedule.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
+
+using platform::RefusedWith;
 
 bool AnyPlayed() {
   return std::any_of(league.ScheduleGame.begin() + 1, league.ScheduleGame.end(),
@@ -15,15 +18,10 @@ bool AnyPlayed() {
 
 /// A row that can still be changed; nullptr, told, for any other number.
 ScheduleRecord* OpenRow(int row) {
-  if (row >= 1 && row <= league.GameCount()) {
-    ScheduleRecord& game = league.ScheduleGame[static_cast<std::size_t>(row)];
-    if (game.Status == 'P') {
-      platform::dialogs().Tell("This game has been played");
-      return nullptr;
-    }
-    if (game.Status != 'D') return &game;
-  }
-  platform::dialogs().Tell("There is no such game on the schedule!");
+  const ScheduleRecord* game = league.Row(row);
+  const bool played = game && game->Status == 'P';
+  if (game && !played && game->Status != 'D') return &league.ScheduleGame[static_cast<std::size_t>(row)];
+  platform::dialogs().Tell(played ? "This game has been played" : "There is no such game on the schedule!");
   return nullptr;
 }
 

@@ -7,6 +7,7 @@
 #include "base/calendar.h"
 #include "frontoffice/schedule_generator.h"
 #include "frontoffice/schedule_rules.h"
+#include "league/schedule_record.h"
 
 namespace tipline {
 
@@ -18,9 +19,6 @@ struct ScheduleLine {
 
 /// "101-99 (ot)" of a played game; else "Unplayed", "Play Now" or "Deleted".
 std::string StatusWords(const ScheduleRecord& row);
-
-inline constexpr const char* kScheduleColumns[] = {"Status",   "Visitor", "Home",    "Points",
-                                                   "Rebounds", "Assists", "Location"};
 
 /// A team's games on the schedule, deleted ones left out.
 struct ScheduleSummary {

@@ -3,14 +3,16 @@
 #include <algorithm>
 
 #include "base/record_file.h"
-#include "frontoffice/schedule_rules.h"
 #include "league/files.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
+#include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
+
+using platform::RefusedWith;
 
 constexpr std::string_view kEnding = ".skd";
 constexpr std::size_t kLongestName = 30;  // with its ending, as the rules hold it

@@ -40,6 +40,7 @@ class Placer {
   void Attempt(int attempt);
   /// Every team has as many games at home as away.
   bool Balanced() const { return home_ == visitor_; }
+  int Games() const { return games_; }  ///< of a team, an even number
   ScheduleDraft Draft();
 
  private:
@@ -309,11 +310,10 @@ ScheduleDraft DrawSchedule(const ScheduleRequest& request, const std::vector<int
     placer.Attempt(n);
     if (n >= kLastAttempt || placer.Balanced()) break;
   }
-  const int games = Clamp(request.Games, 10, 98) / 2 * 2;
   ScheduleDraft draft = placer.Draft();
-  draft.dates = Dates(request, games);
+  draft.dates = Dates(request, placer.Games());
   ScrambleTeams(teams, draft.games);
-  ScrambleSlots(games - 1, draft.games);
+  ScrambleSlots(placer.Games() - 1, draft.games);
   return draft;
 }
 
@@ -348,10 +348,7 @@ bool HCCOMPUTERSCHEDULE::GENERATECommand() {
                                 BoxNumber(MaxVersusNonDivisionalText), CalendarMonth(MonthList + 1), DayList};
   const auto problem =
       ScheduleRequestProblem(static_cast<int>(teams.size()), request.Games, request.Divisional);
-  if (!problem.empty()) {
-    dialogs.Tell(problem);
-    return false;
-  }
+  if (!problem.empty()) return platform::RefusedWith(problem);
   Caption = "Please Wait..";
   const auto draft = DrawSchedule(request, teams, [this] {
     if (Working) Working(Caption);

@@ -1,10 +1,12 @@
 #include "frontoffice/schedule_rules.h"
 
-#include "base/calendar.h"
+#include "league/schedule.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
+
+using platform::RefusedWith;
 
 bool EveryTeamHasPool(const TournamentPools& pools) {
   for (int team = 1; team <= kTeams; ++team) {

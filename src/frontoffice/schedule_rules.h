@@ -1,8 +1,5 @@
 #pragma once
 // What a game put on the schedule by hand must keep.
-#include "league/schedule.h"
-#include "platform/dialogs.h"
-
 namespace tipline {
 
 /// What is to be put on the schedule, or to take the place of a game there.
@@ -14,16 +11,5 @@ struct ScheduleChoice {
 /// Whether the league's rules of dates and pools let two different teams play on a date: asks or tells where
 /// they do not. `except` is the row that the game replaces, 0 for a new one.
 bool ScheduleAllows(const ScheduleChoice& choice, int except);
-
-/// Calls visit(row, number) for every game of `league.ScheduleGame` that is not deleted.
-template <class Visit>
-void ForScheduledGames(Visit&& visit) {
-  for (int n = 1; n <= league.GameCount(); ++n) {
-    const ScheduleRecord& row = league.ScheduleGame[static_cast<std::size_t>(n)];
-    if (row.Status != 'D') visit(row, n);
-  }
-}
-
-using platform::RefusedWith;
 
 }  // namespace tipline

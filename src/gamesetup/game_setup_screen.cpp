@@ -68,9 +68,8 @@ void UseDefaultSubs(Side& side) {
 bool BeforeTheFirstPlay() { return !game.GameStarted || (program.ScenarioGame && game.PlayLogCount == 0); }
 
 bool OnNeutralRow() {
-  const int row = game.ScheduleRow;
-  return row >= 1 && row <= league.GameCount() &&
-         league.ScheduleGame[static_cast<std::size_t>(row)].NeutralSite == 1;
+  const ScheduleRecord* row = league.Row(game.ScheduleRow);
+  return row && row->NeutralSite == 1;
 }
 
 }  // namespace

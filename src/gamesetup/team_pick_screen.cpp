@@ -20,11 +20,6 @@ constexpr int kReal = 1, kReplay = 2;  // lines of a man's season
 
 bool LeagueGame() { return program.GameKind == "L"; }
 
-bool Refused(std::string_view message) {
-  platform::dialogs().Tell(message);
-  return false;
-}
-
 std::string TitleOfGame() {
   if (program.ScenarioGame) return "Choose teams for a scenario game.";
   if (LeagueGame()) return "Choose teams for an unscheduled league game.";
@@ -137,7 +132,7 @@ void HCGameTeams2008::ShowRoster(int side) {
     RosterPanel[side].push_back(
         {slot, position >= 1 && position <= kPositions ? league.PositionLabel[position] : "",
          man.FirstName.Str() + " " + man.LastName.Str(), line.Reb / games, line.Ast / games, line.St / games,
-         line.Bk / games, (2 * line.FGM + line.F3M + line.FTM) / games});
+         line.Bk / games, PointsOf(line) / games});
   }
 }
 
@@ -163,7 +158,7 @@ void HCGameTeams2008::SetScenarioPoints(int side, int points) { ScenarioPoints[s
 bool HCGameTeams2008::TakeDate() const {
   game.GameYear = CalendarYear;
   if (game.GameDay != 0 && game.GameMonth != 0 && game.GameYear != 0) return true;
-  if (LeagueGame()) return Refused("You must select a month, day, and year for this game!");
+  if (LeagueGame()) return platform::RefusedWith("You must select a month, day, and year for this game!");
   game.GameMonth = 2;
   game.GameCalendarMonth = 10;
   game.GameDay = 1;
@@ -193,9 +188,10 @@ bool HCGameTeams2008::PlayCommand(GameScreens& screens) {
   game.WatchUntil = "NONE";
   game.GameStarted = game.GameOver = game.GameDone = false;
   if (!TakeDate()) return false;
-  if (game.GameTeam[1] == 0 || game.GameTeam[2] == 0) return Refused("You must select two teams!");
+  if (game.GameTeam[1] == 0 || game.GameTeam[2] == 0)
+    return platform::RefusedWith("You must select two teams!");
   if (LeagueGame() && game.GameTeam[1] == game.GameTeam[2]) {
-    return Refused("You must select two different teams for a league game!");
+    return platform::RefusedWith("You must select two different teams for a league game!");
   }
   program.TwoFolderGame = !LeagueGame() && Plainly(TeamDir[1]) != Plainly(TeamDir[2]);
   for (int s = 1; LeagueGame() && s <= 2; ++s) LoadTeam(game.GameTeam[s], s);

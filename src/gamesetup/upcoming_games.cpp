@@ -24,9 +24,8 @@ void TakeDate(const ScheduleRecord& row) {
 bool TeamsSelected(const ScheduleRecord& row) {
   Roster roster;
   if (LookAtRoster(row.Team[1], roster) && LookAtRoster(row.Team[2], roster)) return true;
-  platform::dialogs().Tell("Teams not selected for this game! Use Organize\\Schedule to select teams.",
-                           "Teams Not Selected For This Game!");
-  return false;
+  return platform::RefusedWith("Teams not selected for this game! Use Organize\\Schedule to select teams.",
+                               "Teams Not Selected For This Game!");
 }
 
 void PrepareAndPlay(GameScreens& screens) {
@@ -41,8 +40,8 @@ void PrepareAndPlay(GameScreens& screens) {
 }  // namespace
 
 bool PlayUpcomingGame(int row, GameScreens& screens) {
-  if (row < 1 || row > league.GameCount()) return false;
-  const ScheduleRecord chosen = league.ScheduleGame[static_cast<std::size_t>(row)];
+  if (!league.Row(row)) return false;
+  const ScheduleRecord chosen = *league.Row(row);
   if (!TeamsSelected(chosen)) return false;
   if (!screens.Preview(chosen)) return false;
   game.ScheduleRow = row;

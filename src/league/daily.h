@@ -12,6 +12,7 @@ inline constexpr int kDailySlotBytes = 500;
 
 struct DailyRecord {
   static constexpr int kRecordSize = 203;
+  static constexpr int kSetMark = 99;  ///< of DailyMark; without it nothing in the record counts
 
   u8 DailyMark = 0;
   Table<i16, 0, 100> InactiveDates;

@@ -44,6 +44,10 @@ struct League {
   int ScheduleYear = 2000;  ///< year in which the scheduled season begins
   bool HasAugustGames = false, HasSeptemberGames = false;
   int GameCount() const { return static_cast<int>(ScheduleGame.size()) - 1; }  ///< rows in use
+  /// The game in this row of the schedule, deleted or not; nullptr for a number that it does not have.
+  const ScheduleRecord* Row(int row) const {
+    return row >= 1 && row <= GameCount() ? &ScheduleGame[static_cast<std::size_t>(row)] : nullptr;
+  }
 
   std::vector<ScheduleRecord> Scores =
       std::vector<ScheduleRecord>(1);  ///< games played; index = row, 0 unused

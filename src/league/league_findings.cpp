@@ -18,7 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Str(std::size_t n) { return std::to_string(n); }
 std::string Count(int n, const char* one, const char* many) {
   return std::to_string(n) + (n == 1 ? one : many);
 }
@@ -58,19 +57,24 @@ class Doctor {
                  {"HcDaily", 0, kDailySlotBytes},
                  {"SCORES", 0, kScheduleSlotBytes}};
     for (const auto& f : files) {
-      Length(LeagueFile(f.name), static_cast<unsigned>(f.least), static_cast<unsigned>(f.slot));
+      Length(LeagueFile(f.name), f.least, f.slot);
     }
   }
 
-  void Length(const fs::path& file, std::uintmax_t least, unsigned slot) {
-    const std::string name = file.filename().string();
+  void Length(const fs::path& path, int least, int slot) {
+    const std::string name = path.filename().string();
+    const RecordFile file(path, 1);
     std::error_code error;
-    const bool there = fs::is_regular_file(file, error);
-    if (!there && (least > 0 || fs::exists(file, error))) return Say(name + " is missing.");
+    const bool there = file.Exists();
+    if (!there && (least > 0 || fs::exists(path, error))) return Say(name + " is missing.");
     if (!there) return;
-    const auto size = fs::file_size(file, error);
-    if (size < least) Say(name + " has " + Str(size) + " bytes, whole it has at least " + Str(least) + ".");
-    if (slot > 0 && size % slot != 0) Say(name + " ends within a record of " + Str(slot) + " bytes.");
+    const auto size = file.Bytes();
+    if (size < least) {
+      Say(name + " has " + std::to_string(size) + " bytes, whole it has at least " + std::to_string(least) +
+          ".");
+    }
+    if (slot > 0 && size % slot != 0)
+      Say(name + " ends within a record of " + std::to_string(slot) + " bytes.");
   }
 
   void ReadRaw() {
@@ -165,17 +169,13 @@ class Doctor {
 
   void Schedule() {
     const auto file = ScheduleFile();
-    std::error_code error;
-    if (!fs::exists(file, error)) return;
     Length(file, 0, kScheduleSlotBytes);
     int strangers = 0, undated = 0;
     const RecordFile rows(file, kScheduleSlotBytes);
     rows.ReadAll(std::min(rows.Count(), kMostScheduleRows), [&](int, const u8* bytes) {
       ScheduleRecord row;
       ReadRecord(bytes, row);
-      for (int side = 1; side <= 2; ++side) {
-        if (row.LegacyTeam[side] != 0) row.Team[side] = row.LegacyTeam[side];
-      }
+      TakeLegacyTeams(row);
       if (row.Status == 'D') return;
       const int days = row.Month >= 1 && row.Month <= 12 ? ScheduleDays(row.Month) : 0;
       if (row.Day < 1 || row.Day > days) ++undated;
@@ -197,7 +197,7 @@ class Doctor {
     file.ReadAll(std::min(file.Count(), 32767), [&bad](int, const u8* bytes) {
       DailyRecord daily;
       ReadRecord(bytes, daily);
-      if (daily.DailyMark != 99) return;
+      if (daily.DailyMark != DailyRecord::kSetMark) return;
       bad += std::any_of(daily.InactiveDates.begin() + 1, daily.InactiveDates.end(), [](i16 date) {
         return date != 0 && (date < 101 || date / 100 > 12 || date % 100 < 1 || date % 100 > 31);
       });

@@ -11,10 +11,6 @@
 namespace tipline {
 namespace {
 
-double RealMinutesPerGame(const PlayerRecord& p) {
-  return p.Stats[1].G > 0 ? static_cast<double>(p.Stats[1].Min) / p.Stats[1].G : 0;
-}
-
 bool IsOutside(int value, int most) { return value < 0 || value > most; }
 
 /// What `table` knows of the man; nullptr when nothing.
@@ -77,7 +73,7 @@ struct PlayerRepair {
     if (TakeMark(p.PositionGamesMark, 99)) ClearPositionGames(p);
     if (TakeMark(p.InjuryMark, 33)) p.InjuryType = p.InjurySeverity = p.SuspensionGames = 0;
     if (TakeMark(p.Salary2Mark, 99)) p.Salary2 = 0;
-    if (TakeMark(p.UsageMark, 99)) p.DontPlayWhenTired = RealMinutesPerGame(p) < 30 ? 1 : 0;
+    if (TakeMark(p.UsageMark, 99)) p.DontPlayWhenTired = MinutesPerGame(p) < 30 ? 1 : 0;
     if (p.Stats[2].G == 0) p.ShareMark = 99;
   }
 
@@ -247,7 +243,7 @@ void RepairPlayer(PlayerRecord& player, const TeamRecord& team) {
 }
 
 void SetMinutesFromLine(PlayerRecord& player) {
-  player.TargetMinutes = static_cast<u8>(Clamp(Int(RealMinutesPerGame(player) + 0.75), 0, 255));
+  player.TargetMinutes = static_cast<u8>(Clamp(Int(MinutesPerGame(player) + 0.75), 0, 255));
   player.PositionAllowed.Fill(0);
   for (const int position : {player.PrimaryPosition, player.SecondaryPosition, player.SpotPosition}) {
     if (position >= 1 && position <= 5) player.PositionAllowed[position] = 1;

@@ -16,6 +16,11 @@ std::string FullName(const PlayerRecord& player);
 /// "A.Ray", for a table; the last name alone when he has no first.
 std::string InitialName(const PlayerRecord& player);
 
+/// As he is known: the name that screens show, the last name where there is none.
+inline std::string KnownName(const PlayerRecord& player) {
+  return player.ShortName.Empty() ? player.LastName.Str() : player.ShortName.Str();
+}
+
 /// One of his three positions is this one.
 inline bool Lists(const PlayerRecord& player, int position) {
   return player.PrimaryPosition == position || player.SecondaryPosition == position ||

@@ -15,11 +15,7 @@ namespace {
 
 constexpr int kEmptyFile = 50;  // a file with fewer bytes holds no game
 
-std::uintmax_t SizeOf(const std::filesystem::path& file) {
-  std::error_code error;
-  const auto size = std::filesystem::file_size(file, error);
-  return error ? 0 : size;
-}
+long long SizeOf(const std::filesystem::path& file) { return RecordFile(file, kScheduleSlotBytes).Bytes(); }
 
 /// An empty default schedule takes what the spare copy holds.
 bool Heal(const std::filesystem::path& file) {
@@ -34,8 +30,7 @@ bool MakeReady(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error) && !Written(WriteWholeFile(file, ""), file)) return false;
   if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
-    platform::dialogs().Tell(file.filename().string() + " could not be read!");
-    return false;
+    return platform::RefusedWith(file.filename().string() + " could not be read!");
   }
   return Heal(file);
 }
@@ -51,13 +46,6 @@ void ReadRows(const std::filesystem::path& file) {
   RecordFile(file, kScheduleSlotBytes).ReadAll(count, [](int n, const u8* bytes) {
     ReadRecord(bytes, league.ScheduleGame[static_cast<std::size_t>(n)]);
   });
-}
-
-void TakeLegacyTeams(ScheduleRecord& row) {
-  for (int side = 1; side <= 2; ++side) {
-    if (row.LegacyTeam[side] != 0) row.Team[side] = row.LegacyTeam[side];
-    row.LegacyTeam[side] = 0;
-  }
 }
 
 /// Number of a game type; what is no type is a game of the regular season.
@@ -158,6 +146,13 @@ bool WriteSchedule(const std::filesystem::path& file, std::span<const ScheduleRe
     at += kScheduleSlotBytes;
   }
   return WriteWholeFile(file, bytes);
+}
+
+void TakeLegacyTeams(ScheduleRecord& row) {
+  for (int side = 1; side <= 2; ++side) {
+    if (row.LegacyTeam[side] != 0) row.Team[side] = row.LegacyTeam[side];
+    row.LegacyTeam[side] = 0;
+  }
 }
 
 ScheduleRecord NewScheduleGame(int visitor, int home, int month, int day) {

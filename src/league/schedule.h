@@ -51,6 +51,9 @@ bool UnloadSortedSchedule();
 /// Writes `rows` as a schedule file; for callers outside the open league. False when that failed.
 [[nodiscard]] bool WriteSchedule(const std::filesystem::path& file, std::span<const ScheduleRecord> rows);
 
+/// Old files number the teams in `LegacyTeam`; they move to `Team`.
+void TakeLegacyTeams(ScheduleRecord& row);
+
 /// An unplayed game between computers, a game of the regular season, with all texts blank.
 ScheduleRecord NewScheduleGame(int visitor, int home, int month, int day);
 
@@ -78,6 +81,15 @@ inline bool IsOn(const ScheduleRecord& row, int month, int day) {
 }
 inline bool HasTeam(const ScheduleRecord& row, int team) {
   return row.Team[1] == team || row.Team[2] == team;
+}
+
+/// Calls visit(row, number) for every game of `league.ScheduleGame` that is not deleted.
+template <class Visit>
+void ForScheduledGames(Visit&& visit) {
+  for (int n = 1; n <= league.GameCount(); ++n) {
+    const ScheduleRecord& row = league.ScheduleGame[static_cast<std::size_t>(n)];
+    if (row.Status != 'D') visit(row, n);
+  }
 }
 
 }  // namespace tipline

@@ -1,17 +1,19 @@
 #include "league/season_date.h"
 
+#include "base/calendar.h"
+
 namespace tipline {
 
 SeasonDate DaysLater(SeasonDate date, int days) {
-  constexpr int kDays[] = {0, 30, 31, 30, 31, 31, 28, 31, 30, 31, 30, 31, 31};  // September to August
-  if (date.month < 1 || date.month > 12) return {};
+  constexpr int kAugust = 12;
+  if (date.month < 1 || date.month > kAugust) return {};
   int day = date.day + days;
-  int month = date.month;
-  while (day > kDays[month]) {
-    if (month == 12) return {12, kDays[12]};
-    day -= kDays[month++];
+  for (int month = date.month; month <= kAugust; ++month) {
+    const int length = DaysOfMonth(CalendarMonth(month));
+    if (day <= length) return {month, day};
+    day -= length;
   }
-  return {month, day};
+  return {kAugust, DaysOfMonth(CalendarMonth(kAugust))};
 }
 
 }  // namespace tipline

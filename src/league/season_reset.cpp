@@ -3,6 +3,7 @@
 
 #include "league/files.h"
 #include "league/program.h"
+#include "league/shot_splits.h"
 
 namespace tipline {
 namespace {
@@ -39,10 +40,8 @@ void ClearSplits(TeamRecord& t) {
 }
 
 void ClearShotTable(TeamRecord& t) {
-  Clear(t.ShotAttInside, t.ShotAttOutside, t.ShotAttSpare1, t.ShotAttDrive, t.ShotAttFastbreak2);
-  Clear(t.ShotAttOffReb2, t.ShotAttFastbreak3, t.ShotAttOffReb3, t.ShotAttThree);
-  Clear(t.ShotMadeInside, t.ShotMadeOutside, t.ShotMadeSpare1, t.ShotMadeDrive, t.ShotMadeFastbreak2);
-  Clear(t.ShotMadeOffReb2, t.ShotMadeFastbreak3, t.ShotMadeOffReb3, t.ShotMadeThree);
+  for (const ShotSplit& split : kShotSplits) t.*split.team = 0;
+  Clear(t.ShotAttSpare1, t.ShotMadeSpare1);
 }
 
 void ClearHighsAndLows(TeamRecord& t) {
@@ -85,13 +84,6 @@ void ClearTotals(TeamRecord& t) {
   Clear(t.ScoutOffense, t.ScoutHelp, t.ScoutPressure, t.ScoutDefenseType, t.ScoutCoverage);
 }
 
-void ClearShotTable(PlayerRecord& p) {
-  Clear(p.ShotAttInside, p.ShotAttOutside, p.ShotAttThree, p.ShotAttDrive, p.ShotAttFastbreak2);
-  Clear(p.ShotAttOffReb2, p.ShotAttFastbreak3, p.ShotAttOffReb3);
-  Clear(p.ShotMadeInside, p.ShotMadeOutside, p.ShotMadeThree, p.ShotMadeDrive, p.ShotMadeFastbreak2);
-  Clear(p.ShotMadeOffReb2, p.ShotMadeFastbreak3, p.ShotMadeOffReb3);
-}
-
 void ClearSeasonCounters(PlayerRecord& p) {
   ClearWinLoss(p);
   ClearPositionGames(p);
@@ -122,7 +114,7 @@ void ZeroPlayer(PlayerRecord& player, int block) {
   for (auto& period : player.QuarterPoints) period[block] = 0;
   if (block == 1) return;
   player.Flagrants[2] = 0;
-  ClearShotTable(player);
+  for (const ShotSplit& split : kShotSplits) player.*split.man = {};
   ClearSeasonCounters(player);
   if (!program.ReplayLocked) ClearLine(player.SeriesStats);
 }

@@ -1,8 +1,6 @@
 #pragma once
 // The user's preferences: the program's setup file.
-#include <array>
 #include <filesystem>
-#include <string_view>
 
 #include "league/setup_record.h"
 
@@ -26,12 +24,5 @@ void RepairSetup();
 void UseDefaultCalls(SetupRecord& s = setup);  ///< the human calls some plays, and all when it counts
 void CallNoPlays(SetupRecord& s = setup);
 void CallAllPlays(SetupRecord& s = setup);
-
-/// What ratings 1 to 10 are called; index 0 is the first.
-inline constexpr std::array<std::string_view, 10> kRatingWord{
-    "Very Poor",     "Poor", "Fair",      "Below Average", "Average",
-    "Above Average", "Good", "Very Good", "Excellent",     "Excellent"};
-inline constexpr std::array<std::string_view, 5> kPositionName{"Point Guard", "Shooting Guard",
-                                                               "Small Forward", "Power Forward", "Center"};
 
 }  // namespace tipline

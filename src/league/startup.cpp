@@ -41,9 +41,7 @@ std::string BareFolder() {
 
 /// The folder of a tree text is there; otherwise the user is told.
 bool IsAvailable(const std::string& folder) {
-  if (IsFolder(RealFolder(folder))) return true;
-  platform::dialogs().Tell(folder + " is not available!");
-  return false;
+  return IsFolder(RealFolder(folder)) || platform::RefusedWith(folder + " is not available!");
 }
 
 bool Ask(std::string_view question) { return platform::dialogs().Ask(question); }
@@ -141,8 +139,7 @@ bool HCSETUPFORM::ChooseDrive(const std::string& drive) {
 bool HCSETUPFORM::SaveCommand() {
   const std::string label = Upper(Trimmed(FolderLabel));
   if (label.ends_with("\\SEASONS") || label.ends_with("SEASONS\\")) {
-    platform::dialogs().Tell("Please select a season or hit cancel.");
-    return false;
+    return platform::RefusedWith("Please select a season or hit cancel.");
   }
   if (!PushRecent(FolderLabel) || !OpenLeague()) return false;
   league.rules.CleanMark = 0;  // the new league is cleaned up at the next look

@@ -61,9 +61,13 @@ struct TeamRepair {
   }
 
   /// A draft team is a pro team with men of all teams.
-  void Types() {
+  void Type() {
     if (t.TeamType == 'D') t.RosterKind = "D";
     if (t.TeamType != 'C' && t.TeamType != 'A' && t.TeamType != 'O') t.TeamType = "P";
+  }
+
+  void Types() {
+    Type();
     if (t.RosterKind != 'D') t.RosterKind = "S";
     if (t.TeamSex != 'W') t.TeamSex = "M";
     if (t.TeamType == 'O') t.RosterKind = "S";
@@ -158,15 +162,12 @@ struct TeamRepair {
 }  // namespace
 
 void RepairSlot(TeamRecord& t) {
-  if (t.Abbrev.Empty()) t.Abbrev = t.City.View().substr(0, 3);
+  if (t.Abbrev.Empty()) t.Abbrev = FirstThree(t);
   if (t.Year < kFirstEraYear) t.Year = 2013;
   if (t.HomeForeColor == 0 && t.HomeBackColor == 0) t.HomeForeColor = 0x00FFFFFF;
-  if (t.TeamType == 'D') t.RosterKind = "D";
-  if (t.TeamType != 'A' && t.TeamType != 'C' && t.TeamType != 'O') t.TeamType = "P";
-  if (t.Wins + t.Losses == 0) {
-    t.NeutralWins = t.NeutralLosses = t.DivisionWins = t.DivisionLosses = t.HomeWins = t.HomeLosses = 0;
-    t.Streak = 0;
-  }
+  TeamRepair repair{t};
+  repair.Type();
+  repair.Unplayed();
 }
 
 void RepairTeamAtOpening(TeamRecord& team) {

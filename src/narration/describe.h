@@ -1,7 +1,7 @@
 #pragma once
 // One routine for each kind of event. They read `game.scene`, `game.play` and the rest of `game`, and add
-// lines to the buffer; with the short style of commentary (Brief) each gives one plain line at most, as its
-// text says.
+// lines to the buffer; with the short style of commentary (Brief) plays are told in a plain line each;
+// openings, line-ups and timeouts stay as they are, without their remarks.
 #include <span>
 
 #include "narration/lines.h"

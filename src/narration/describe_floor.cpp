@@ -199,13 +199,10 @@ int ReboundZone() {
   return IsInsideSpot(spot) ? 1 : IsThreeSpot(spot) ? 3 : spot >= 201 && spot <= 209 ? 2 : 0;
 }
 
-std::string JoinNames(const std::vector<std::string>& names) {
-  std::string joined;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) joined += i + 1 == names.size() ? ", and " : ", ";
-    joined += names[i];
-  }
-  return joined;
+std::vector<std::string> Listed(std::vector<std::string> parts) {
+  for (std::size_t i = 0; i + 1 < parts.size(); ++i) parts[i] += ",";
+  if (parts.size() > 1) parts.back() = "and " + parts.back();
+  return parts;
 }
 
 void WrapLine(std::string lead, const std::vector<std::string>& parts) {

@@ -51,6 +51,14 @@ std::string RateText(int made, int tried) {
   return "." + digits.substr(1);
 }
 
+/// Behind his name, when the line has room for it.
+bool AddIfShort(const std::string& words) {
+  constexpr std::size_t kMostLength = 60;
+  if (words.empty() || LastLine().Text.size() + words.size() > kMostLength) return false;
+  AddToLine(words);
+  return true;
+}
+
 /// A word on who he is, once a game at most, behind his name.
 void TellBiography() {
   const PlayerRecord& p = BallMan();
@@ -60,12 +68,12 @@ void TellBiography() {
   const bool known = p.DebutYear >= 1930;
   bool told = false;
   if (known && years == 0 && OneIn(4)) {
-    told = Add(kRookie);
+    told = AddIfShort(Pick(kRookie));
   } else if (known && years >= 2 && years <= 25 && OneIn(10)) {
-    told = Add(kVeteran, {.number = years});
+    told = AddIfShort(Pick(kVeteran, {.number = years}));
   } else if (!p.College.Empty() && OneIn(10)) {
     const std::string college = p.College.Str();
-    told = Add(kCollege, {.other = ArticleFor(college), .word = college});
+    told = AddIfShort(Pick(kCollege, {.other = ArticleFor(college), .word = college}));
   }
   if (told) said = 1;
 }
@@ -81,7 +89,7 @@ void StepToTheLine() {
   Say(kToTheLine);
   TellBiography();
   const StatLine& line = ShooterLine();
-  const int points = 2 * line.FGM + line.F3M + line.FTM - (FreeThrowMade() ? 1 : 0);
+  const int points = PointsOf(line) - (FreeThrowMade() ? 1 : 0);
   if (line.FTA == 1 && points >= kBigNight) {
     Say(kFirstTrip, {.number = points}, kSituationRemark);
   } else {

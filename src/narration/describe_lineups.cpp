@@ -1,6 +1,7 @@
 // Who comes in, who moves over, who leaves, and why.
 #include <algorithm>
 
+#include "engine/eligible.h"
 #include "league/program.h"
 #include "narration/describe.h"
 #include "narration/opening_sayings.h"
@@ -11,7 +12,12 @@ using namespace floor_talk;
 
 namespace {
 
-int Before(int side, int position) { return game.side[side].PreviousLineup[position]; }
+/// Who stood there: also the man who was taken off as he fouled out or was sent off.
+int Before(int side, int position) {
+  if (const int slot = game.side[side].PreviousLineup[position]; slot > 0) return slot;
+  const int stood = scene().Five[side][position];
+  return stood > 0 && !IsEligible(side, stood) ? stood : 0;
+}
 int Now(int side, int position) { return game.side[side].Lineup[position]; }
 bool Contains(const Table<int, 1, kPositions>& five, int slot) {
   return std::find(five.begin(), five.end(), slot) != five.end();
@@ -61,11 +67,12 @@ bool FirstOfSeason(int side, int slot) {
   return program.GameKind == "L" && team.Wins + team.Losses > 5 && PlayerAt(side, slot).Stats[2].G == 0;
 }
 
-/// His first steps of the game have a word of their own, one time in three.
+/// His first steps of the season, or of the game, have a word of their own; those of the game one time in
+/// three, in a decided one more often, since all of a bench would sound alike.
 const Family* FirstSteps(int side, int slot) {
   if (!FirstOfGame(side, slot)) return nullptr;
   if (FirstOfSeason(side, slot)) return &kSeasonDebut;
-  if (game.Blowout == 1 && OneIn(2)) return &kToken;
+  if (game.Blowout == 1 && LastPeriod() && OneIn(2)) return &kToken;
   return OneIn(3) ? &kFirstAction : nullptr;
 }
 
@@ -107,14 +114,22 @@ void TellExit(int side, int slot) {
   AddPart(parts, line.Ast, "", " assists,");
   AddPart(parts, line.St, "", " steals,");
   AddPart(parts, line.Bk, "", " blocks,");
-  if (parts.empty()) return;
+  if (parts.empty()) {
+    if (line.Pf == 0) return;
+    const std::string fouls = std::to_string(line.Pf) + (line.Pf == 1 ? " foul" : " fouls");
+    return NewLine(NameOf(side, slot) + " leaves with " + fouls, kUnspoken, side);
+  }
   parts.back().pop_back();
   WrapLine(NameOf(side, slot) + " " + Pick(kExits), parts);
 }
 
-/// A starter whose day is done: fouled out, or his side needs him no more.
+bool HasFouledOut(int side, int slot) {
+  return league.rules.DqList > 0 && PlayerAt(side, slot).Stats[3].Pf >= league.rules.DqList;
+}
+
+/// His day is done: fouled out, or his side needs him no more.
 bool DayIsDone(int side, int slot) {
-  if (ManAt(side, slot).FouledOutFlag == 1) return true;
+  if (HasFouledOut(side, slot)) return true;
   return game.Blowout == 1 && LastPeriod() && game.GameClock < 3000 &&
          PointsOf(PlayerAt(side, slot).Stats[3]) >= 10;
 }

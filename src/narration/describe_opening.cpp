@@ -26,12 +26,13 @@ std::string TeamWithRecord(int side) {
 
 void TellStreak(int side) {
   const int streak = game.team[side].Streak;
-  if (!LeagueGame() || std::abs(streak) < 3) return;
+  if (std::abs(streak) < 3) return;
   const std::string who = PbpTeamName(side);
   Say(streak > 0 ? kWonStreak : kLostStreak, {.who = who, .number = std::abs(streak)});
 }
 
-/// One game decides between schools; elsewhere it is one of a series.
+/// Schools decide it in one game. Which game of a series this is, and how the series stands, a game is not
+/// told: hence "playoff game", and no line on the series.
 std::string Occasion() {
   if (!program.PlayoffGame) return "for today's game between..";
   return game.team[2].TeamType == 'C' ? "for today's tournament game between.."
@@ -55,16 +56,14 @@ std::string Inches(const PlayerRecord& p) {
          (p.HeightInches == 1 ? " inch" : " inches");
 }
 
-/// Height, years and school, as far as they are known, each but the last with its comma.
+/// Years, school and height, as far as they are known.
 std::vector<std::string> Biography(const PlayerRecord& p) {
   std::vector<std::string> parts;
-  if (p.HeightFeet > 0) parts.push_back(Inches(p));
   if (p.DebutYear >= 1930 && p.DebutYear <= p.Year)
     parts.push_back("in his " + OrdinalText(p.Year - p.DebutYear + 1) + " year");
   if (!p.College.Empty()) parts.push_back("from " + p.College.Str());
-  for (std::size_t i = 0; i + 1 < parts.size(); ++i) parts[i] += ",";
-  if (parts.size() > 1) parts.back() = "and " + parts.back();
-  return parts;
+  if (p.HeightFeet > 0) parts.push_back(Inches(p));
+  return Listed(parts);
 }
 
 void LongList(int side) {
@@ -82,9 +81,10 @@ void LongList(int side) {
 void ShortList(const std::string& lead, int side) {
   std::vector<std::string> names;
   for (int p = 1; p <= kPositions; ++p) {
-    if (game.side[side].Lineup[p] > 0) names.push_back(At(side, p) + (p < kPositions ? "," : ""));
+    if (game.side[side].Lineup[p] > 0) names.push_back(At(side, p));
   }
   NewLine(lead);
+  for (std::size_t i = 0; i + 1 < names.size(); ++i) names[i] += ",";
   if (!names.empty()) WrapLine("", names);
 }
 

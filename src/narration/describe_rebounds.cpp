@@ -29,12 +29,12 @@ void StuckBall() {
   if (game.GameState != "JUMPBALL-1") NewLine(PbpTeamName(game.OffenseSide) + " ball");
 }
 
-/// The line of the miss did not say whose it was.
+/// Seldom, and only where the line of the miss did not say whose it was.
 void RecallTheMiss() {
   if (game.commentary.PbpLineCount < 2 || LastLine().SpokenKind != kMissedShot || game.play.TipIn != 0)
     return;
   const std::string shooter = BallName();
-  if (shooter.empty() || LastLine().Text.find(shooter) != std::string::npos || !OneIn(25)) return;
+  if (shooter.empty() || NamesHim(LastLine().Text, shooter) || !OneIn(25)) return;
   Say(kMissRecap, {}, kMissedShot);
 }
 

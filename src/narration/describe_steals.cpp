@@ -8,13 +8,6 @@ namespace {
 
 using namespace whistles;
 
-/// Who lost it: the man who brought it in, when it was stolen there.
-std::string Loser() {
-  if (scene().PlayResult == "IN-ST")
-    return NameOf(scene().OffenseSide, OffenseThen().Lineup[scene().InboundSlot]);
-  return BallName();
-}
-
 /// A man goes to the floor for the ball, and comes up with it.
 void DescribeDive() {
   Say(kPassTipped);
@@ -51,7 +44,7 @@ void DescribeDeflection() {
 
 void DescribeSteal() {
   if (game.play.Stealer == 0) return;
-  const std::string loser = Loser();
+  const std::string loser = BallName();
   if (Brief()) {
     Say(kBriefSteal, {.who = loser}, kStealLine);
     return;

@@ -88,6 +88,8 @@ void TellWhoGetsIt() {
   }
 }
 
+bool TheyLostIt() { return game.OffenseSide != scene().OffenseSide; }
+
 // Timeouts.
 
 std::string CoachOf(int side) { return game.team[side].CoachName.Str(); }
@@ -115,11 +117,12 @@ void DescribeInbound() {
     if (!Brief() && !who.empty()) Trouble(who);
     NewLine("5 second violation!", kFiveSeconds);
   } else if (r == "ST") {
-    if (Brief()) return NewLine("stolen by " + NameOf(scene().DefenseSide, game.play.Stealer), kStealLine);
+    const std::string thief = NameOf(scene().DefenseSide, game.play.Stealer);
+    if (Brief() && !thief.empty()) return NewLine("stolen by " + thief, kStealLine);
     Say(kInboundSteal, {}, kStealLine);
   } else {
     if (!Brief() && !who.empty() && OneIn(2)) Trouble(who);
-    Say(kDeflected, {}, kLostOutOfBounds);
+    Say(kDeflected, {}, TheyLostIt() ? kLostOutOfBounds : kUnspoken);
     if (!Brief()) TellWhoseBall();
   }
 }
@@ -135,11 +138,11 @@ void DescribeMoveUp() {
   if (r == "ST") {
     if (!Brief() && OneIn(2)) NewLine("he threw it away!");
     if (!thief.empty()) NewLine("stolen by " + thief, kStealLine);
-  } else if (game.OffenseSide != scene().OffenseSide && !Brief()) {
+  } else if (TheyLostIt() && !Brief()) {
     NewLine("he threw it away!", kLostOutOfBounds);
     TellWhoseBall();
   } else {
-    Say(kDeflected, {}, kLostOutOfBounds);
+    Say(kDeflected, {}, TheyLostIt() ? kLostOutOfBounds : kUnspoken);
     if (!Brief()) TellWhoseBall();
   }
   TellHolder(0, 0);

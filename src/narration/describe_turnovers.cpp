@@ -18,11 +18,11 @@ struct LossOdds {
 // clang-format off
 constexpr LossOdds kLosses[] = {
     {Loss::kBadPass,       [] { return OnTheBoards() ? 0 : Lobbed() ? 1000 : Running() ? 60 : 40; }},
-    {Loss::kOut,           [] { return Holding() ? 10 : Driving() || FullCourtPress() ? 30 : 18; }},
+    {Loss::kOut,           [] { return Holding() ? 10 : Driving() || FullCourtPressure() ? 30 : 18; }},
     {Loss::kRebound,       [] { return OnTheBoards() ? 100 : 0; }},
     {Loss::kTravel,        [] { return OnTheBoards() ? 0 : Inside() || Driving() ? 35 : 18; }},
     {Loss::kDoubleDribble, [] { return OnTheBoards() ? 0 : BigMan() ? 3 : 5; }},
-    {Loss::kOverLine,      [] { return !SetOffense() || Inside() ? 0 : FullCourtPress() || Holding() ? 15 : Guard() ? 4 : 0; }},
+    {Loss::kOverLine,      [] { return !SetOffense() || Inside() ? 0 : FullCourtPressure() || Holding() ? 15 : Guard() ? 4 : 0; }},
     {Loss::kThreeSec,      [] { return SetOffense() && !Holding() && BigMan() ? 8 : 0; }},
     {Loss::kFiveSec,       [] { return Holding() ? 25 : 0; }},
     {Loss::kShot,          [] { return SetOffense() && !Holding() ? 1 : 0; }},
@@ -142,7 +142,7 @@ void TellTurnoverCount() {
 void DescribeTurnover() {
   if (BallName().empty()) return;
   if (Brief()) {
-    Say(kBriefTurnover);
+    Say(kBriefTurnover, {}, kLostOutOfBounds);
   } else {
     if (TellLoss(DrawLoss())) DescribeComplaint();
     TellTurnoverCount();

@@ -16,8 +16,8 @@ std::string PlaceOf(int slot);
 /// 1 near the basket, 2 outside, 3 beyond the arc, 0 unknown: where the rebounder stood.
 int ReboundZone();
 
-/// "a, b, and c".
-std::string JoinNames(const std::vector<std::string>& names);
+/// Each part but the last with its comma, the last behind "and".
+std::vector<std::string> Listed(std::vector<std::string> parts);
 /// Adds the parts behind `lead`, and begins a new line where one would grow beyond 60 characters.
 void WrapLine(std::string lead, const std::vector<std::string>& parts);
 
@@ -26,8 +26,6 @@ std::string_view PositionWord(int position);
 /// The nickname where it tells more, with the article, else the name: "the Rockets", "Utah".
 std::string SideWithArticle(int side);
 inline std::string At(int side, int position) { return NameOf(side, game.side[side].Lineup[position]); }
-
-/// Points of a line of statistics.
 
 inline int PressureThen() { return DefenseThen().Pressure; }
 inline bool PressOn() { return PressureThen() == 2 || PressureThen() == 4; }

@@ -11,7 +11,7 @@ bool NamesAnother(const std::string& line, const std::string& name) {
   for (int side = 1; side <= 2; ++side) {
     for (const int slot : game.side[side].Lineup) {
       const std::string other = NameOf(side, slot);
-      if (!other.empty() && other != name && line.find(other) != std::string::npos) return true;
+      if (other != name && NamesHim(line, other)) return true;
     }
   }
   return false;
@@ -47,7 +47,9 @@ int Complainer(int& side) {
 bool MeansHim(const std::string& name) {
   if (!JustNamed(name)) return false;
   const std::string& line = LastLine().Text;
-  return line.ends_with(name) || (line.starts_with(name) && !NamesAnother(line, name));
+  const std::string_view last = std::string_view(line).substr(line.rfind(' ') + 1);
+  const std::string_view first = std::string_view(line).substr(0, line.find(' '));
+  return last == name || (NamesHim(first, name) && !NamesAnother(line, name));
 }
 
 void TellFoulCounts() {

@@ -9,6 +9,7 @@ void TellFoulCounts();
 void DescribeFoulCalled();
 void DescribeWeakCall();
 /// Behind a foul or a violation the man who was called, or the one who was fouled, may have a look for it.
+/// A hot head goes on about it; whether that costs a technical the engine has drawn for itself.
 void DescribeComplaint();
 
 }  // namespace tipline::whistles

@@ -54,7 +54,7 @@ inline constexpr Saying kAwaySayings[] = {
     {"there's a whistle away from the play"},
     {"{fouler} grabbed {who} away from the play"},
     {"{fouler} fouled {who} #167"},
-    {"{fouler} was holding {who} #167"},
+    {"{fouler} held {who} #167"},
 };
 inline constexpr Saying kWorstShooterSayings[] = {
     {"#085"},
@@ -76,11 +76,11 @@ inline constexpr Saying kStopClockSayings[] = {
     {"they have to foul, and it's {fouler}"},
 };
 inline constexpr Saying kBringsItUpSayings[] = {
-    {"{who} brings it up"}, {"here comes {who} with it"}, {"{who} against the press", FullCourtPress, 40},
+    {"{who} brings it up"}, {"here comes {who} with it"}, {"{who} against the press", [] { return DefenseThen().Pressure == 4; }, 40},
 };
 inline constexpr Saying kBackcourtFoulSayings[] = {
     {"backcourt foul on {fouler}"},
-    {"{who} is fouled in the backcourt by {fouler}"},
+    {"{who} is fouled in the backcourt by {fouler}", ShortNames},
     {"he's fouled in the backcourt by {fouler}", FouledManMeant},
     {"{who} is #102 {fouler}"},
 };

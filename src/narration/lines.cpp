@@ -131,6 +131,15 @@ bool IsPlural(std::string_view name) {
          name != CityOf(2, true);
 }
 
+bool NamesHim(std::string_view line, std::string_view name) {
+  const auto letter = [](char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; };
+  for (auto at = line.find(name); !name.empty() && at != line.npos; at = line.find(name, at + 1)) {
+    const auto end = at + name.size();
+    if ((at == 0 || !letter(line[at - 1])) && (end == line.size() || !letter(line[end]))) return true;
+  }
+  return false;
+}
+
 std::string OrdinalText(int n) {
   const int tens = n / 10 % 10, ones = n % 10;
   const char* end = tens == 1 ? "th" : ones == 1 ? "st" : ones == 2 ? "nd" : ones == 3 ? "rd" : "th";

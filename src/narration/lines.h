@@ -72,6 +72,8 @@ std::string BallName();        ///< the man with the ball in `game.scene`; "" wh
 std::string PbpTeamName(int side);
 /// The nickname when it is a plural that tells more than the name, else "".
 std::string PluralNickname(int side);
+/// `name` stands in the line as a whole word.
+bool NamesHim(std::string_view line, std::string_view name);
 bool IsPlural(std::string_view name);           ///< "Rockets lead", "Boston leads"
 std::string OrdinalText(int n);                 ///< "1st", "2nd", "11th"; n from 1
 std::string_view ArticleFor(int n);             ///< "an" before 8, 11, 18, 80 to 89, else "a"

@@ -92,10 +92,9 @@ void TellPlay() {
   const PlayResult posted = game.play.Posted, decided = scene().PlayResult;
   if (IsFreeThrow(scene().PlayKind)) {
     TellFreeThrow();
-  } else if (IsInbound(decided)) {
-    DescribeInbound();
-  } else if (IsMoveUp(decided)) {
-    DescribeMoveUp();
+  } else if (IsInbound(decided) || IsMoveUp(decided)) {
+    IsInbound(decided) ? DescribeInbound() : DescribeMoveUp();
+    if (game.OffenseSide != scene().OffenseSide) DescribePressTrouble();
   } else if (NeverCameToAShot()) {
     TellEnd();
   } else if (ShotWasTaken()) {
@@ -135,7 +134,10 @@ void NoteScene() {
   s.NeedsBringUp = game.NeedsBringUp;
   s.PutbackClass = game.PutbackClass;
   s.Tension = game.Tension;
-  for (int side = 1; side <= 2; ++side) s.Score[side] = game.side[side].Score;
+  for (int side = 1; side <= 2; ++side) {
+    s.Score[side] = game.side[side].Score;
+    s.Five[side] = game.side[side].Lineup;
+  }
   s.QuickFoul = Defense().QuickFoul;
   s.StealFoul = Defense().StealFoul;
   s.Call = game.call;

@@ -18,7 +18,8 @@ inline constexpr Saying kBadTossSayings[] = {{"bad toss"}};
 inline constexpr Saying kTossAgainSayings[] = {{"he'll try that again", [] { return !WomensGame(); }}, {"they'll do that one over"}};
 inline constexpr Saying kTipSayings[] = {
     {"{who} has no problem with the tip"}, {"{who} has no problem with that one"}, {"{who} easily controls the tip"},
-    {"{other} has it, and will get things started"}, {"{who} #095", nullptr, 40}};
+    {"{other} has it, and will get things started", PeriodOpens},
+    {"{other} comes up with the tip", [] { return !PeriodOpens(); }}, {"{who} #095", nullptr, 40}};
 inline constexpr Saying kStartsSayings[] = {
     {"{who} will bring it in"}, {"{who} has the ball to start"}, {"{who} will inbound to start things"}};
 

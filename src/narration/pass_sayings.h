@@ -24,9 +24,9 @@ inline constexpr Saying kPassSayings[] = {
     {"{who} #028 {other}"},
     {"{who} #029 {other}"},
     {"{who} #035 {other}"},
-    {"{who} looks, then {word} {other}", nullptr, 6},
+    {"{who} looks, then gives to {other}", nullptr, 6},
     {"{who} spots {other}", nullptr, 6},
-    {"{who} picks up the dribble, gives to {other}", nullptr, 4},
+    {"{who} stops, gives to {other}", nullptr, 4},
     {"{other} is open, {who} sees it", nullptr, 3},
     {"pass from {who} to {other}", nullptr, 5}};
 
@@ -64,7 +64,7 @@ inline constexpr Saying kFeedOutsideSayings[] = {
 inline constexpr Saying kLobSayings[] = {
     {"{who} #032 {other}", nullptr, 20},
     {"{who} #034 {other}", nullptr, 20},
-    {"{who} throws it up toward the rim for {other}"},
+    {"{who} throws it at the rim for {other}"},
     {"{who} lobs it over the defense to {other}"}};
 
 inline constexpr Saying kExtraPassSayings[] = {
@@ -75,7 +75,7 @@ inline constexpr Saying kExtraPassSayings[] = {
 
 inline constexpr Saying kPassFirstSayings[] = {
     {"{who} can't shake loose, gives to {other}"},
-    {"{who} is covered and {word} {other}"},
+    {"{who} is covered, gives to {other}"},
     {"{who} gives it up to {other}"}};
 
 inline constexpr Saying kScreenSayings[] = {
@@ -87,8 +87,8 @@ inline constexpr Saying kRollSayings[] = {
     {"{other} #039", ForBigMan, 20},
     {"{other} #040", [] { return !ForBigMan(); }, 20},
     {"{other} slips the pick, {who} sees it", nullptr},
-    {"{who} off the pick, {word} {other}"},
-    {"pick and roll, {who} {word} {other}", ForBigMan}};
+    {"{who} off the pick, over to {other}"},
+    {"pick and roll, {who} to {other}", ForBigMan}};
 
 inline constexpr Saying kBringUpSayings[] = {
     {"{who} brings it up"}, {"{who} brings the ball up"}, {"{who} bringing it up"}, {"{who} takes it into the frontcourt"},
@@ -110,11 +110,11 @@ inline constexpr Saying kDribbleMoveSayings[] = {
     {"{who} is looking to make a play"},
     {"{who} #024", [] { return !ForBigMan(); }, 5}, {"{who} #046", ForBigMan}, {"{who} #047"},
     {"{who} #048", [] { return !ForBigMan(); }, 5}, {"{who} #049"},
-    {"{who} works against {def}"}, {"{def} cuts him off", nullptr, 5}, {"{who} is cut off by {def}", nullptr, 5}};
+    {"{who} works against {def}"}, {"{who} is cut off by {def}", nullptr, 5}};
 // Behind a line that has named him.
 inline constexpr Saying kMoreDribbleSayings[] = {
     {"he dribbles back"}, {"he steps back", [] { return !ForBigMan(); }}, {"he's looking to make a play"},
-    {"dribbles left"}, {"dribbles right"}, {"cut off by {def}"}, {"he bumps {def}, no call!", nullptr, 2},
+    {"dribbles left"}, {"dribbles right"}, {"cut off by {def}"}, {"{def} cuts him off", nullptr, 5}, {"he bumps {def}, no call!", nullptr, 2},
     {"he dribbles outside", [] { return !ForBigMan(); }}, {"he waits for a screen", nullptr, 4}};
 
 inline constexpr Saying kLooseBallSayings[] = {

@@ -8,7 +8,7 @@ namespace tipline::whistles {
 /// The pass was taken, not the dribble: nobody strips a man whom he does not guard.
 inline bool FromThePass() {
   const Play& play = game.play;
-  return play.Stealer != scene().BallDefender || scene().PlayResult == "IN-ST" || play.TrapPass ||
+  return play.Stealer != scene().BallDefender || play.TrapPass ||
          play.ExtraPass || scene().Possession.PassFirst || Lobbed();
 }
 inline bool OffTheDribble() { return !FromThePass(); }

@@ -21,8 +21,8 @@ inline constexpr Saying kWhoseBallSayings[] = {{"{who} ball", nullptr, 20}, {"it
     {"it goes over to {who}", [] { return game.OffenseSide != scene().OffenseSide; }}};
 
 inline constexpr Saying kTiedUpSayings[] = {
-    {"{ball} and {def} both have the ball"}, {"{ball} and {def} are tied up"}, {"{def} tied him up"},
-    {"he's tied up by {def}"}, {"{ball} with the ball, tied up by {def}"}};
+    {"{ball} and {def} both have the ball"}, {"{ball} and {def} are tied up"}, {"{def} tied him up", whistles::BallManMeant},
+    {"he's tied up by {def}", whistles::BallManMeant}, {"{ball} with the ball, tied up by {def}"}};
 inline constexpr Saying kWantsTimeoutSayings[] = {{"{ball} is trying to call a time out"}};
 inline constexpr Saying kNoTimeoutSayings[] = {{"but he won't get one", [] { return !WomensGame(); }}, {"too late for that"}};
 inline constexpr Saying kJumpCallSayings[] = {{"jump ball"}, {"they'll jump"}, {"{ball} will jump against {def}"}};

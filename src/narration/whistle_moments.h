@@ -15,9 +15,7 @@ inline int FouledSlot() {
 }
 inline std::string FouledName() { return NameOf(scene().OffenseSide, FouledSlot()); }
 /// The last line has his name.
-inline bool JustNamed(const std::string& name) {
-  return !name.empty() && !NoLineYet() && LastLine().Text.find(name) != std::string::npos;
-}
+inline bool JustNamed(const std::string& name) { return !NoLineYet() && NamesHim(LastLine().Text, name); }
 /// "he" can only be this man: the last line ends with his name, or begins with it and has no other.
 bool MeansHim(const std::string& name);
 inline bool BallManMeant() { return MeansHim(BallName()); }
@@ -37,7 +35,7 @@ inline bool Holding() { return scene().PlayKind == "HOLD BALL" || scene().PlayKi
 inline bool Lobbed() { return scene().Call.LobFrom > 0; }
 inline bool Guard() { return scene().BallSlot == 1 || scene().BallSlot == 2; }
 inline bool BigMan() { return scene().BallSlot >= 4; }
-inline bool FullCourtPress() { return DefenseThen().Pressure >= 3; }
+inline bool FullCourtPressure() { return DefenseThen().Pressure >= 3; }
 inline bool SetOffense() { return !Running() && !OnTheBoards(); }
 inline bool LateAndClose() { return LastPeriod() && scene().GameClock < 3000 && MarginNow() <= 3; }
 
@@ -46,8 +44,12 @@ inline bool HardFoul() { return game.Tension > scene().Tension; }
 inline bool ByHisDefender() { return game.play.Fouler == scene().BallDefender; }
 inline bool ByHelp() { return !ByHisDefender(); }
 /// The defense goes for the worst man at the line.
-inline bool HuntsTheWorst() { return scene().QuickFoul == 3; }
+inline bool HuntsTheWorst() { return scene().PlayKind == "HOLD BALL" && scene().QuickFoul == 3; }
 inline bool StopsTheClock() { return scene().QuickFoul == 1 || scene().QuickFoul == 2; }
+/// Both names leave room for a long line.
+inline bool ShortNames() {
+  return FouledName().size() + NameOf(FoulingSide(), game.play.Fouler).size() <= 29;
+}
 /// Fouled as the ball comes up: the books give two shots for it, or the possession is still young.
 inline bool InBackcourt() {
   constexpr int kToCross = 80;
