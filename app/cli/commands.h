@@ -80,7 +80,8 @@ struct DailyRequest {
 int ShowDaily(const DailyRequest& request, const Common& common);
 int PlayExhibition(const PlayRequest& request, const Common& common);
 /// Shows the film of a game, and speaks it; at a terminal it is stepped through.
-int ShowFilm(const std::string& file, bool speak);
+/// A name that is no file is looked for in the league; without a name the league's films are listed.
+int ShowFilm(const std::string& file, bool speak, const Common& common);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
 /// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.

@@ -1,5 +1,6 @@
 // Looks at the film of a game: frame by frame at a terminal, all of it otherwise.
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 
@@ -23,12 +24,15 @@ void ShowPlay(const Film& film, int n) {
   }
   std::cout << "period " << static_cast<int>(frame.FilmPeriod) << "  " << ClockText(frame.FilmClock) << "   "
             << n << " of " << film.frames.size() << '\n';
+  std::string whole;
   for (int line = 1; line <= frame.FilmLineCount; ++line) {
     const std::string text = Plain(frame.FilmLine[line].Str());
     if (text == "..") continue;
     std::cout << "  " << text << std::endl;
-    SpeakLine(text, !Interactive());  // who steps through it may go on while it is said
+    if (!Interactive()) SpeakLine(text);
+    whole += (whole.empty() ? "" : " , ") + text;
   }
+  if (Interactive()) SpeakLine(whole, false);  // who steps through it may go on while it is said
 }
 
 /// The frame that a command leads to from frame n; 0 to leave, -1 for what is none.
@@ -58,10 +62,28 @@ void StepThrough(const Film& film) {
   }
 }
 
+int ListFilms() {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(program.LeagueFolder, error)) {
+    if (SameText(entry.path().extension().string(), ".flm"))
+      names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  std::cout << "Games in " << Plain(program.LeagueFolder.filename().string()) << '\n';
+  for (const std::string& name : names) std::cout << "  " << Plain(name) << '\n';
+  return 0;
+}
+
 }  // namespace
 
-int ShowFilm(const std::string& file, bool speak) {
-  const Film film = ReadFilm(file);
+int ShowFilm(const std::string& file, bool speak, const Common& common) {
+  const bool there = std::filesystem::exists(file);
+  if (file.empty() || !there) {  // then it is a film of the league
+    if (!OpenTheLeague(common)) return 1;
+    if (file.empty()) return ListFilms();
+  }
+  const Film film = ReadFilm(there ? std::filesystem::path(file) : program.LeagueFolder / file);
   if (film.frames.empty()) return 1;
   std::optional<Speaker> speaker;
   if (speak) speaker.emplace();

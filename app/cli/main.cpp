@@ -129,7 +129,9 @@ void AddPlay(CLI::App& app, Arguments& a) {
   play->add_option("--film", a.play.Film, "write the commentary, play by play, to this film file");
   play->add_flag("--speak", a.play.Speak, "speak the commentary, with what your preferences say of it");
   auto* film = app.add_subcommand("film", "look at the film of a game");
-  film->add_option("file", a.file, "a film file, usually named .flm")->required();
+  film->add_option("file", a.file,
+                   "a film file, usually named .flm, or its name in the league; without it the films of the "
+                   "league are listed");
   film->add_flag("--speak", a.speak, "speak it");
   auto* ratings = app.add_subcommand("ratings", "work the players' ratings out anew from their real seasons");
   ratings->add_option("team", a.team, "number, abbreviation, city or nickname");
@@ -216,7 +218,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("daily")) return cli::ShowDaily(a.daily, a.common);
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
-  if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak);
+  if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);

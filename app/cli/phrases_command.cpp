@@ -162,6 +162,7 @@ int RunSay(const CLI::App& app, const PhraseArguments& a) {
     if (editor.SaveTranslationCommand()) return 0;
     return Trimmed(a.Text).empty() ? Refuse("a text is needed") : 1;
   }
+  if (a.Test && Trimmed(a.Text).empty()) return Refuse("a text is needed");
   a.Test ? editor.TestTranslationCommand() : editor.NameSpeechCommand();
   std::cout << Plain(a.Test ? a.Text : Translated(a.Name)) << '\n';
   return 0;

@@ -40,6 +40,8 @@ class TerminalGame : public GameScreens {
   void OpenViewer() override { viewed_ = true; }
   void OpenGame() override { Coach(); }
 
+  /// A game of two computers was told as it went.
+  bool Watched() const { return printer_ && game.side[1].CoachMode == "C" && game.side[2].CoachMode == "C"; }
   /// The game came to its end; a viewed one is told from the first play on.
   bool Finished() {
     if (viewed_ && game.GameOver) Coach();
@@ -144,16 +146,16 @@ int PlayExhibition(const PlayRequest& request, const Common& common) {
   const bool finished = played && terminal.Finished();
   program.Autoplaying = program.ReplayLocked = program.ScenarioGame = game.CommentaryOn = false;
   if (!played) return 1;
-  if (!request.Film.empty() && !SaveFilm(request.Film)) return 1;
+  const int code = request.Film.empty() || SaveFilm(request.Film) ? 0 : 1;
   if (!finished) {
     std::cout << "The game was not finished.\n";
-    return 0;
+    return code;
   }
-  std::cout << '\n';
+  std::cout << (terminal.Watched() ? std::string(99, '-') : "") << '\n';
   PrintBox(std::cout);
   std::cout << "\nFinal: " << TeamName(game.team[1]) << " " << game.side[1].Score << ", "
             << TeamName(game.team[2]) << " " << game.side[2].Score << '\n';
-  return 0;
+  return code;
 }
 
 }  // namespace tipline::cli

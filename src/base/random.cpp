@@ -6,10 +6,12 @@ namespace tipline {
 
 Random random;
 Random showRandom;
+Random voiceRandom;
 
 void SeedRandom(std::uint64_t seed) {
   random.Seed(seed);
   showRandom.Seed(~seed);
+  voiceRandom.Seed(~seed);
 }
 
 void Random::Seed(std::uint64_t seed) {

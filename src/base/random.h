@@ -60,16 +60,18 @@ class Random {
   std::size_t used_ = 0;
 };
 
-extern Random random;      ///< seeded from the clock at start, from --seed or by a test otherwise
-extern Random showRandom;  ///< for what is only for show: no result hangs on it
+extern Random random;       ///< seeded from the clock at start, from --seed or by a test otherwise
+extern Random showRandom;   ///< for what is only for show: no result hangs on it
+extern Random voiceRandom;  ///< for what the voice makes of it: no line that is shown hangs on that
 
-/// Seeds both, each its own way.
+/// Seeds all three, each its own way.
 void SeedRandom(std::uint64_t seed);
 
 inline int Rnd(int n) { return random.Whole(n); }
 inline double Rnd() { return random.Real(); }
 /// The same whole number where only words hang on it.
 inline int ShowRnd(int n) { return showRandom.Whole(n); }
+inline int VoiceRnd(int n) { return voiceRandom.Whole(n); }
 /// With a bound that is no whole number: 1 + Int(bound x Rnd()), the bound at least 1.
 inline int RndTo(double bound) { return 1 + Int((bound < 1 ? 1 : bound) * Rnd()); }
 

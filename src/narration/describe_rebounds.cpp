@@ -35,7 +35,7 @@ void RecallTheMiss() {
     return;
   const std::string shooter = BallName();
   if (shooter.empty() || NamesHim(LastLine().Text, shooter) || !OneIn(25)) return;
-  Say(kMissRecap, {}, kMissedShot);
+  Say(kMissRecap);
 }
 
 const Family& FamilyOfBoard() {

@@ -216,7 +216,7 @@ void MarkBasket(bool three) {
   PbpLine& line = LastLine();
   line.SpokenKind = three ? kMadeThree : kMadeTwo;
   line.Side = scene().OffenseSide;
-  line.Sound = line.Display = kScoreCue;
+  line.Sound = kScoreCue;
   game.commentary.ResultLine = game.commentary.PbpLineCount;
 }
 

@@ -56,6 +56,7 @@ FilmFrame Widened(const OldFilmFrame& old) {
 /// What a damaged file holds is made fit to be shown.
 void Mend(FilmFrame& frame) {
   frame.FilmLineCount = std::min<u8>(frame.FilmLineCount, FilmFrame::kLines);
+  frame.FilmClock = std::max<i16>(frame.FilmClock, 0);
   for (u8& side : frame.FilmSide) side = side > 2 ? u8{0} : side;
 }
 

@@ -140,6 +140,17 @@ bool NamesHim(std::string_view line, std::string_view name) {
   return false;
 }
 
+std::string_view Uncounted(std::string_view text) {
+  text = Trimmed(text);
+  if (text.ends_with('!')) text.remove_suffix(1);
+  text = Trimmed(text);
+  const std::size_t open = text.rfind('(');
+  if (open != std::string_view::npos && text.ends_with(')') && text.size() - open <= 4) {
+    text = Trimmed(text.substr(0, open));
+  }
+  return text;
+}
+
 std::string OrdinalText(int n) {
   const int tens = n / 10 % 10, ones = n % 10;
   const char* end = tens == 1 ? "th" : ones == 1 ? "st" : ones == 2 ? "nd" : ones == 3 ? "rd" : "th";

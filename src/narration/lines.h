@@ -72,6 +72,8 @@ std::string BallName();        ///< the man with the ball in `game.scene`; "" wh
 std::string PbpTeamName(int side);
 /// The nickname when it is a plural that tells more than the name, else "".
 std::string PluralNickname(int side);
+/// The line without a final "!" and a count of one or two digits in brackets.
+std::string_view Uncounted(std::string_view text);
 /// `name` stands in the line as a whole word.
 bool NamesHim(std::string_view line, std::string_view name);
 bool IsPlural(std::string_view name);           ///< "Rockets lead", "Boston leads"

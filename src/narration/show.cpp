@@ -45,16 +45,17 @@ std::string TurnedToHers(std::string_view text) {
   return std::string(Trimmed(line));
 }
 
-/// The court animates the score once a stop.
+/// The score sounds once a stop.
 void ClearLaterCues() {
   bool seen = false;
   for (int n = 1; n <= game.commentary.PbpLineCount; ++n) {
-    int& cue = game.commentary.Line[n].Display;
+    int& cue = game.commentary.Line[n].Sound;
     if (cue == 2 && seen) cue = 0;
     seen |= cue == 2;
   }
 }
 
+/// The box keeps the pace of the lines and plays the sounds.
 void ShowLines() {
   platform::CommentaryBox& box = platform::commentaryBox();
   for (int n = 1; n <= game.commentary.PbpLineCount; ++n) {

@@ -30,32 +30,22 @@ bool Wanted(int kind) {
   return setup.NarratorShotPlusResultCheck;
 }
 
-/// He was fouled as he shot, where the text does not say so already.
+/// He was fouled as he shot, where the text does not say so already: by the word, or by who did it.
 std::string FoulEnding(const std::string& text) {
   const PlayResult result = game.play.Posted;
-  const bool told = text.find("foul") != std::string::npos;
+  const auto has = [&text](std::string_view words) { return text.find(words) != std::string::npos; };
+  const bool told = has("fouled") || has("the foul on") || has("draws the foul") ||
+                    NamesHim(text, NameOf(scene().DefenseSide, game.play.Fouler));
   if (told || !IsShot(result) || !result.Text().ends_with('F')) return "";
   const std::string fouled = WomensGame() ? "she was fouled " : "he was fouled ";
   if (!IsMadeShot(result)) return " , but " + fouled;
-  return ShowRnd(10) <= 3 ? " , and one " : " , and " + fouled;
+  return VoiceRnd(10) <= 3 ? " , and one " : " , and " + fouled;
 }
 
 std::string AssistEnding() {
   const std::string passer = NameOf(scene().OffenseSide, game.play.Assister);
   if (!setup.NarratorAssistsCheck || !Scored() || !game.play.Assisted || passer.empty()) return "";
-  return ShowRnd(10) <= 5 ? " , " + passer + " gets the assist" : " , from  " + passer;
-}
-
-/// Without a final "!", and without a count in brackets.
-std::string_view Bare(std::string_view text) {
-  text = Trimmed(text);
-  if (text.ends_with('!')) text.remove_suffix(1);
-  for (const std::size_t length : {3u, 4u}) {
-    if (text.size() >= length && text.ends_with(')') && text[text.size() - length] == '(') {
-      text.remove_suffix(length);
-    }
-  }
-  return Trimmed(text);
+  return VoiceRnd(10) <= 5 ? " , " + passer + " gets the assist" : " , from  " + passer;
 }
 
 }  // namespace
@@ -81,11 +71,16 @@ void SpeakShownLine(int n) {
   const PbpLine& line = game.commentary.Line[n];
   const int kind = line.SpokenKind;
   if (!Wanted(kind)) return;
+  // Of a shot that was not heard the basket is told in one sentence.
+  const bool shotHeard = setup.NarratorShotPlusResultCheck || setup.NarratorFullPBPCheck;
+  if (IsMade(kind) && Scored() && !shotHeard) return SpeakShot();
   if (!setup.NarratorFullPBPCheck) FillSpokenLine(n);  // else the lines around it name the man
   std::string text = line.SpokenText.empty() ? line.Text : line.SpokenText;
-  if (IsMade(kind) || kind == kMissedShot) text += FoulEnding(text);
-  if (IsMade(kind)) text += AssistEnding();
-  SpeakLine(Bare(text));
+  if (!setup.NarratorFullPBPCheck) {  // else the lines around it tell the foul and the pass
+    if (IsMade(kind) || kind == kMissedShot) text += FoulEnding(text);
+    if (IsMade(kind)) text += AssistEnding();
+  }
+  SpeakLine(Uncounted(text));
 }
 
 }  // namespace tipline

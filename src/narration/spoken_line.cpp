@@ -1,7 +1,8 @@
 // The plain sentence on a result that the voice says where the line leaves the man unnamed.
+#include <algorithm>
 #include <array>
 
-#include "narration/lines.h"
+#include "narration/shot_conditions.h"
 #include "narration/speech.h"
 
 namespace tipline {
@@ -9,21 +10,12 @@ namespace {
 
 constexpr std::size_t kSpokenLength = 100;
 
-/// The line without a final "!" and a count of one or two digits in brackets.
-std::string_view Uncounted(std::string_view text) {
-  if (text.ends_with('!')) text.remove_suffix(1);
-  text = Trimmed(text);
-  const std::size_t open = text.rfind('(');
-  if (open != std::string_view::npos && text.ends_with(')') && text.size() - open <= 4) {
-    text = Trimmed(text.substr(0, open));
-  }
-  return text;
-}
-
 bool Names(int n, std::string_view name) {
   if (n < 1) return false;
   const std::string_view text = Uncounted(game.commentary.Line[n].Text);
-  return text.starts_with(name) || text.ends_with(name);
+  const std::string_view first = text.substr(0, name.size() + 1);
+  const std::string_view last = text.substr(text.size() - std::min(text.size(), name.size() + 1));
+  return NamesHim(first, name) || NamesHim(last, name);
 }
 
 bool IsShotResult(int kind) { return kind == kMadeTwo || kind == kMadeThree || kind == kMissedShot; }
@@ -47,9 +39,12 @@ std::string ActingMan(int n) {
   return BallName();
 }
 
+/// In the lines of the shot itself and of its result.
 bool Said(std::string_view word) {
   for (int n = 1; n <= game.commentary.PbpLineCount; ++n) {
-    if (game.commentary.Line[n].Text.find(word) != std::string::npos) return true;
+    const PbpLine& line = game.commentary.Line[n];
+    const bool ofShot = line.SpokenKind == kShotLine || IsShotResult(line.SpokenKind);
+    if (ofShot && line.Text.find(word) != std::string::npos) return true;
   }
   return false;
 }
@@ -67,8 +62,6 @@ bool WasLayup() {
   return Said("layup") || Said("lay-in") || Said("lays it") || Said("underhands") || Said("scoops it");
 }
 
-int Spot() { return ManAt(scene().OffenseSide, scene().BallPlayer).CourtSpot; }
-
 /// From where, where that tells something.
 std::string_view SpotWord() {
   constexpr std::array<std::string_view, 9> kOutside{"the baseline", "the side",      "the wing",
@@ -79,8 +72,9 @@ std::string_view SpotWord() {
       "the top of the key", "the wing", "the wing", "the corner"};
   const bool three = scene().PlayKind == "THREE";
   const int first = three ? 301 : 201;
-  if ((!three && scene().PlayKind != "OUTSIDE") || Spot() < first || Spot() > first + 8) return "";
-  const auto place = static_cast<std::size_t>(Spot() - first);
+  if ((!three && scene().PlayKind != "OUTSIDE") || SpotOfShot() < first || SpotOfShot() > first + 8)
+    return "";
+  const auto place = static_cast<std::size_t>(SpotOfShot() - first);
   return three ? kBeyondArc[place] : kOutside[place];
 }
 
@@ -112,9 +106,9 @@ std::string MadeTwo(const std::string& name) {
 }
 
 std::string MadeThree(const std::string& name) {
-  const bool first = ShowRnd(10) <= 5;
+  const bool first = VoiceRnd(10) <= 5;
   if (Said("deep") || Said("well beyond")) return name + (first ? " scores on a deep 3" : " hits a deep 3");
-  if (Spot() == 301 || Spot() == 309) {
+  if (SpotOfShot() == 301 || SpotOfShot() == 309) {
     return name + (first ? " scores on a 3 from the corner" : " hits a 3 from the corner");
   }
   return name + " hits a three";
@@ -177,7 +171,9 @@ void FillSpokenLine(int n) {
     return;
   }
   const std::string name = ActingMan(n);
-  if (name.empty() || Names(n, name) || Names(n - 1, name)) return;
+  const bool heard =
+      setup.NarratorShotPlusResultCheck || n < 2 || game.commentary.Line[n - 1].SpokenKind != kShotLine;
+  if (name.empty() || Names(n, name) || (heard && Names(n - 1, name))) return;
   line.SpokenText = Sentence(n, name).substr(0, kSpokenLength);
 }
 

@@ -46,7 +46,7 @@ std::string_view ScoreOpening() {
   if (FinalHorn()) return "final score, ";
   if (period > regular) return "at the end of overtime, ";
   if (period == regular) return "at the end of regulation, ";
-  const bool plainly = ShowRnd(10) <= 5;
+  const bool plainly = VoiceRnd(10) <= 5;
   if (regular == 2) return plainly ? "at the half, " : "at the end of the first half, ";
   if (period == 2) return plainly ? "at the half, " : "at the end of the second quarter, ";
   return period == 1 ? "at the end of the first quarter, " : "at the end of the third quarter, ";
@@ -115,7 +115,7 @@ void SpeakShot() {
   if (!SpeechOn() || !setup.NarratorScoringCheck || !Scored() || BallName().empty()) return;
   const PlayResult result = game.play.Posted;
   const bool three = result == "G3" || result == "G3F";
-  const int draw = ShowRnd(10);
+  const int draw = VoiceRnd(10);
   std::string text = BallName() + (three       ? " for three "
                                    : draw <= 4 ? " scores "
                                    : draw <= 7 ? " for two"
@@ -136,7 +136,7 @@ void SpeakFoul(bool withCount) {
     text += OrdinalText(PlayerAt(side, game.play.Fouler).Stats[3].Pf) + " personal";
   }
   if (InPenalty(side) && game.play.Posted != "OF") {
-    text += " , " + OrdinalText(game.side[side].TeamFouls) + (ShowRnd(10) <= 5 ? " team foul" : " team ");
+    text += " , " + OrdinalText(game.side[side].TeamFouls) + (VoiceRnd(10) <= 5 ? " team foul" : " team ");
   }
   SpeakLine(text);
 }

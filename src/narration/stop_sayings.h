@@ -1,6 +1,7 @@
 #pragma once
 // The ball comes in, men are tied up, a side calls time, a period ends.
 #include "narration/floor_talk.h"
+#include "narration/whistle_moments.h"
 
 namespace tipline::floor_talk {
 

@@ -99,6 +99,11 @@ bool HcTranslationEditor::SaveTranslationCommand() {
     return false;
   }
   if (!program.Translate.Loaded) LoadTranslations();
+  std::error_code error;
+  if (const auto bytes = std::filesystem::file_size(TranslationFile(), error);
+      !error && bytes > kLongestFile) {
+    return platform::RefusedWith("The file of names is too long: " + TranslationFile().string());
+  }
   auto& rows = program.Translate.rows;
   const auto before = rows;
   const std::string capitals = Upper(name);

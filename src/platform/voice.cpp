@@ -72,16 +72,17 @@ pid_t Start(const std::string& command, std::vector<std::string> arguments, int 
   return process;
 }
 
-/// Waits until the process is over, at the longest until `end`; then it is ended.
-void WaitFor(pid_t process, Clock::time_point end) {
+/// Waits until the process is over, at the longest until `end`; then it is ended, and the answer is false.
+bool WaitFor(pid_t process, Clock::time_point end) {
   while (waitpid(process, nullptr, WNOHANG) == 0) {
     if (Clock::now() >= end) {
       kill(process, SIGKILL);
       waitpid(process, nullptr, 0);
-      return;
+      return false;
     }
     std::this_thread::sleep_for(milliseconds(10));
   }
+  return true;
 }
 
 /// What a command prints in at most a few seconds.
@@ -102,7 +103,7 @@ std::string OutputOf(const std::string& command, const std::vector<std::string>&
     output.append(part.data(), static_cast<std::size_t>(bytes));
   }
   close(ends[0]);
-  if (process > 0) WaitFor(process, Clock::now() + milliseconds(500));
+  if (process > 0) (void)WaitFor(process, Clock::now() + milliseconds(500));
   return output;
 }
 
@@ -111,7 +112,7 @@ class SpeechDispatcher : public Voice {
   explicit SpeechDispatcher(std::string command) : command_(std::move(command)) {}
   ~SpeechDispatcher() override { Collect(); }
 
-  bool Silent() const override { return false; }
+  bool Silent() const override { return hung_; }
   std::vector<std::string> Voices() override;
   void Select(int index) override;
   void SetRate(double rate) override { rate_ = static_cast<int>(std::clamp(rate, -1.0, 1.0) * 100); }
@@ -127,6 +128,7 @@ class SpeechDispatcher : public Voice {
   std::string command_, voice_;
   std::vector<std::string> voices_;
   bool listed_ = false;
+  bool hung_ = false;  ///< it did not come to the end of a text, and would hang at each
   int selected_ = 0, rate_ = 0, volume_ = 100;
   std::vector<pid_t> speaking_;  ///< texts that nobody waits for
 };
@@ -159,6 +161,7 @@ void SpeechDispatcher::Select(int index) {
 
 void SpeechDispatcher::Speak(std::string_view text, bool wait) {
   Collect();
+  if (hung_) return;
   std::vector<std::string> arguments{"--rate", std::to_string(rate_), "--volume", std::to_string(volume_)};
   if (!voice_.empty()) arguments.insert(arguments.end(), {"--synthesis-voice", voice_});
   if (wait) arguments.emplace_back("--wait");
@@ -170,7 +173,7 @@ void SpeechDispatcher::Speak(std::string_view text, bool wait) {
     return;
   }
   // The slowest speaker takes a third of a second for a letter; then something hangs.
-  WaitFor(process, Clock::now() + milliseconds(3000 + 300 * static_cast<int>(text.size())));
+  hung_ = !WaitFor(process, Clock::now() + milliseconds(3000 + 300 * static_cast<int>(text.size())));
   if (Finished) Finished();
 }
 

@@ -81,7 +81,7 @@ TEST(FloorLines, TellLineUpChanges) {
       {"man for man", [] { O().Lineup[2] = 7; }, "HomeG for HomeB at shooting guard|", true},
       {"no room for the position", [] { O().Lineup[2] = 7; }, "subs for HomeB at", false},
       {"he moves over", [] { O().Lineup[2] = 7, O().Lineup[3] = 2; }, "HomeB slides to small forward|", true},
-      {"fouled out", [] { O().Lineup[2] = 7, OMan(2).FouledOutFlag = 1, game.player[2][2].Stats[3].FGM = 1, game.player[2][2].Stats[3].Reb = 1; }, "HomeB exits with 2 points, 1 rebound|", true},
+      {"fouled out", [] { O().Lineup[2] = 7, O().PreviousLineup[2] = 0, game.scene.Five[2][2] = 2, Rules().DqList = 6, game.player[2][2].Stats[3].Pf = 6, game.player[2][2].Stats[3].FGM = 1, game.player[2][2].Stats[3].Reb = 1; }, "HomeB exits with 2 points, 1 rebound|", true},
       {"four fresh men of a close game", [] { for (int p = 1; p <= 4; ++p) O().Lineup[p] = 5 + p, OMan(5 + p).FatigueLoad = 0; }, "line change", false},
       {"four of a rout", [] { D().Score = 25; for (int p = 1; p <= 4; ++p) O().Lineup[p] = 5 + p, OMan(5 + p).FatigueLoad = 0; }, "line change for Denver|HomeF, HomeG, HomeH, and HomeI|", true},
   };

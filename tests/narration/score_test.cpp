@@ -65,8 +65,8 @@ TEST(ScoreLines, ThePossessionDies) {
       {"he lets it run", [] { game.Period = 4, O().Score = 2, game.scene.PlayTime = 3000; }, "Ball is dribbling out the clock", 400, 400},
       {"close", [] { game.Period = 4, D().Score = 3; }, "shot off!", 300, 400},
       {"not close", [] { game.Period = 4, D().Score = 4; }, "!", 0, 0},
-      {"they wanted to foul", [] { D().StealFoul = 1; }, "Boston can't foul!", 80, 160},
-      {"said once a game at the end", [] { game.Period = 4, D().QuickFoul = 1, game.commentary.CantFoulSaid = 1; }, "foul", 0, 0},
+      {"they wanted to foul", [] { game.scene.StealFoul = 1; }, "Boston can't foul!", 80, 160},
+      {"said once a game at the end", [] { game.Period = 4, game.scene.QuickFoul = 1, game.commentary.CantFoulSaid = 1; }, "foul", 0, 0},
       {"said once", [] { game.commentary.NoShotSaid = 12; }, "shot", 0, 0},
   };
   for (const auto& c : cases) {

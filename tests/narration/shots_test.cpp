@@ -37,7 +37,7 @@ TEST(ShotLines, SayOnlyWhatThePlayAllows) {
       {"a passer", "OUTSIDE", "G", [] { game.play.Assisted = true, game.play.Assister = 2; }, "Mate", 400, 400},
       {"no pass", "OUTSIDE", "G", [] { game.play.Assister = 2; }, "Mate", 0, 0},
       {"a put-back has no passer", "OFFREB", "G", [] { game.play.Assisted = true, game.play.Assister = 2; }, "Mate", 0, 0},
-      {"they foul on purpose", "OUTSIDE", "G", [] { game.play.Assisted = true, game.play.Assister = 2, D().QuickFoul = 3; }, "Mate", 0, 0},
+      {"they foul on purpose", "OUTSIDE", "G", [] { game.play.Assisted = true, game.play.Assister = 2, game.scene.QuickFoul = 3; }, "Mate", 0, 0},
       {"the first basket is no lead", "OUTSIDE", "G", [] { O().Score = 2; }, "for the lead", 0, 0},
       {"it takes the lead", "OUTSIDE", "G", [] { game.scene.Score = {{10, 9}}; D().Score = 10, O().Score = 11; }, "for the lead", 400, 400},
       {"it was theirs before", "OUTSIDE", "G", [] { game.scene.Score = {{8, 9}}; D().Score = 8, O().Score = 11; }, "for the lead", 0, 0},
