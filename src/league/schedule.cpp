@@ -34,8 +34,7 @@ bool MakeReady(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error) && !Written(WriteWholeFile(file, ""), file)) return false;
   if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
-    platform::dialogs().Tell(file.filename().string() + " could not be read!");
-    return false;
+    return WasRead(false, file);
   }
   return Heal(file);
 }

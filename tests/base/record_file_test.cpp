@@ -1,7 +1,12 @@
 #include "base/record_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <fstream>
+
+#include "base/undo_journal.h"
 #include "harness/temporary_home.h"
 #include "league/player_record.h"
 #include "support/small_disk.h"
@@ -17,6 +22,28 @@ class RecordFiles : public testing::Test {
   std::filesystem::path path = program.LeagueFolder / "F";
   std::filesystem::path undo = program.LeagueFolder / "F.undo";
   RecordFile file{path, kSlot};
+
+  /// Another program that works at the file; true when it came to its end and all went well.
+  template <class Work>
+  static bool Elsewhere(Work work) {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(work() ? 0 : 1);
+    int state = 0;
+    ::waitpid(child, &state, 0);
+    return child > 0 && WIFEXITED(state) && WEXITSTATUS(state) == 0;
+  }
+  /// A saver of slots 1 and 10 who dies behind the first.
+  void DieInASave() const {
+    const bool survived = Elsewhere([this] {
+      const SmallDisk full(9 * kSlot);
+      const rlimit none{0, 0};
+      ::setrlimit(RLIMIT_CORE, &none);
+      std::signal(SIGXFSZ, SIG_DFL);
+      const std::vector<u8> slot(kSlot, 9);
+      return file.WriteSlots({{1, slot}, {10, slot}});
+    });
+    ASSERT_TRUE(!survived && IsHalfChanged(path));
+  }
 };
 
 TEST_F(RecordFiles, AWriteKeepsTheBytesOfTheSlotBehindTheRecord) {
@@ -102,6 +129,65 @@ TEST_F(RecordFiles, AnUndoThatIsNotWholeIsThrownAway) {
     EXPECT_FALSE(std::filesystem::exists(undo));
     EXPECT_TRUE(ReadWholeFile(path) == old);
   }
+}
+
+TEST_F(RecordFiles, AHalfChangeIsUndoneOrNotShown) {
+  const std::string old(10 * kSlot, '\x07');
+  ASSERT_TRUE(WriteWholeFile(path, old));
+  DieInASave();
+  {
+    const SmallDisk full(0);
+    PlayerRecord player;
+    player.Age = 30;
+    EXPECT_FALSE(file.Read(1, player));
+    EXPECT_EQ(player.Age, 30);
+    EXPECT_NE(file.Fault(), "");
+  }
+  EXPECT_TRUE(ReadWholeFile(path) == old);
+  EXPECT_EQ(file.Fault(), "");
+
+  std::filesystem::remove(path);
+  DieInASave();
+  EXPECT_FALSE(file.Exists()) << "there was none";
+  DieInASave();
+  std::ofstream(path) << std::string(11 * kSlot, '\x05');
+  EXPECT_EQ(file.Count(), 11) << "a copy that somebody put back is not the half made file";
+}
+
+TEST_F(RecordFiles, TwoProgramsLoseNothingAndSeeNoHalfChange) {
+  constexpr int kTimes = 150;
+  ASSERT_TRUE(WriteWholeFile(path, std::string(3 * kSlot, '\0')));
+  const auto inPlace = [this] {
+    bool well = true;
+    for (int n = 1; n <= kTimes && well; ++n) {
+      const std::vector<u8> slot(kSlot, static_cast<u8>(n));
+      well = file.WriteSlots({{2, slot}, {3, slot}});
+    }
+    return well;
+  };
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(inPlace() ? 0 : 1);
+  for (int n = 1; n <= kTimes; ++n) {
+    EXPECT_TRUE(
+        file.RewriteAll(1, [](int slot, u8* bytes) { bytes[0] = static_cast<u8>(bytes[0] + (slot == 1)); }));
+    std::string seen;
+    EXPECT_TRUE(file.ReadAll(3, [&seen](int, const u8* bytes) {
+      seen += {char(bytes[0]), char(bytes[kSlot - 1])};
+    }));
+    EXPECT_EQ(seen.substr(2), std::string(4, seen[2])) << "both slots are of one save";
+  }
+  int state = 1;
+  ::waitpid(child, &state, 0);
+  EXPECT_EQ(state, 0);
+  const std::string all = ReadWholeFile(path);
+  EXPECT_EQ(static_cast<u8>(all[0]), kTimes);
+  EXPECT_EQ(static_cast<u8>(all[2 * kSlot]), kTimes) << "no rewrite brought an older slot back";
+}
+
+TEST_F(RecordFiles, AStoppedSaverStopsNobodyForLong) {
+  const platform::FileHandle stopped(undo, platform::Opening::kNew);
+  ASSERT_TRUE(stopped.Hold(platform::Holding::kAlone));
+  EXPECT_FALSE(WriteWholeFile(path, "x"));
 }
 
 }  // namespace
