@@ -1,23 +1,39 @@
 #include "base/record_file.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <memory>
 #include <system_error>
 
 #include "base/undo_journal.h"
-#include "platform/file_handle.h"
 
 namespace tipline {
 namespace {
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
+using platform::FileHandle;
+using platform::Opening;
 
-File OpenFile(const std::filesystem::path& path, const char* mode) {
-  return File(std::fopen(path.c_str(), mode));
+/// What the file holds from there on, zeros behind its end or without a file. False on an error.
+bool Fill(const FileHandle& file, long long offset, std::span<u8> bytes) {
+  const long long got = file.Open() ? file.ReadUpTo(offset, bytes.data(), bytes.size()) : 0;
+  std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(std::max(got, 0LL)), bytes.end(), u8{0});
+  return got >= 0;
+}
+
+/// By the only saver of the file: the temporary one is his.
+bool Replace(const std::filesystem::path& path, std::string_view bytes, Saving saving) {
+  auto temporary = path;
+  temporary += ".new";
+  std::error_code error;
+  {
+    FileHandle out(temporary, Opening::kOver);
+    if (!out.Open()) return false;
+    bool whole = out.WriteAt(0, reinterpret_cast<const u8*>(bytes.data()), bytes.size());
+    whole = whole && (saving == Saving::kUnflushed || out.Flush());
+    whole = out.Close() && whole;
+    if (whole) std::filesystem::rename(temporary, path, error);
+    if (whole && !error) return true;
+  }
+  std::filesystem::remove(temporary, error);
+  return false;
 }
 
 }  // namespace
@@ -29,19 +45,35 @@ bool RecordFile::Exists() const {
 }
 
 long long RecordFile::Bytes() const {
-  UndoUnfinished(path_);
-  std::error_code error;
-  const auto size = std::filesystem::file_size(path_, error);
-  return error ? 0 : static_cast<long long>(size);
+  bool ok = false;
+  const FileHandle file = OpenToRead(path_, &ok);
+  return file.Open() ? std::max(file.Length(), 0LL) : 0;
 }
 
-void RecordFile::ReadBytes(int n, u8* bytes, int length) const {
-  std::fill(bytes, bytes + length, u8{0});
-  if (n < 1) return;
-  UndoUnfinished(path_);
-  const File file = OpenFile(path_, "rb");
-  if (!file || std::fseek(file.get(), static_cast<long>(n - 1) * slot_, SEEK_SET) != 0) return;
-  [[maybe_unused]] const auto got = std::fread(bytes, 1, static_cast<std::size_t>(length), file.get());
+std::string RecordFile::Fault() const {
+  u8 first = 0;
+  if (ReadBytes(1, {&first, 1})) return "";
+  if (!IsHalfChanged(path_)) return path_.string() + " can't be read.";
+  return path_.string() + " is half changed, and the change can be neither undone nor waited for.";
+}
+
+bool RecordFile::ReadBytes(int n, std::span<u8> bytes) const {
+  bool ok = true;
+  const FileHandle file = n < 1 ? FileHandle() : OpenToRead(path_, &ok);
+  return Fill(file, (n - 1LL) * slot_, bytes) && ok;
+}
+
+bool RecordFile::ReadSlots(std::span<const int> numbers,
+                           const std::function<void(std::size_t, const u8*)>& visit) const {
+  std::vector<u8> bytes(static_cast<std::size_t>(slot_));
+  bool ok = false;
+  const FileHandle file = OpenToRead(path_, &ok);
+  for (std::size_t k = 0; ok && k < numbers.size(); ++k) {
+    if (numbers[k] < 1) continue;
+    ok = Fill(file, (numbers[k] - 1LL) * slot_, bytes);
+    if (ok) visit(k, bytes.data());
+  }
+  return ok;
 }
 
 bool RecordFile::WriteSlots(const Slots& slots) const {
@@ -55,70 +87,48 @@ bool RecordFile::WriteSlots(const Slots& slots) const {
   return pieces.empty() || ChangeInPlace(path_, pieces, end);
 }
 
-void RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& visit) const {
+bool RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& visit) const {
   constexpr int kSlotsAtOnce = 64;
   const auto slot = static_cast<std::size_t>(slot_);
   std::vector<u8> buffer(slot * kSlotsAtOnce);
-  UndoUnfinished(path_);
-  const File file = OpenFile(path_, "rb");
+  bool ok = false;
+  const FileHandle file = OpenToRead(path_, &ok);
   for (int n = 1; n <= count; n += kSlotsAtOnce) {
-    const std::size_t got = file ? std::fread(buffer.data(), 1, buffer.size(), file.get()) : 0;
-    std::fill(buffer.begin() + static_cast<std::ptrdiff_t>(got), buffer.end(), u8{0});
+    ok = Fill(file, (n - 1LL) * slot_, buffer) && ok;
     for (int k = 0; k < kSlotsAtOnce && n + k <= count; ++k) {
       visit(n + k, buffer.data() + slot * static_cast<std::size_t>(k));
     }
   }
+  return ok;
 }
 
 bool RecordFile::RewriteAll(int count, const std::function<void(int, u8*)>& fill) const {
   const auto slot = static_cast<std::size_t>(slot_);
-  bool read = false;
-  std::string bytes = ReadWholeFile(path_, &read);
-  std::error_code error;
-  if (!read && std::filesystem::exists(path_, error)) return false;
-  bytes.resize(slot * static_cast<std::size_t>(count), '\0');
-  for (int n = 1; n <= count; ++n) {
-    fill(n, reinterpret_cast<u8*>(bytes.data()) + slot * static_cast<std::size_t>(n - 1));
+  const SoleSaver saver(path_);
+  if (!saver.Holds()) return false;
+  const FileHandle old(path_, Opening::kRead);
+  bool read = old.Missing();
+  std::string bytes = old.Open() ? old.ReadAll(&read) : "";
+  if (!read) return false;
+  const std::size_t slots = std::max((bytes.size() + slot / 2) / slot, static_cast<std::size_t>(count));
+  bytes.resize(slot * slots, '\0');
+  for (std::size_t k = 0; k < slots; ++k) {
+    fill(static_cast<int>(k) + 1, reinterpret_cast<u8*>(bytes.data()) + slot * k);
   }
-  return WriteWholeFile(path_, bytes);
+  return Replace(path_, bytes, Saving::kFlushed);
 }
 
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok) {
-  std::string bytes;
-  UndoUnfinished(path);
-  const File file = OpenFile(path, "rb");
-  std::size_t got = file ? 1 : 0;
-  while (got > 0) {
-    constexpr std::size_t kAtOnce = 1 << 16;
-    const std::size_t before = bytes.size();
-    bytes.resize(before + kAtOnce);
-    got = std::fread(bytes.data() + before, 1, kAtOnce, file.get());
-    bytes.resize(before + got);
-  }
-  const bool read = file && std::ferror(file.get()) == 0;
-  if (!read) bytes.clear();
-  if (ok) *ok = read;
+  bool read = false;
+  const FileHandle file = OpenToRead(path, &read);
+  const std::string bytes = file.Open() ? file.ReadAll(&read) : "";
+  if (ok) *ok = file.Open() && read;
   return bytes;
 }
 
-bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-  // Shorter files hold nothing that is not soon told again, and a flush takes as long as a game.
-  constexpr std::size_t kWorthAFlush = 4096;
-  UndoUnfinished(path);  // later it would put old bytes into the new file
-  auto temporary = path;
-  temporary += ".new";
-  std::error_code error;
-  {
-    platform::FileHandle out(temporary, platform::Opening::kOver);
-    if (!out.Open()) return false;
-    bool whole = out.WriteAt(0, reinterpret_cast<const u8*>(bytes.data()), bytes.size());
-    whole = whole && (bytes.size() < kWorthAFlush || out.Flush());
-    whole = out.Close() && whole;
-    if (whole) std::filesystem::rename(temporary, path, error);
-    if (whole && !error) return true;
-  }
-  std::filesystem::remove(temporary, error);
-  return false;
+bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes, Saving saving) {
+  const SoleSaver saver(path);
+  return saver.Holds() && Replace(path, bytes, saving);
 }
 
 }  // namespace tipline

@@ -1,9 +1,11 @@
 #pragma once
 // Files of equal slots: record n (from 1) starts at byte (n - 1) x slot length, a record may be shorter than
 // its slot. A file is open for the length of one operation only. Whenever the program is killed, or the disk
-// is full, a file holds all that an operation writes or nothing of it.
+// is full, a file holds all that an operation writes or nothing of it. Two programs at the same file change
+// it one after the other, and neither reads a half change; no operation waits for the other one for long.
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,19 +20,29 @@ class RecordFile {
 
   const std::filesystem::path& Path() const { return path_; }
   bool Exists() const;
-  /// Length of the file, 0 when there is none.
+  /// Length of the file, 0 when there is none or it can't be read.
   long long Bytes() const;
   /// Slots in it. A file may end with its last record instead of its slot: one that is more than half there
   /// counts.
   int Count() const { return static_cast<int>((Bytes() + slot_ / 2) / slot_); }
 
-  /// Slot n filled into `record`; what lies past the end of the file, or of a missing one, reads as zeros.
+  /// Why a file that is there can't be read, as one sentence; empty when it can, or there is none.
+  std::string Fault() const;
+
+  /// Slot n filled into `record`; what lies past the end of the file, or of a missing one, reads as zeros,
+  /// and so does a slot below 1. False, with `record` as it was, when the file is there and can't be read.
   template <Described R>
-  void Read(int n, R& record) const {
+  bool Read(int n, R& record) const {
     std::vector<u8> bytes(static_cast<std::size_t>(R::kRecordSize));
-    ReadBytes(n, bytes.data(), R::kRecordSize);
+    if (!ReadBytes(n, bytes)) return false;
     ReadRecord(bytes.data(), record);
+    return true;
   }
+
+  /// Some slots in one opening: visit(k, bytes) sees the whole slot numbers[k], zeros past the end; a number
+  /// below 1 is passed over. False when the file is there and can't be read: some are then not visited.
+  [[nodiscard]] bool ReadSlots(std::span<const int> numbers,
+                               const std::function<void(std::size_t, const u8*)>& visit) const;
 
   /// Writes the record into slot n and keeps the bytes of the slot behind it; the file is made, and grows
   /// with zeros, as needed. False when the file could not be written.
@@ -44,15 +56,18 @@ class RecordFile {
   [[nodiscard]] bool WriteSlots(const Slots& slots) const;
 
   /// One pass over slots 1 to `count` with one buffer; visit(n, bytes) sees whole slots, zeros past the end.
-  void ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
+  /// It may not write this file. False when the file is there and can't be read, zeros then stand for the
+  /// rest.
+  bool ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
 
-  /// Writes slots 1 to `count` in one pass: fill(n, bytes) gets each slot as it stands (zeros where new) and
-  /// changes it. The new file, which ends behind slot `count`, replaces the old one in one step. False, with
-  /// the old file kept, when that failed or an old file is there and can't be read.
+  /// Writes slots 1 to `count`, or to the last one where the file has more, in one pass: fill(n, bytes) gets
+  /// each slot as it stands (zeros where new) and changes it, but reads and writes no file of this name. The
+  /// new file, which ends behind the last slot, replaces the old one in one step. False, with the old file
+  /// kept, when that failed or an old file is there and can't be read.
   [[nodiscard]] bool RewriteAll(int count, const std::function<void(int, u8*)>& fill) const;
 
  private:
-  void ReadBytes(int n, u8* bytes, int length) const;
+  bool ReadBytes(int n, std::span<u8> bytes) const;
 
   std::filesystem::path path_;
   int slot_;
@@ -61,8 +76,13 @@ class RecordFile {
 /// The whole file as bytes; an empty text when it can't be read (then `*ok`, if given, is false).
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok = nullptr);
 
+/// Whether power loss may cost what was just written: a flush takes as long as a game.
+enum class Saving { kFlushed, kUnflushed };
+
 /// Writes a temporary file beside `path`, flushes it and renames it over it: a crash, or power loss, leaves
-/// the old file or the new one. False, with the old one kept, when that failed.
-[[nodiscard]] bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
+/// the old file or the new one (an unflushed one may be empty after power loss). False, with the old one
+/// kept, when that failed.
+[[nodiscard]] bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes,
+                                  Saving saving = Saving::kFlushed);
 
 }  // namespace tipline

@@ -1,27 +1,29 @@
 #include "base/undo_journal.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "platform/file_handle.h"
-
 namespace tipline {
 namespace {
 
 namespace fs = std::filesystem;
 using platform::FileHandle;
+using platform::Holding;
 using platform::Opening;
+using Clock = std::chrono::steady_clock;
 
-constexpr std::string_view kHeading = "TIPUNDO1";
+constexpr std::string_view kHeading = "TIPUNDO2";
 constexpr long long kNoFile = -1;  // as a length
 
 /// What a file was before a change.
 struct Before {
   long long length = kNoFile;
+  long long longest = 0;          // neither before nor after the change is the file longer
   std::vector<FilePiece> pieces;  // all inside that length
 };
 
@@ -55,6 +57,7 @@ bool Take(std::string_view& from, Number& number) {
 std::string JournalText(const Before& before) {
   std::string text(kHeading);
   Put(text, before.length);
+  Put(text, before.longest);
   for (const FilePiece& piece : before.pieces) {
     Put(text, piece.offset);
     Put(text, static_cast<long long>(piece.bytes.size()));
@@ -73,7 +76,7 @@ std::optional<Before> ReadJournal(std::string_view text) {
   if (SumOf(text) != sum) return {};
   text.remove_prefix(kHeading.size());
   Before before;
-  if (!Take(text, before.length)) return {};
+  if (!Take(text, before.length) || !Take(text, before.longest)) return {};
   while (!text.empty()) {
     FilePiece piece;
     long long size = 0;
@@ -95,48 +98,60 @@ bool Stands(const FileHandle& data, const FilePiece& piece) {
   return data.WriteAt(piece.offset, piece.bytes.data(), piece.bytes.size());
 }
 
+/// A file that is gone since, or longer than the change could leave it, is another one than it was for: there
+/// is nothing to mend.
 bool PutBack(const fs::path& file, const Before& before) {
+  FileHandle data(file, Opening::kChange);
+  if (!data.Open()) return data.Missing();
+  if (data.Length() > before.longest) return true;
   std::error_code error;
   if (before.length == kNoFile) return fs::remove(file, error), !error;
-  FileHandle data(file, Opening::kChange);
-  if (!data.Open()) return data.Missing();  // removed since: there is nothing to mend
   bool whole = true;
   for (const FilePiece& piece : before.pieces) whole = Stands(data, piece) && whole;
   return data.Cut(before.length) && data.Close() && whole;
 }
 
-/// The journal, held by nobody else. Its saver died, or failed, with the change half made: it is undone. A
-/// saver that finished has removed it.
-void Undo(const fs::path& file, FileHandle& journal) {
-  if (journal.Removed()) return;
-  bool read = false;
-  const std::string text = journal.ReadAll(&read);
-  if (!read) return;
-  const auto before = ReadJournal(text);
-  if (before && !PutBack(file, *before)) return;
-  std::error_code ignored;  // then it is undone once more at the next opening
-  fs::remove(JournalOf(file), ignored);
+bool RemoveJournal(const fs::path& file) {
+  std::error_code error;
+  return fs::remove(JournalOf(file), error) && !error;
 }
 
-/// A new, empty journal, held by this program alone; not open when there can be none.
+/// The journal, held by nobody else. Its saver died, or failed, with the change half made: it is undone. A
+/// saver that finished has removed it.
+Undone Undo(const fs::path& file, const FileHandle& journal) {
+  if (journal.Removed()) return Undone::kAll;
+  bool read = false;
+  const std::string text = journal.ReadAll(&read);
+  if (!read) return Undone::kNot;
+  const auto before = ReadJournal(text);
+  if (before && !PutBack(file, *before)) return Undone::kNot;
+  return RemoveJournal(file) ? Undone::kAll : Undone::kJournalStays;
+}
+
+/// A new, empty journal, held by this program alone: whoever has it is the only one who saves this file. Not
+/// open when there can be none, or others save it again and again.
 FileHandle NewJournal(const fs::path& file) {
-  constexpr int kTries = 20;  // each lost to another program that saves the same file
-  for (int i = 0; i < kTries; ++i) {
-    UndoUnfinished(file);
+  const auto end = Clock::now() + platform::kPatience;
+  while (!file.empty() && UndoUnfinished(file) == Undone::kAll) {
     FileHandle journal(JournalOf(file), Opening::kNew);
     if (!journal.Open() && !journal.Taken()) break;
-    if (journal.Open() && journal.Hold() && !journal.Removed()) return journal;
+    if (journal.Open() && journal.Hold(Holding::kAlone) && !journal.Removed()) return journal;
+    if (Clock::now() > end) break;
   }
   return {};
 }
 
-std::optional<Before> LookBefore(const FileHandle& data, std::span<const FilePiece> pieces) {
+std::optional<Before> LookBefore(const FileHandle& data, std::span<const FilePiece> pieces,
+                                 long long length) {
   Before before;
-  if (!data.Open()) return before;
-  before.length = data.Length();
-  if (before.length < 0) return {};
+  if (data.Open()) {
+    before.length = data.Length();
+    if (before.length < 0) return {};
+  }
+  before.longest = std::max(before.length, length);
   for (const FilePiece& piece : pieces) {
     const auto size = static_cast<long long>(piece.bytes.size());
+    before.longest = std::max(before.longest, piece.offset + size);
     const long long there = std::min(size, before.length - piece.offset);
     if (there <= 0) continue;
     FilePiece old{piece.offset, std::vector<u8>(static_cast<std::size_t>(there))};
@@ -156,29 +171,61 @@ bool Apply(FileHandle& data, std::span<const FilePiece> pieces, long long length
 }  // namespace
 
 bool ChangeInPlace(const fs::path& file, std::span<const FilePiece> pieces, long long length) {
-  if (file.empty()) return false;
-  FileHandle journal = NewJournal(file);
+  const FileHandle journal = NewJournal(file);
   if (!journal.Open()) return false;
   FileHandle data(file, Opening::kChange);
   const bool missing = data.Missing();
-  const auto before = data.Open() || missing ? LookBefore(data, pieces) : std::nullopt;
-  bool whole = before.has_value();
-  if (whole) {
+  const auto before = data.Open() || missing ? LookBefore(data, pieces, length) : std::nullopt;
+  bool begun = false;
+  if (before) {
     const std::string text = JournalText(*before);
-    whole = journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size());
+    begun = journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size());
   }
-  if (whole && missing) data = FileHandle(file, Opening::kNew);
-  whole = whole && data.Open() && Apply(data, pieces, length);
-  std::error_code error;
-  if (whole && fs::remove(JournalOf(file), error) && !error) return true;
-  Undo(file, journal);
+  if (begun && missing) data = FileHandle(file, Opening::kNew);
+  begun = begun && data.Open() && data.Hold(Holding::kAlone);
+  if (begun && Apply(data, pieces, length) && RemoveJournal(file)) return true;
+  if (begun) {
+    Undo(file, journal);
+  } else {
+    RemoveJournal(file);  // the file is as it was, or one that somebody else has just made
+  }
   return false;
 }
 
-void UndoUnfinished(const fs::path& file) {
-  if (file.empty()) return;
-  FileHandle journal(JournalOf(file), Opening::kChange);
-  if (journal.Open() && journal.Hold()) Undo(file, journal);
+Undone UndoUnfinished(const fs::path& file) {
+  if (file.empty()) return Undone::kAll;
+  const FileHandle journal(JournalOf(file), Opening::kRead);
+  if (!journal.Open()) return journal.Missing() ? Undone::kAll : Undone::kNot;
+  return journal.Hold(Holding::kAlone) ? Undo(file, journal) : Undone::kNot;
+}
+
+bool IsHalfChanged(const fs::path& file) {
+  std::error_code error;
+  return !file.empty() && fs::is_regular_file(JournalOf(file), error);
+}
+
+FileHandle OpenToRead(const fs::path& file, bool* ok) {
+  const auto end = Clock::now() + platform::kPatience;
+  Undone undone = Undone::kAll;
+  do {
+    FileHandle data(file, Opening::kRead);
+    if (data.Open() && !data.Hold(Holding::kShared)) break;
+    // A saver first makes his journal and then waits until nobody reads.
+    if (undone == Undone::kJournalStays || !IsHalfChanged(file)) {
+      *ok = data.Open() || data.Missing();
+      return data;
+    }
+    data.Close();
+    undone = UndoUnfinished(file);
+  } while (undone != Undone::kNot && Clock::now() < end);
+  *ok = false;
+  return {};
+}
+
+SoleSaver::SoleSaver(const fs::path& file) : file_(file), journal_(NewJournal(file)) {}
+
+SoleSaver::~SoleSaver() {
+  if (Holds()) RemoveJournal(file_);
 }
 
 }  // namespace tipline

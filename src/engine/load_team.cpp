@@ -46,12 +46,27 @@ void GoByDailyList(const Roster& roster, int side) {
   }
 }
 
-/// A man who was traded away plays for nobody here, but keeps his slot.
-void KeepFormerMember(Roster& roster, int slot) {
-  PlayerRecord man;
-  ReadPlayer(roster.team.Roster[slot], man);
-  if (man.RecNo == roster.team.Roster[slot] && man.TeamNo == roster.TeamNo + kFormerMember)
-    roster.player[slot] = man;
+/// Men who were traded away play for nobody here, but keep their slots. False when they can't be read.
+bool KeepFormerMembers(Roster& roster, int side) {
+  std::vector<int> rows(kRosterSlots + 1);
+  std::vector<PlayerRecord> men(kRosterSlots + 1);
+  const auto row = [&rows](int slot) -> int& { return rows[static_cast<std::size_t>(slot)]; };
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!OnTeam(side, slot)) row(slot) = roster.team.Roster[slot];
+  }
+  if (!WasRead(ReadPlayers(rows, men), PlayersFile())) return false;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    const PlayerRecord& man = men[static_cast<std::size_t>(slot)];
+    if (row(slot) > 0 && man.RecNo == row(slot) && man.TeamNo == roster.TeamNo + kFormerMember)
+      roster.player[slot] = man;
+  }
+  return true;
+}
+
+bool ReadDaysOff(Roster& roster) {
+  std::vector<int> rows;
+  for (const PlayerRecord& man : roster.player) rows.push_back(man.RecNo);
+  return WasRead(ReadDailies(rows, roster.daily.cells_), DailyFile());
 }
 
 }  // namespace
@@ -98,12 +113,8 @@ bool SaveTeam(int teamNo, int side) {
   roster.TeamNo = teamNo;
   roster.team = game.team[side];
   roster.coach = game.coach[side];
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    roster.player[slot] = PlayerAt(side, slot);
-    if (!OnTeam(side, slot)) KeepFormerMember(roster, slot);
-    ReadDaily(roster.player[slot].RecNo, roster.daily[slot]);
-  }
-  return WriteRoster(roster);
+  for (int slot = 1; slot <= kRosterSlots; ++slot) roster.player[slot] = PlayerAt(side, slot);
+  return KeepFormerMembers(roster, side) && ReadDaysOff(roster) && WriteRoster(roster);
 }
 
 }  // namespace tipline

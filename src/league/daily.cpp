@@ -14,11 +14,19 @@ RecordFile Daily() { return {DailyFile(), kDailySlotBytes}; }
 
 }  // namespace
 
-void ReadDaily(int recNo, DailyRecord& daily) {
+bool ReadDailies(std::span<const int> rows, std::span<DailyRecord> dailies) {
+  return Daily().ReadSlots(rows, [&dailies](std::size_t k, const u8* bytes) {
+    DailyRecord& daily = dailies[k];
+    ReadRecord(bytes, daily);
+    if (daily.DailyMark != kCleared) daily = {};
+    daily.DailyMark = kCleared;
+  });
+}
+
+bool ReadDaily(int recNo, DailyRecord& daily) {
   daily = {};
-  if (recNo >= 1) Daily().Read(recNo, daily);
-  if (daily.DailyMark != kCleared) daily = {};
   daily.DailyMark = kCleared;
+  return ReadDailies({&recNo, 1}, {&daily, 1});
 }
 
 bool WriteDaily(int recNo, const DailyRecord& daily) {

@@ -1,6 +1,7 @@
 #pragma once
 // The days on which a man sits out: one slot of HcDaily for each row of HCPLAYER, 500 bytes.
 #include <concepts>
+#include <span>
 #include <type_traits>
 
 #include "base/record.h"
@@ -29,8 +30,11 @@ void Describe(Record& r, Visitor&& field) {
 /// A date as lists hold it: season month (1 September) x 100 + day.
 constexpr int DateOf(int seasonMonth, int day) { return seasonMonth * 100 + day; }
 
-/// The record of row `recNo` of HCPLAYER in the open league. One that was never written reads as no dates.
-void ReadDaily(int recNo, DailyRecord& daily);
+/// The records of rows of HCPLAYER in the open league, dailies[k] of rows[k]; one that was never written
+/// reads as no dates. A row below 1 is passed over. False when HcDaily is there and can't be read.
+bool ReadDailies(std::span<const int> rows, std::span<DailyRecord> dailies);
+/// The same of one row; what can't be read has no dates.
+bool ReadDaily(int recNo, DailyRecord& daily);
 /// False, after telling the user, when it could not be written; false for a row below 1.
 bool WriteDaily(int recNo, const DailyRecord& daily);
 

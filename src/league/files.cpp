@@ -53,22 +53,20 @@ bool Written(bool written, const std::filesystem::path& file) {
   return written;
 }
 
+bool WasRead(bool read, const std::filesystem::path& file) {
+  return read || platform::RefusedWith(file.filename().string() + " could not be read!");
+}
+
 bool ReadTeam(int team) {
   const auto file = Teams();
-  if (!IsTeamSlot(team) || !file.Exists()) return false;
-  file.Read(team, league.team[team]);
-  return true;
+  return IsTeamSlot(team) && file.Exists() && file.Read(team, league.team[team]);
 }
 
 bool WriteTeam(int team) {
   return IsTeamSlot(team) && Written(Teams().Write(team, league.team[team]), TeamsFile());
 }
 
-bool ReadCoach(int team) {
-  if (!IsTeamSlot(team)) return false;
-  Coaches().Read(team, league.coach[team]);
-  return true;
-}
+bool ReadCoach(int team) { return IsTeamSlot(team) && Coaches().Read(team, league.coach[team]); }
 
 bool WriteCoach(int team) {
   if (!IsTeamSlot(team)) return false;
@@ -76,7 +74,11 @@ bool WriteCoach(int team) {
   return Written(Coaches().Write(team, league.coach[team]), CoachesFile());
 }
 
-void ReadPlayer(int recNo, PlayerRecord& player) { Players().Read(recNo, player); }
+bool ReadPlayer(int recNo, PlayerRecord& player) { return Players().Read(recNo, player); }
+
+bool ReadPlayers(std::span<const int> rows, std::span<PlayerRecord> men) {
+  return Players().ReadSlots(rows, [&men](std::size_t k, const u8* bytes) { ReadRecord(bytes, men[k]); });
+}
 
 bool WritePlayer(const PlayerRecord& player) {
   return player.RecNo >= 1 && Written(Players().Write(player.RecNo, player), PlayersFile());
@@ -89,9 +91,10 @@ void LoadLeaguePlayers() {
   const int rows = std::min(file.Count(), kMostPlayers);
   league.player.resize(static_cast<std::size_t>(rows) + 1);
   league.player[0] = {};
-  file.ReadAll(rows, [](int row, const u8* bytes) {
+  const bool read = file.ReadAll(rows, [](int row, const u8* bytes) {
     ReadRecord(bytes, league.player[static_cast<std::size_t>(row)]);
   });
+  if (!WasRead(read, file.Path())) league.player.resize(1);
   league.FullSeasonScale = HoldsFullSeasonOf2019() ? 82.0 / 71 : 1.0;
 }
 
@@ -109,7 +112,7 @@ std::filesystem::path CoachExportFile(int team) { return LeagueFile(CityInFileNa
 bool ExportCoach(int team) {
   if (!IsTeamSlot(team)) return false;
   CoachRecord coach;
-  Coaches().Read(team, coach);
+  if (!WasRead(Coaches().Read(team, coach), CoachesFile())) return false;
   coach.TeamNo = static_cast<i16>(team);
   const auto file = CoachExport(team);
   return Written(file.Write(1, coach), file.Path());
@@ -122,7 +125,7 @@ bool ImportCoach(int team, CoachRecord& coach) {
     return platform::RefusedWith(file.Path().filename().string() + " is not there!");
   }
   CoachRecord read;
-  file.Read(1, read);
+  if (!WasRead(file.Read(1, read), file.Path())) return false;
   if (read.TeamNo != team) {
     return platform::RefusedWith("You may only import a game plan for " + TeamName(league.team[team]) + "!");
   }

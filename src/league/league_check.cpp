@@ -32,6 +32,9 @@ bool RowMakesSense(const EraRecord& row) {
 std::string LeagueFault(const std::filesystem::path& folder) {
   const RecordFile teams(folder / "HCTEAMS", kTeamSlotBytes);
   if (!teams.Exists()) return teams.Path().string() + " is missing.";
+  for (const char* name : {"HCTEAMS", "HCPLAYER", "HCgameplan", "HcDaily"}) {
+    if (auto fault = RecordFile(folder / name, 1).Fault(); !fault.empty()) return fault;
+  }
   bool found = false;
   teams.ReadAll(kTeams,
                 [&found](int, const u8* bytes) { found = found || (bytes[0] == 1 && bytes[1] == 0); });

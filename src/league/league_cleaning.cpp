@@ -42,7 +42,9 @@ bool DropTwins(Roster& roster, InUse& inUse) {
 
 bool CleanTeam(int teamNo, InUse& inUse) {
   Roster roster;
-  if (!ReadRoster(teamNo, roster)) return true;
+  if (!ReadRoster(teamNo, roster)) {  // his men must not be taken for nobody's
+    return platform::RefusedWith("The roster of " + TeamName(league.team[teamNo]) + " could not be read!");
+  }
   for (const i16 row : roster.team.Roster) {
     if (row > 0 && static_cast<std::size_t>(row) < inUse.size()) inUse[static_cast<std::size_t>(row)] = 1;
   }
@@ -53,7 +55,7 @@ bool EmptyUnusedRows(const InUse& inUse) {
   const RecordFile file(PlayersFile(), kPlayerSlotBytes);
   if (!file.Exists()) return true;
   const bool written = file.RewriteAll(file.Count(), [&inUse](int row, u8* bytes) {
-    if (static_cast<std::size_t>(row) < inUse.size() && inUse[static_cast<std::size_t>(row)]) return;
+    if (static_cast<std::size_t>(row) >= inUse.size() || inUse[static_cast<std::size_t>(row)]) return;
     PlayerRecord player;
     ReadRecord(bytes, player);
     if (player.TeamNo == kFreeAgent) return;

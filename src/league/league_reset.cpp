@@ -94,10 +94,7 @@ bool DeleteBoxes(const WorkLabel& label) {
 }
 
 /// Teams first: the schedule keeps only games of teams that are there.
-bool ReadSeason() {
-  LoadAllTeams();
-  return LoadSchedule();
-}
+bool ReadSeason() { return LoadAllTeams() && LoadSchedule(); }
 
 /// Of the season as it stands in memory.
 bool ClearResults(bool realLifeToo, const WorkLabel& label) {

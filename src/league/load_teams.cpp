@@ -61,20 +61,22 @@ void CompareYears() {
 
 }  // namespace
 
-void LoadAllTeams() {
+bool LoadAllTeams() {
   std::set<int> repaired;
-  RecordFile(TeamsFile(), kTeamSlotBytes).ReadAll(kTeams, [&repaired](int slot, const u8* bytes) {
-    TeamRecord& team = league.team[slot];
-    ReadRecord(bytes, team);
-    const bool active = team.TeamActive == 1;
-    if (active) RepairTeamAtOpening(team);
-    RepairSlot(team);
-    if (!active) return;
-    const auto now = RecordBytes(team);
-    if (!std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
-  });
+  const bool read =
+      RecordFile(TeamsFile(), kTeamSlotBytes).ReadAll(kTeams, [&repaired](int slot, const u8* bytes) {
+        TeamRecord& team = league.team[slot];
+        ReadRecord(bytes, team);
+        const bool active = team.TeamActive == 1;
+        if (active) RepairTeamAtOpening(team);
+        RepairSlot(team);
+        if (!active) return;
+        const auto now = RecordBytes(team);
+        if (!std::equal(now.begin(), now.end(), bytes)) repaired.insert(slot);
+      });
   if (!repaired.empty()) WriteTeams(repaired);
   RebuildLookups();
+  return WasRead(read, TeamsFile());
 }
 
 void RebuildLookups() {

@@ -52,19 +52,21 @@ void SortEntries(Roster& roster) {
 /// A man of the team who is on no slot enters the highest free one.
 void EnterMissingMen(Roster& roster) {
   auto& entry = roster.team.Roster;
-  for (std::size_t row = 1; row < league.player.size(); ++row) {
+  const std::size_t end = std::min<std::size_t>(league.player.size(), 32768);  // entries name no row behind
+  for (std::size_t row = 1; row < end; ++row) {
     if (league.player[row].TeamNo != roster.TeamNo) continue;
     const auto number = static_cast<i16>(row);
-    if (row > 32767 || std::find(entry.begin(), entry.end(), number) != entry.end()) continue;
+    if (std::find(entry.begin(), entry.end(), number) != entry.end()) continue;
     int slot = kRosterSlots;
     while (slot > 0 && entry[slot] != 0) --slot;
     if (slot == 0) return;
     PlayerRecord man;
-    ReadPlayer(number, man);
+    DailyRecord daily;
+    if (!ReadPlayer(number, man) || !ReadDaily(number, daily)) return;
     if (man.TeamNo != roster.TeamNo || man.RecNo == 0) continue;  // the file has moved on
     entry[slot] = man.RecNo = number;
     roster.player[slot] = man;
-    ReadDaily(number, roster.daily[slot]);
+    roster.daily[slot] = daily;
   }
 }
 
@@ -96,12 +98,26 @@ RosterChanges Compare(const RosterBytes& before, const Roster& roster) {
   return changes;
 }
 
-/// A row that holds nobody is written as such before it leaves its slot. False when a write failed.
-bool RemoveNobodies(Roster& roster, RosterChanges& changes) {
+/// Writes the men of the slots that pick(slot) names, in one step.
+template <class Pick>
+bool WriteMen(const Roster& roster, Pick pick) {
+  const RecordFile file(PlayersFile(), kPlayerSlotBytes);
+  RecordFile::Slots men;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     const PlayerRecord& man = roster.player[slot];
-    if (man.RecNo == 0 || man.TeamNo != 0) continue;
-    if (!WritePlayer(man)) return false;
+    if (man.RecNo > 0 && pick(slot)) men.emplace_back(man.RecNo, RecordBytes(man));
+  }
+  return Written(file.WriteSlots(men), file.Path());
+}
+
+/// A row that holds nobody is written as such before it leaves its slot. False when a write failed.
+bool RemoveNobodies(Roster& roster, RosterChanges& changes) {
+  const auto isNobody = [&roster](int slot) {
+    return roster.player[slot].RecNo != 0 && roster.player[slot].TeamNo == 0;
+  };
+  if (!WriteMen(roster, isNobody)) return false;
+  for (int slot = 1; slot <= kRosterSlots; ++slot) {
+    if (!isNobody(slot)) continue;
     ClearSlot(roster, slot);
     changes.team = true;
     changes.man[slot] = false;
@@ -115,9 +131,7 @@ void WriteChanges(Roster& roster, RosterChanges changes) {
     league.coach[roster.TeamNo] = roster.coach;
     if (!WriteCoach(roster.TeamNo)) return;
   }
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (changes.man[slot] && !WritePlayer(roster.player[slot])) return;
-  }
+  if (!WriteMen(roster, [&changes](int slot) { return changes.man[slot]; })) return;
   if (!changes.team) return;
   league.team[roster.TeamNo] = roster.team;
   WriteTeam(roster.TeamNo);
@@ -131,15 +145,6 @@ bool WriteCoachOf(const Roster& roster) {
   if (!Written(file.Write(roster.TeamNo, coach), file.Path())) return false;
   league.coach[roster.TeamNo] = coach;
   return true;
-}
-
-bool WriteMen(const Roster& roster) {
-  const RecordFile file(PlayersFile(), kPlayerSlotBytes);
-  RecordFile::Slots men;
-  for (const PlayerRecord& man : roster.player) {
-    if (man.RecNo > 0) men.emplace_back(man.RecNo, RecordBytes(man));
-  }
-  return Written(file.WriteSlots(men), file.Path());
 }
 
 bool WriteTeamOf(const Roster& roster) {
@@ -171,22 +176,17 @@ bool RosterChanges::Any() const {
 
 bool LookAtRoster(int teamNo, Roster& roster) {
   const RecordFile teams(TeamsFile(), kTeamSlotBytes);
-  const RecordFile players(PlayersFile(), kPlayerSlotBytes);
   const RecordFile coaches(CoachesFile(), kCoachSlotBytes);
   if (teamNo < 1 || teamNo > kTeams) return false;
   TeamRecord team;
-  teams.Read(teamNo, team);
-  if (team.TeamActive != 1) return false;
+  if (!teams.Read(teamNo, team) || team.TeamActive != 1) return false;
   roster = Roster{};
   roster.TeamNo = teamNo;
   roster.team = team;
-  coaches.Read(teamNo, roster.coach);
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (team.Roster[slot] <= 0) continue;
-    players.Read(team.Roster[slot], roster.player[slot]);
-    ReadDaily(team.Roster[slot], roster.daily[slot]);
-  }
-  return true;
+  std::vector<int> rows(1);
+  rows.insert(rows.end(), team.Roster.begin(), team.Roster.end());
+  return coaches.Read(teamNo, roster.coach) && ReadPlayers(rows, roster.player.cells_) &&
+         ReadDailies(rows, roster.daily.cells_);
 }
 
 RosterChanges RepairRoster(Roster& roster) {
@@ -209,7 +209,8 @@ bool ReadRoster(int teamNo, Roster& roster) {
 
 bool WriteRoster(const Roster& roster) {
   if (roster.TeamNo < 1 || roster.TeamNo > kTeams) return false;
-  return WriteCoachOf(roster) && WriteMen(roster) && WriteTeamOf(roster) && WriteDaysOff(roster);
+  return WriteCoachOf(roster) && WriteMen(roster, [](int) { return true; }) && WriteTeamOf(roster) &&
+         WriteDaysOff(roster);
 }
 
 }  // namespace tipline

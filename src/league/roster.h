@@ -30,7 +30,8 @@ struct RosterChanges {
 /// Reads a team, its coach, its men and their days off from the league folder, repairs what needs it and
 /// writes back, once, what a repair changed; `league.coach` and `league.team` follow. While
 /// `league.player` is filled, a man of the team who is on no slot enters the highest free one. False when
-/// `teamNo` is outside 1..720 or the slot holds no team.
+/// `teamNo` is outside 1..720, the slot holds no team, or a file that is there can't be read: nothing is then
+/// written, and `roster` holds nothing of use.
 bool ReadRoster(int teamNo, Roster& roster);
 
 /// The same as the records stand, without repair or write.

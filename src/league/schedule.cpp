@@ -30,7 +30,7 @@ bool MakeReady(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error) && !Written(WriteWholeFile(file, ""), file)) return false;
   if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
-    return platform::RefusedWith(file.filename().string() + " could not be read!");
+    return WasRead(false, file);
   }
   return Heal(file);
 }

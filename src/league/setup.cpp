@@ -31,11 +31,10 @@ std::filesystem::path SetupFile() {
 void LoadSetup() {
   ReadRecentList();
   const RecordFile file(SetupFile(), kSetupSlotBytes);
-  if (file.Bytes() < kShortest) {
+  if (!WasRead(file.Read(1, setup), file.Path())) {
+    setup = {};  // the file is left for better days
+  } else if (file.Bytes() < kShortest || Damaged()) {
     Blank();
-  } else {
-    file.Read(1, setup);
-    if (Damaged()) Blank();
   }
   RepairSetup();
 }

@@ -24,7 +24,7 @@ fs::path StatusFile() { return TreePath("Basketball-status.txt"); }
 void WriteStatus(std::string_view word) {
   std::error_code ignored;  // without the file nobody is warned, that is all
   fs::create_directories(StatusFile().parent_path(), ignored);
-  (void)WriteWholeFile(StatusFile(), std::string(word) + "\n");
+  (void)WriteWholeFile(StatusFile(), std::string(word) + "\n", Saving::kUnflushed);
 }
 
 bool IsFolder(const fs::path& folder) {
@@ -76,7 +76,7 @@ bool OpenLeague() {
   LoadSetup();
   program.LeagueFolder = folder;
   const bool rules = LoadRules();
-  LoadAllTeams();
+  if (!LoadAllTeams()) return false;
   LoadLeaguePlayers();
   const bool schedule = LoadSchedule();
   return schedule && (rules || SaveRules()) && CleanUnmarkedFolder();

@@ -1,7 +1,12 @@
 #include "base/record_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <fstream>
+
+#include "base/undo_journal.h"
 #include "harness/temporary_home.h"
 #include "league/player_record.h"
 #include "support/small_disk.h"
@@ -17,6 +22,27 @@ class RecordFiles : public testing::Test {
   std::filesystem::path path = program.LeagueFolder / "F";
   std::filesystem::path undo = program.LeagueFolder / "F.undo";
   RecordFile file{path, kSlot};
+
+  template <class Work>
+  static pid_t StartElsewhere(Work work) {
+    const pid_t other = ::fork();
+    if (other == 0) ::_exit(work() ? 0 : 1);
+    return other;
+  }
+  static bool EndsWell(pid_t other) {
+    int state = 1;
+    return ::waitpid(other, &state, 0) == other && state == 0;
+  }
+  /// A saver of slots 1 and 10 who dies behind the first.
+  void DieInASave() const {
+    ASSERT_FALSE(EndsWell(StartElsewhere([this] {
+      const SmallDisk full(9 * kSlot);
+      std::signal(SIGXFSZ, SIG_DFL);
+      return file.WriteSlots({{1, slot}, {10, slot}});
+    })));
+    ASSERT_TRUE(IsHalfChanged(path));
+  }
+  const std::vector<u8> slot = std::vector<u8>(kSlot, 9);
 };
 
 TEST_F(RecordFiles, AWriteKeepsTheBytesOfTheSlotBehindTheRecord) {
@@ -49,7 +75,7 @@ TEST_F(RecordFiles, WhatIsNotThereReadsAsZeros) {
   EXPECT_EQ(player.PrimaryPosition, 0) << "behind them";
   EXPECT_EQ(file.Count(), 2) << "the last one is more than half there";
   int sum = 0;
-  file.ReadAll(3, [&sum](int, const u8* slot) { sum += slot[0] + slot[949] + slot[1499]; });
+  file.ReadAll(3, [&sum](int, const u8* at) { sum += at[0] + at[949] + at[1499]; });
   EXPECT_EQ(sum, 3 * 7 + 2 * 7);
 }
 
@@ -66,7 +92,6 @@ TEST_F(RecordFiles, AFolderInTheFilesPlaceIsRefused) {
 
 TEST_F(RecordFiles, SlotsThatDoNotAllFitAreAllLeft) {
   const std::string old(10 * kSlot, '\x07');
-  const std::vector<u8> slot(kSlot, 9);
   const struct {
     const char* why;
     RecordFile::Slots slots;
@@ -102,6 +127,60 @@ TEST_F(RecordFiles, AnUndoThatIsNotWholeIsThrownAway) {
     EXPECT_FALSE(std::filesystem::exists(undo));
     EXPECT_TRUE(ReadWholeFile(path) == old);
   }
+}
+
+TEST_F(RecordFiles, AHalfChangeIsUndoneOrNotShown) {
+  const std::string old(10 * kSlot, '\x07');
+  ASSERT_TRUE(WriteWholeFile(path, old));
+  DieInASave();
+  {
+    const SmallDisk full(0);  // the old bytes can't be put back
+    PlayerRecord player;
+    EXPECT_FALSE(file.Read(1, player));
+    EXPECT_NE(file.Fault(), "");
+  }
+  EXPECT_TRUE(ReadWholeFile(path) == old);
+  std::filesystem::remove(path);
+  DieInASave();
+  EXPECT_FALSE(file.Exists()) << "there was none";
+  DieInASave();
+  std::ofstream(path) << std::string(11 * kSlot, '\x05');
+  EXPECT_EQ(file.Count(), 11) << "a copy that somebody put back is not the half made file";
+}
+
+TEST_F(RecordFiles, ASaverWaitsForWhoeverIsAtTheFile) {
+  constexpr int kLast = 100;  // not read at once with the first
+  const std::string old(kLast * kSlot, '\x07');
+  const auto go = path.string() + " go";
+  const auto startSaver = [&] {
+    EXPECT_TRUE(WriteWholeFile(path, old));
+    std::filesystem::remove(go);
+    return StartElsewhere([&] {
+      for (int k = 0; k < 2000 && !std::filesystem::exists(go); ++k) ::usleep(1000);
+      return file.WriteSlots({{1, slot}, {kLast, slot}});
+    });
+  };
+  const auto letHimGo = [&] { std::ofstream{go}, ::usleep(50000); };
+  pid_t saver = startSaver();
+  EXPECT_TRUE(file.ReadAll(kLast, [&](int n, const u8* bytes) {
+    if (n == 1) letHimGo();
+    EXPECT_EQ(bytes[0], 7) << n;
+  }));
+  EXPECT_TRUE(EndsWell(saver));
+  saver = startSaver();
+  EXPECT_TRUE(file.RewriteAll(1, [&](int n, u8* bytes) {
+    if (n == 2) letHimGo(), bytes[0] = 5;
+  }));
+  EXPECT_TRUE(EndsWell(saver));
+  const std::string all = ReadWholeFile(path);
+  EXPECT_EQ(all[(kLast - 1) * kSlot], 9) << "the rewrite did not bring the old slot back";
+  EXPECT_EQ(all[kSlot], 5);
+}
+
+TEST_F(RecordFiles, AStoppedSaverStopsNobodyForLong) {
+  const platform::FileHandle stopped(undo, platform::Opening::kNew);
+  ASSERT_TRUE(stopped.Hold(platform::Holding::kAlone));
+  EXPECT_FALSE(WriteWholeFile(path, "x"));
 }
 
 }  // namespace

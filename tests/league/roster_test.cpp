@@ -7,6 +7,7 @@
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
 #include "league/files.h"
+#include "league/league_check.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -96,6 +97,19 @@ TEST_F(Rosters, CoachMenAndTeamAreWrittenBackOrNothingIsTaken) {
   EXPECT_FALSE(WriteRoster(roster));
   EXPECT_EQ(dialogs.told, std::vector<std::string>{"HCPLAYER could not be written!"});
   EXPECT_EQ(league.team[5].Wins, 12);
+}
+
+TEST_F(Rosters, NobodyLeavesWhileAFileCantBeRead) {
+  const auto fault = [] { return LeagueFault(program.LeagueFolder); };
+  for (const auto& file : {DailyFile(), CoachesFile(), PlayersFile()}) {
+    EXPECT_EQ(fault(), "");
+    TemporaryLeague::Block(file);
+    const std::string before = ReadWholeFile(TeamsFile());
+    EXPECT_NE(fault().find(file.filename().string() + " can't be read"), std::string::npos) << file;
+    EXPECT_FALSE(ReadRoster(5, roster)) << file;
+    EXPECT_TRUE(ReadWholeFile(TeamsFile()) == before) << file;
+    std::filesystem::remove(file);
+  }
 }
 
 TEST_F(Rosters, APlanTravelsOnlyToItsOwnTeam) {
