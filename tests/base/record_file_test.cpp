@@ -23,26 +23,28 @@ class RecordFiles : public testing::Test {
   std::filesystem::path undo = program.LeagueFolder / "F.undo";
   RecordFile file{path, kSlot};
 
-  template <class Work>
-  static pid_t StartElsewhere(Work work) {
-    const pid_t other = ::fork();
-    if (other == 0) ::_exit(work() ? 0 : 1);
-    return other;
-  }
-  static bool EndsWell(pid_t other) {
-    int state = 1;
-    return ::waitpid(other, &state, 0) == other && state == 0;
-  }
-  /// A saver of slots 1 and 10 who dies behind the first.
-  void DieInASave() const {
-    ASSERT_FALSE(EndsWell(StartElsewhere([this] {
-      const SmallDisk full(9 * kSlot);
-      std::signal(SIGXFSZ, SIG_DFL);
-      return file.WriteSlots({{1, slot}, {10, slot}});
-    })));
-    ASSERT_TRUE(IsHalfChanged(path));
-  }
   const std::vector<u8> slot = std::vector<u8>(kSlot, 9);
+
+  /// Another program that saves slots 1 and 100, stopped just before.
+  pid_t StoppedSaver() const {
+    const pid_t saver = ::fork();
+    if (saver == 0) {
+      std::signal(SIGXFSZ, SIG_DFL);  // on a full disk it dies
+      ::raise(SIGSTOP);
+      ::_exit(file.WriteSlots({{1, slot}, {100, slot}}) ? 0 : 1);
+    }
+    ::waitpid(saver, nullptr, WUNTRACED);
+    return saver;
+  }
+  static bool EndsWell(pid_t saver) {
+    int state = 1;
+    ::kill(saver, SIGCONT);
+    return ::waitpid(saver, &state, 0) == saver && state == 0;
+  }
+  void DieBehindTheFirstSlot() const {
+    const SmallDisk full(50 * kSlot);
+    EXPECT_TRUE(!EndsWell(StoppedSaver()) && IsHalfChanged(path));
+  }
 };
 
 TEST_F(RecordFiles, AWriteKeepsTheBytesOfTheSlotBehindTheRecord) {
@@ -132,7 +134,7 @@ TEST_F(RecordFiles, AnUndoThatIsNotWholeIsThrownAway) {
 TEST_F(RecordFiles, AHalfChangeIsUndoneOrNotShown) {
   const std::string old(10 * kSlot, '\x07');
   ASSERT_TRUE(WriteWholeFile(path, old));
-  DieInASave();
+  DieBehindTheFirstSlot();
   {
     const SmallDisk full(0);  // the old bytes can't be put back
     PlayerRecord player;
@@ -141,40 +143,29 @@ TEST_F(RecordFiles, AHalfChangeIsUndoneOrNotShown) {
   }
   EXPECT_TRUE(ReadWholeFile(path) == old);
   std::filesystem::remove(path);
-  DieInASave();
+  DieBehindTheFirstSlot();
   EXPECT_FALSE(file.Exists()) << "there was none";
-  DieInASave();
-  std::ofstream(path) << std::string(11 * kSlot, '\x05');
-  EXPECT_EQ(file.Count(), 11) << "a copy that somebody put back is not the half made file";
+  DieBehindTheFirstSlot();
+  std::ofstream(path) << std::string(101 * kSlot, '\x05');
+  EXPECT_EQ(file.Count(), 101) << "a copy that somebody put back is not the half made file";
 }
 
 TEST_F(RecordFiles, ASaverWaitsForWhoeverIsAtTheFile) {
-  constexpr int kLast = 100;  // not read at once with the first
-  const std::string old(kLast * kSlot, '\x07');
-  const auto go = path.string() + " go";
-  const auto startSaver = [&] {
-    EXPECT_TRUE(WriteWholeFile(path, old));
-    std::filesystem::remove(go);
-    return StartElsewhere([&] {
-      for (int k = 0; k < 2000 && !std::filesystem::exists(go); ++k) ::usleep(1000);
-      return file.WriteSlots({{1, slot}, {kLast, slot}});
-    });
-  };
-  const auto letHimGo = [&] { std::ofstream{go}, ::usleep(50000); };
-  pid_t saver = startSaver();
-  EXPECT_TRUE(file.ReadAll(kLast, [&](int n, const u8* bytes) {
-    if (n == 1) letHimGo();
+  const std::string old(100 * kSlot, '\x07');
+  ASSERT_TRUE(WriteWholeFile(path, old));
+  pid_t saver = StoppedSaver();
+  EXPECT_TRUE(file.ReadAll(100, [saver](int n, const u8* bytes) {
+    if (n == 1) ::kill(saver, SIGCONT), ::usleep(50000);
     EXPECT_EQ(bytes[0], 7) << n;
   }));
   EXPECT_TRUE(EndsWell(saver));
-  saver = startSaver();
-  EXPECT_TRUE(file.RewriteAll(1, [&](int n, u8* bytes) {
-    if (n == 2) letHimGo(), bytes[0] = 5;
+  ASSERT_TRUE(WriteWholeFile(path, old));
+  saver = StoppedSaver();
+  EXPECT_TRUE(file.RewriteAll(1, [saver](int n, u8*) {
+    if (n == 1) ::kill(saver, SIGCONT), ::usleep(50000);
   }));
   EXPECT_TRUE(EndsWell(saver));
-  const std::string all = ReadWholeFile(path);
-  EXPECT_EQ(all[(kLast - 1) * kSlot], 9) << "the rewrite did not bring the old slot back";
-  EXPECT_EQ(all[kSlot], 5);
+  EXPECT_EQ(ReadWholeFile(path)[0], 9) << "the rewrite did not bring the old slot back";
 }
 
 TEST_F(RecordFiles, AStoppedSaverStopsNobodyForLong) {
