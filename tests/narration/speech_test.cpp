@@ -82,7 +82,7 @@ TEST(Speech, ALineWithoutTheManGivesWayToAPlainSentence) {
       {"he ends it", "", "it's good for Smith (12)!", 3, "G3", "it's good for Smith"},
       {"the line before names him", "Smith shoots", "swish!", 3, "G3", "swish"},
       {"nobody is named", "it's away", "no good (3)", 220, "M3", "Smith missed from the corner"},
-      {"the announcer's word", "with the hook", "no good", 220, "M", "Smith misses a hook"},
+      {"the announcer's word", "", "the hook is no good", 220, "M", "Smith misses a hook"},
       {"a foul is told once", "it's up", "won't go", 220, "M3F",
        "Smith missed from the corner , and it was fouled"},
       {"also in its line", "", "Smith fouled by Jones", 220, "M3F", "Smith fouled by Jones"},
