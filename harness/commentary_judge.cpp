@@ -39,7 +39,8 @@ const std::regex& Good() {
 }
 const std::regex& Missed() {
   static const std::regex pattern(
-      "\\b(misses|missed|no good|won't (go|fall|drop)|off the (rim|front|back|heel|iron)|too (strong|long|short)|"
+      "\\b(misses|missed|no good|won't (go|fall|drop)|off the (rim|front|back|heel|iron)|too "
+      "(strong|long|short)|"
       "short!|air ?ball|rims out|doesn't fall|can't get it|blew|stoned|hoop didn't want it|leaves it short)",
       std::regex::icase);
   return pattern;
@@ -77,8 +78,8 @@ void CommentaryJudge::Blame(Blemish blemish, const std::string& line) {
   ++blemishes[blemish];
   if (examples.size() < kMostExamples && blemishes[blemish] <= 8) {
     examples.push_back(std::string(kBlemishNames[static_cast<int>(blemish)]) + ": \"" + line + "\" (" +
-                       std::string(game.scene.PlayKind.Text()) + " " +
-                       std::string(game.play.Posted.Text()) + ")");
+                       std::string(game.scene.PlayKind.Text()) + " " + std::string(game.play.Posted.Text()) +
+                       ")");
   }
 }
 
@@ -118,15 +119,15 @@ void CommentaryJudge::JudgeNames(const std::string& line) {
     const bool team = std::any_of(teams_.begin(), teams_.end(), [&](const std::string& t) {
       return t.find(name) != std::string::npos && line.find(t) != std::string::npos;
     });
-    const bool there = std::any_of(bearers.begin(), bearers.end(), [](const auto& man) {
-      return PositionOf(man.first, man.second) > 0;
-    });
+    const bool there = std::any_of(bearers.begin(), bearers.end(),
+                                   [](const auto& man) { return PositionOf(man.first, man.second) > 0; });
     if (!there && !team) Blame(Blemish::kStranger, line);
   }
 }
 
 void CommentaryJudge::JudgeNumbers(const std::string& line) {
-  static const std::regex lead("\\b(?:leads?|ahead|trails?|trailing|behind|down) by (\\d+)|(\\d+) point lead");
+  static const std::regex lead(
+      "\\b(?:leads?|ahead|trails?|trailing|behind|down) by (\\d+)|(\\d+) point lead");
   static const std::regex run("(\\d+)-0 run");
   std::smatch found;
   if (std::regex_search(line, found, lead)) {

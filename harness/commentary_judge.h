@@ -11,15 +11,15 @@ namespace tipline {
 
 /// What may be wrong with a line.
 enum class Blemish {
-  kTooLong,       ///< over 70 characters
-  kBlanks,        ///< two blanks, or one at an end
-  kArticle,       ///< "a 8-0 run", "an 10-0 run"
-  kUnfilled,      ///< a brace, or a phrase that was not found
-  kMadeOnMiss,    ///< told as good, though it was none
-  kMissOnMade,    ///< and the other way round
-  kStranger,      ///< a man who is not on the floor
-  kScore,         ///< a score, a lead or a run that the books do not have
-  kMasculine,     ///< he, him or his of a woman
+  kTooLong,     ///< over 70 characters
+  kBlanks,      ///< two blanks, or one at an end
+  kArticle,     ///< "a 8-0 run", "an 10-0 run"
+  kUnfilled,    ///< a brace, or a phrase that was not found
+  kMadeOnMiss,  ///< told as good, though it was none
+  kMissOnMade,  ///< and the other way round
+  kStranger,    ///< a man who is not on the floor
+  kScore,       ///< a score, a lead or a run that the books do not have
+  kMasculine,   ///< he, him or his of a woman
 };
 constexpr const char* kBlemishNames[] = {"over 70 characters", "blanks",          "article",
                                          "left unfilled",      "good on a miss",  "missed on a make",
@@ -38,7 +38,7 @@ class CommentaryJudge : private platform::CommentaryBox {
 
   long lines = 0, stops = 0;
   std::map<Blemish, long> blemishes;
-  std::vector<std::string> examples;               ///< the first of each kind, a few
+  std::vector<std::string> examples;                ///< the first of each kind, a few
   std::unordered_map<std::string, long> skeletons;  ///< lines without names and numbers, and how often
   long Faults() const;
 

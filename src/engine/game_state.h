@@ -306,10 +306,10 @@ struct Scene {
   i32 GameClock = 0, ShotClock = 0, PlayTime = 0;
   int DeadBallKind = 0, InboundSlot = 0, NeedsBringUp = 0;
   int PutbackClass = 0;
-  int Tension = 0;           ///< before the play
-  Table<int, 1, 2> Score{};  ///< before the play
+  int Tension = 0;                          ///< before the play
+  Table<int, 1, 2> Score{};                 ///< before the play
   Table2<int, 1, 2, 1, kPositions> Five{};  ///< [side][position] who stood on the floor
-  int QuickFoul = 0, StealFoul = 0;  ///< orders of the defense, which the end of a period takes back
+  int QuickFoul = 0, StealFoul = 0;         ///< orders of the defense, which the end of a period takes back
   tipline::Call Call;
   tipline::Possession Possession;
   tipline::FastBreak FastBreak;
