@@ -47,7 +47,6 @@ const std::regex& Missed() {
 }
 
 bool Made(PlayResult r) { return IsMadeShot(r) || r == "FTG"; }
-bool MissedIt(PlayResult r) { return r == "M" || r == "M3" || r == "MF" || r == "M3F" || r == "FTM"; }
 
 }  // namespace
 
@@ -110,7 +109,6 @@ void CommentaryJudge::JudgeResult(const std::string& line) {
   if (game.play.TipIn || r == "OF") return;  // a shot let go behind the whistle does not count
   if (!Made(r) && Is(line, Good())) Blame(Blemish::kMadeOnMiss, line);
   if (Made(r) && Is(line, Missed())) Blame(Blemish::kMissOnMade, line);
-  if (MissedIt(r) && Is(line, Good())) Blame(Blemish::kMadeOnMiss, line);
 }
 
 void CommentaryJudge::JudgeNames(const std::string& line) {

@@ -3,6 +3,7 @@
 
 #include "base/random.h"
 #include "engine/engine.h"
+#include "engine/game_state.h"
 #include "harness/commentary_judge.h"
 #include "harness/game_book.h"
 #include "harness/memory_league.h"
