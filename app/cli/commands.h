@@ -32,6 +32,7 @@ struct PlayRequest {
   std::string Scenario = "";  ///< "P4 1:30 100-98 home": period, clock, points, whose ball or "jump"; "" none
   std::string Until = "";     ///< mark up to which both sides play alone, "" none
   bool Neutral = false;
+  bool Fast = false;      ///< no pauses between the plays at a terminal
   bool Brief = false;     ///< the short style of commentary, this game alone
   bool Log = false;       ///< one line a play in place of the commentary
   bool Speak = false;     ///< the commentary is spoken, this game alone

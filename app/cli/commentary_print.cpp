@@ -1,5 +1,7 @@
 #include "cli/commentary_print.h"
 
+#include <thread>
+
 #include "cli/coach_events.h"
 #include "cli/columns.h"
 #include "narration/lines.h"
@@ -25,6 +27,11 @@ void CommentaryPrinter::Line(std::string_view text, int, int) {
   }
   out_ << "  " << Plain(std::string(text)) << "\n";
   if (SpeechOn()) out_.flush();  // it is read while it is heard
+}
+
+void CommentaryPrinter::Pause() {
+  out_.flush();
+  std::this_thread::sleep_for(pause_);
 }
 
 }  // namespace tipline::cli

@@ -1,5 +1,6 @@
 #pragma once
 // Commentary on a terminal: the lines as they come, and a score line where the ball changes hands.
+#include <chrono>
 #include <ostream>
 #include <string>
 
@@ -10,17 +11,22 @@ namespace tipline::cli {
 /// Shows the commentary of `game` on `out` while it lives.
 class CommentaryPrinter : private platform::CommentaryBox {
  public:
-  explicit CommentaryPrinter(std::ostream& out) : out_(out) { platform::UseCommentaryBox(this); }
+  /// `pause`: how long it waits behind each stop, and at each ".."; a listener reads meanwhile.
+  explicit CommentaryPrinter(std::ostream& out, std::chrono::milliseconds pause = {})
+      : out_(out), pause_(pause) {
+    platform::UseCommentaryBox(this);
+  }
   ~CommentaryPrinter() override { platform::UseCommentaryBox(nullptr); }
   CommentaryPrinter(const CommentaryPrinter&) = delete;
   CommentaryPrinter& operator=(const CommentaryPrinter&) = delete;
 
  private:
   void Line(std::string_view text, int side, int sound) override;
-  void Pause() override {}
-  void StopShown() override { out_.flush(); }
+  void Pause() override;
+  void StopShown() override { Pause(); }
 
   std::ostream& out_;
+  std::chrono::milliseconds pause_;
   int offense_ = 0, period_ = 0;  ///< whose ball, and when, at the last score line
 };
 

@@ -124,6 +124,7 @@ void AddPlay(CLI::App& app, Arguments& a) {
       "home or jump), such as \"P4 1:30 100-98 home\"");
   play->add_option("--until", a.play.Until,
                    "both sides play alone up to this mark, such as \"end 2\" or \"4th 2:00\"");
+  play->add_flag("--fast", a.play.Fast, "no pauses between the plays at a terminal");
   play->add_flag("--brief", a.play.Brief, "commentary in its short style");
   play->add_flag("--log", a.play.Log, "no commentary: one line a play for a coach, else the box alone");
   play->add_option("--film", a.play.Film, "write the commentary, play by play, to this film file");

@@ -1,6 +1,7 @@
 // One exhibition game: between computers in one go, or coached at the terminal.
 #include <unistd.h>
 
+#include <chrono>
 #include <iostream>
 #include <optional>
 
@@ -70,7 +71,9 @@ void TerminalGame::GameSetupScreen(HCGAMEsetup& screen) {
             << (game.NeutralGame ? " on a neutral court" : ", " + screen.ArenaLabel) << "\n";
   if (screen.PointSpreadLabel != "No Line") std::cout << screen.PointSpreadLabel << "\n";
   const bool told = !quiet_ && !request_.Log;
-  if (told) printer_.emplace(std::cout);
+  // Somebody who watches at a terminal reads with the game: a tenth of a second for each step of the setting.
+  const bool reads = isatty(STDOUT_FILENO) != 0 && !request_.Fast;
+  if (told) printer_.emplace(std::cout, std::chrono::milliseconds(reads ? 100 * setup.PBPdelayscroll : 0));
   if (request_.Speak) {
     TurnNarratorOn();
     speaker_.emplace();
