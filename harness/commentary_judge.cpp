@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
-#include <regex>
+#include <initializer_list>
 
 #include "engine/game_state.h"
 #include "narration/lines.h"
@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::size_t kMostLength = 70;
 constexpr std::size_t kMostExamples = 60;
-
-bool Is(const std::string& line, const std::regex& pattern) { return std::regex_search(line, pattern); }
 
 bool IsLetter(char c) { return std::isalpha(static_cast<unsigned char>(c)) || c == '\''; }
 
@@ -28,22 +26,73 @@ std::size_t FindWord(const std::string& line, const std::string& word) {
   return std::string::npos;
 }
 
-/// A basket, however it is told.
-const std::regex& Good() {
-  static const std::regex pattern(
-      "\\b(scores|scored from|hits (it|the|a)|makes (it|the)|made (it|the)|knocks it down|drains|buries|"
-      "all net|nothing but net|swish|count it|and in\\b|it's good|good!|drops in|gets the roll|slams it home|"
-      "throws it down|banks it in|finishes|converts|for the lead|to tie it)",
-      std::regex::icase);
-  return pattern;
+std::string Lower(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return text;
 }
-const std::regex& Missed() {
-  static const std::regex pattern(
-      "\\b(misses|missed|no good|won't (go|fall|drop)|off the (rim|front|back|heel|iron)|too "
-      "(strong|long|short)|"
-      "short!|air ?ball|rims out|doesn't fall|can't get it|blew|stoned|hoop didn't want it|leaves it short)",
-      std::regex::icase);
-  return pattern;
+
+/// One of the phrases stands in the line, in whole words and in any case.
+bool Tells(const std::string& line, std::initializer_list<const char*> phrases) {
+  const std::string lower = Lower(line);
+  return std::any_of(phrases.begin(), phrases.end(),
+                     [&](const char* phrase) { return FindWord(lower, phrase) != std::string::npos; });
+}
+
+/// A basket, however it is told.
+bool TellsBasket(const std::string& line) {
+  return line == "good" || line == "good!" ||
+         Tells(line,
+               {"scores",          "hits it",       "hits the",       "hits a",      "makes it",  "makes the",
+                "made it",         "made the",      "knocks it down", "drains",      "buries",    "all net",
+                "nothing but net", "swish",         "count it",       "and in",      "it's good", "drops in",
+                "gets the roll",   "slams it home", "throws it down", "banks it in", "finishes",  "converts",
+                "for the lead",    "to tie it"});
+}
+bool TellsMiss(const std::string& line) {
+  return Tells(line, {"misses",         "missed",        "no good",
+                      "won't go",       "won't fall",    "won't drop",
+                      "off the rim",    "off the front", "off the back",
+                      "off the heel",   "off the iron",  "too strong",
+                      "too long",       "too short",     "air ball",
+                      "rims out",       "doesn't fall",  "can't get it",
+                      "blew",           "stoned",        "hoop didn't want it",
+                      "leaves it short"});
+}
+
+int NumberAt(const std::string& line, std::size_t at) {
+  int number = -1;
+  for (; at < line.size() && std::isdigit(static_cast<unsigned char>(line[at])) && number < 10000; ++at)
+    number = (number < 0 ? 0 : number * 10) + (line[at] - '0');
+  return number;
+}
+/// The number that ends in front of place `end`; -1 for none.
+int NumberBefore(const std::string& line, std::size_t end) {
+  std::size_t at = end;
+  while (at > 0 && std::isdigit(static_cast<unsigned char>(line[at - 1]))) --at;
+  return at == end ? -1 : NumberAt(line, at);
+}
+
+/// "a 8-0 run", "an 10-0 run".
+bool WrongArticle(const std::string& line) {
+  for (std::size_t at = 0; at + 2 < line.size(); ++at) {
+    if (line[at] != 'a' || (at > 0 && line[at - 1] != ' ')) continue;
+    const bool an = line[at + 1] == 'n';
+    const int number = line[at + (an ? 2 : 1)] == ' ' ? NumberAt(line, at + (an ? 3 : 2)) : -1;
+    if (number >= 0 && an != (ArticleFor(number) == "an")) return true;
+  }
+  return false;
+}
+
+/// The margin that the line tells, -1 when it tells none.
+int ToldMargin(const std::string& line) {
+  for (const char* words : {"leads by ", "lead by ", "ahead by ", "trails by ", "trail by ", "trailing by ",
+                            "behind by ", "down by "}) {
+    if (const auto at = line.find(words); at != std::string::npos)
+      return NumberAt(line, at + std::char_traits<char>::length(words));
+  }
+  const auto lead = line.find(" point lead");
+  return lead == std::string::npos ? -1 : NumberBefore(line, lead);
 }
 
 bool Made(PlayResult r) { return IsMadeShot(r) || r == "FTG"; }
@@ -83,8 +132,6 @@ void CommentaryJudge::Blame(Blemish blemish, const std::string& line) {
 }
 
 void CommentaryJudge::StopShown() {
-  static const std::regex article("\\b(a (8|11|18|8\\d)\\b|an (?!8|11|18)\\d)");
-  static const std::regex masculine("\\b(he|he's|him|his|himself)\\b", std::regex::icase);
   ++stops;
   for (const std::string& line : stop_) {
     ++lines;
@@ -92,9 +139,9 @@ void CommentaryJudge::StopShown() {
     if (line.size() > kMostLength) Blame(Blemish::kTooLong, line);
     if (line.find("  ") != std::string::npos || line.front() == ' ' || line.back() == ' ')
       Blame(Blemish::kBlanks, line);
-    if (Is(line, article)) Blame(Blemish::kArticle, line);
+    if (WrongArticle(line)) Blame(Blemish::kArticle, line);
     if (line.find_first_of("{}#") != std::string::npos) Blame(Blemish::kUnfilled, line);
-    if (WomensGame() && Is(line, masculine)) Blame(Blemish::kMasculine, line);
+    if (WomensGame() && Tells(line, {"he", "him", "his", "himself"})) Blame(Blemish::kMasculine, line);
     JudgeNumbers(line);
     if (!game.commentary.TellsPlay) continue;
     JudgeResult(line);
@@ -107,8 +154,8 @@ void CommentaryJudge::StopShown() {
 void CommentaryJudge::JudgeResult(const std::string& line) {
   const PlayResult r = game.play.Posted;
   if (game.play.TipIn || r == "OF") return;  // a shot let go behind the whistle does not count
-  if (!Made(r) && Is(line, Good())) Blame(Blemish::kMadeOnMiss, line);
-  if (Made(r) && Is(line, Missed())) Blame(Blemish::kMissOnMade, line);
+  if (!Made(r) && TellsBasket(line)) Blame(Blemish::kMadeOnMiss, line);
+  if (Made(r) && TellsMiss(line)) Blame(Blemish::kMissOnMade, line);
 }
 
 void CommentaryJudge::JudgeNames(const std::string& line) {
@@ -124,15 +171,9 @@ void CommentaryJudge::JudgeNames(const std::string& line) {
 }
 
 void CommentaryJudge::JudgeNumbers(const std::string& line) {
-  static const std::regex lead(
-      "\\b(?:leads?|ahead|trails?|trailing|behind|down) by (\\d+)|(\\d+) point lead");
-  static const std::regex run("(\\d+)-0 run");
-  std::smatch found;
-  if (std::regex_search(line, found, lead)) {
-    const int told = std::stoi(found[1].matched ? found[1].str() : found[2].str());
-    if (told != MarginNow()) Blame(Blemish::kScore, line);
-  }
-  if (std::regex_search(line, found, run) && std::stoi(found[1].str()) != game.RunPoints)
+  if (const int told = ToldMargin(line); told >= 0 && told != MarginNow()) Blame(Blemish::kScore, line);
+  if (const auto run = line.find("-0 run");
+      run != std::string::npos && NumberBefore(line, run) != game.RunPoints)
     Blame(Blemish::kScore, line);
   for (int a = 1; a <= 2; ++a) {  // "Boston 45 Denver 43", leader first
     for (const std::string& first : {PbpTeamName(a), game.team[a].Nickname.Str()}) {
