@@ -1,5 +1,4 @@
 // How varied, how true and how dear the commentary is.
-#include <algorithm>
 #include <ctime>
 #include <iomanip>
 #include <ostream>
@@ -20,7 +19,7 @@ namespace {
 
 double ProcessorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
-/// Plays seeded games of a preset, `visit` before and behind each.
+/// Plays seeded games of a preset, calling before() when one is set up and behind() when it is over.
 template <class Before, class Behind>
 void PlayGames(const char* preset, int year, std::uint64_t seed, int games, Before before, Behind behind) {
   OpenMemoryLeague(preset, year, seed);

@@ -132,7 +132,6 @@ void CommentaryJudge::Blame(Blemish blemish, const std::string& line) {
 }
 
 void CommentaryJudge::StopShown() {
-  ++stops;
   for (const std::string& line : stop_) {
     ++lines;
     ++skeletons[Skeleton(line)];
@@ -171,7 +170,7 @@ void CommentaryJudge::JudgeNames(const std::string& line) {
 }
 
 void CommentaryJudge::JudgeNumbers(const std::string& line) {
-  if (const int told = ToldMargin(line); told >= 0 && told != MarginNow()) Blame(Blemish::kScore, line);
+  if (const int told = ToldMargin(line); told >= 0 && told != Margin()) Blame(Blemish::kScore, line);
   if (const auto run = line.find("-0 run");
       run != std::string::npos && NumberBefore(line, run) != game.RunPoints)
     Blame(Blemish::kScore, line);

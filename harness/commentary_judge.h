@@ -36,7 +36,7 @@ class CommentaryJudge : private platform::CommentaryBox {
   /// Learns the names of both teams; before each game.
   void BeginGame();
 
-  long lines = 0, stops = 0;
+  long lines = 0;
   std::map<Blemish, long> blemishes;
   std::vector<std::string> examples;                ///< the first of each kind, a few
   std::unordered_map<std::string, long> skeletons;  ///< lines without names and numbers, and how often

@@ -12,8 +12,6 @@
 namespace tipline {
 namespace {
 
-int PeriodLength() { return game.Period > league.rules.PeriodList ? FullOvertime() : FullPeriod(); }
-
 /// Tenths played so far, by periods and clock.
 int TimePlayed() {
   const int regulation = std::min(game.Period - 1, static_cast<int>(league.rules.PeriodList));

@@ -12,15 +12,14 @@
 #include "engine/engine.h"
 #include "engine/game_state.h"
 #include "league/player_values.h"
+#include "narration/lines.h"
 
 namespace tipline::cli {
 namespace {
 
 std::string PeriodText() {
   if (game.Period > league.rules.PeriodList) return PeriodName(game.Period);
-  const bool halves = league.rules.PeriodList == 2;
-  constexpr const char* kNth[] = {"th", "st", "nd", "rd"};
-  return Str(game.Period) + kNth[game.Period <= 3 ? game.Period : 0] + (halves ? " half" : "");
+  return OrdinalText(game.Period) + (league.rules.PeriodList == 2 ? " half" : "");
 }
 
 int RatingFor(const PlayerRecord& p, int pick) {

@@ -9,6 +9,9 @@
 
 namespace tipline::cli {
 
+namespace {
+
+/// As the play that is told began: "2nd 4:32   Boston 45   Denver 43".
 std::string PbpScoreLine() {
   const int regular = league.rules.PeriodList;
   std::string period = OrdinalText(game.Period);
@@ -18,6 +21,8 @@ std::string PbpScoreLine() {
   for (int s = 1; s <= 2; ++s) line += "   " + PbpTeamName(s) + " " + std::to_string(game.scene.Score[s]);
   return line;
 }
+
+}  // namespace
 
 void CommentaryPrinter::Line(std::string_view text, int, int) {
   if (game.scene.OffenseSide != offense_ || game.Period != period_) {

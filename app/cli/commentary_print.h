@@ -30,7 +30,4 @@ class CommentaryPrinter : private platform::CommentaryBox {
   int offense_ = 0, period_ = 0;  ///< whose ball, and when, at the last score line
 };
 
-/// As the play that is told began: "2nd 4:32   Boston 45   Denver 43".
-std::string PbpScoreLine();
-
 }  // namespace tipline::cli

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <optional>
 
+#include "base/numbers.h"
 #include "cli/coach_events.h"
 #include "cli/columns.h"
 #include "cli/commands.h"
@@ -35,8 +36,7 @@ void Show(const HCFILM& screen) {
 
 /// False for what is no command, and no play of the film.
 bool Step(const std::string& command, HCFILM& screen) {
-  const bool digits = command.size() <= 4 && command.find_first_not_of("0123456789") == std::string::npos;
-  const int play = digits && !command.empty() ? std::stoi(command) : 0;
+  const int play = NumberIn<int>(command).value_or(0);
   if (command.empty() || command == "n" || command == "next") {
     screen.NextCommand();
   } else if (command == "p" || command == "previous") {
@@ -76,7 +76,8 @@ int ListFilms() {
 }  // namespace
 
 int ShowFilm(const std::string& file, bool speak, const Common& common) {
-  if (!std::filesystem::exists(file) && !OpenTheLeague(common)) return 1;
+  std::error_code error;
+  if (!std::filesystem::exists(file, error) && !OpenTheLeague(common)) return 1;
   if (file.empty()) return ListFilms();
   HCFILM screen;
   if (!screen.Open(file)) return 1;

@@ -82,8 +82,9 @@ int ListLeagues(const Common& common) {
                     ? std::vector<std::string>{"Current", "League", "Kind", "Teams", "Season", "Folder"}
                     : std::vector<std::string>{"<", "<League", "<Kind", "Teams", "<Season", "<Folder"});
   for (const auto& one : known) {
-    const LeagueGlance glance = one.Glance.value_or(LeagueGlance{"can't be opened", "", 0});
-    table.Row({one.Current ? "*" : "", Plain(one.Name), glance.Kind, one.Glance ? Str(glance.Teams) : "",
+    const auto seen = GlanceAt(RealFolder(one.Folder));
+    const LeagueGlance glance = seen.value_or(LeagueGlance{"can't be opened", "", 0});
+    table.Row({one.Current ? "*" : "", Plain(one.Name), glance.Kind, seen ? Str(glance.Teams) : "",
                glance.Season, Plain(one.Folder)});
   }
   table.Print(std::cout, common.Csv);

@@ -80,7 +80,7 @@ bool OpenTheLeague(const Common& common) {
   program.LeagueFolder = folder;
   if (!EnsureEra()) return false;
   const bool rules = LoadRules();
-  LoadAllTeams();
+  if (!LoadAllTeams()) return false;
   LoadLeaguePlayers();
   return (rules || SaveRules()) && CleanUnmarkedFolder();
 }

@@ -3,6 +3,7 @@
 
 #include "cli/columns.h"
 #include "cli/phrase_commands.h"
+#include "cli/speaker.h"
 #include "cli/terminal.h"
 #include "league/program.h"
 #include "league/setup.h"
@@ -148,11 +149,7 @@ int RunPhrases(const CLI::App& app, const PhraseArguments& a, const Common& comm
 }
 
 int RunSay(const CLI::App& app, const PhraseArguments& a) {
-  const auto voice = platform::DesktopVoice();
-  platform::UseVoice(voice.get());
-  const struct Silence {
-    ~Silence() { platform::UseVoice(nullptr); }
-  } atTheEnd;
+  const Speaker speaker(false);  // --voices says itself that there is none
   const auto& say = *app.get_subcommand("say");
   if (a.Voices) return ListVoices();
   if (say.count("--voice") > 0) return ChooseVoice(a.Voice);

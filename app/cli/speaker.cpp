@@ -6,8 +6,8 @@
 
 namespace tipline::cli {
 
-Speaker::Speaker() : voice_(platform::DesktopVoice()) {
-  if (!voice_) std::cerr << "tipline: nothing is spoken, for spd-say is not installed\n";
+Speaker::Speaker(bool tells) : voice_(platform::DesktopVoice()) {
+  if (!voice_ && tells) std::cerr << "tipline: nothing is spoken, for spd-say is not installed\n";
   platform::UseVoice(voice_.get());
 }
 

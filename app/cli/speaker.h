@@ -10,7 +10,7 @@ namespace tipline::cli {
 /// and stays silent.
 class Speaker {
  public:
-  Speaker();
+  explicit Speaker(bool tells = true);  ///< without `tells` nothing is said of a missing voice
   ~Speaker() { platform::UseVoice(nullptr); }
   Speaker(const Speaker&) = delete;
   Speaker& operator=(const Speaker&) = delete;

@@ -32,8 +32,6 @@ void AddLine(StatLine& to, const StatLine& from) {
   Add(to.Flagrant2, from.Flagrant2);
 }
 
-bool FouledOut(const StatLine& line) { return league.rules.DqList > 0 && line.Pf >= league.rules.DqList; }
-
 /// He was on the floor, if only for a free throw.
 bool HasPlayed(int side, int slot) {
   if (ManAt(side, slot).PlayerGameTime > 0) return true;

@@ -64,7 +64,7 @@ extern Random random;       ///< seeded from the clock at start, from --seed or 
 extern Random showRandom;   ///< for what is only for show: no result hangs on it
 extern Random voiceRandom;  ///< for what the voice makes of it: no line that is shown hangs on that
 
-/// Seeds all three, each its own way.
+/// Seeds them: the game by the seed, the two that are only for show alike.
 void SeedRandom(std::uint64_t seed);
 
 inline int Rnd(int n) { return random.Whole(n); }

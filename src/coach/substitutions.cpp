@@ -144,10 +144,9 @@ void NoteChange() {
   if (game.side[1].Lineup == game.side[1].PreviousLineup &&
       game.side[2].Lineup == game.side[2].PreviousLineup)
     return;
-  const bool fullClock = game.GameClock == FullPeriod();
   if (!PeriodOpens()) NarrateLineups();
   if (Watching()) return;
-  if (!fullClock) {
+  if (game.GameClock != FullPeriod()) {
     game.PlayResult = "";
     game.LineupAnnounced = 1;
   }

@@ -34,8 +34,7 @@ bool MustGo(const SubPass& pass, int side, int position) {
   const int slot = game.side[side].Lineup[position];
   PlayerRecord& p = PlayerAt(side, slot);
   if (!IsEligible(side, slot) || StandsEarlier(game.side[side], position)) {
-    const int limit = league.rules.DqList;
-    if (limit > 0 && p.Stats[3].Pf >= limit) ManAt(side, slot).FouledOutFlag = 1;
+    if (FouledOut(p.Stats[3])) ManAt(side, slot).FouledOutFlag = 1;
     return true;
   }
   if (pass.IsShooter(side, slot)) return false;

@@ -18,17 +18,13 @@ int EnergyFromLoad(int load, int length) {
   return Clamp(Round(100 - (load - first) * 20 / (length + 30 - first)), 80, 99);
 }
 
-bool FouledOut(int side, int slot) {
-  return league.rules.DqList > 0 && PlayerAt(side, slot).Stats[3].Pf >= league.rules.DqList;
-}
-
 /// A man on the floor gives a reason to look at the line-ups.
 bool NeedsLook(int side, int position) {
   const int slot = game.side[side].Lineup[position];
   if (slot == 0) return true;
   const Man& man = ManAt(side, slot);
   return man.Energy <= 99 || PlayerAt(side, slot).DepthRank[position] < 6 ||
-         man.PlayerGameTime > LoadedAt(side, slot).PlayLength || FouledOut(side, slot);
+         man.PlayerGameTime > LoadedAt(side, slot).PlayLength || FouledOut(PlayerAt(side, slot).Stats[3]);
 }
 
 bool FoulerInTrouble() {
@@ -140,7 +136,8 @@ void EmptyFouledOut() {
     bool hole = false;
     for (int position = 1; position <= kPositions; ++position) {
       const int slot = s.Lineup[position];
-      if (slot != 0 && (FouledOut(side, slot) || LoadedAt(side, slot).PlayerOut != 0)) s.Lineup[position] = 0;
+      if (slot != 0 && (FouledOut(PlayerAt(side, slot).Stats[3]) || LoadedAt(side, slot).PlayerOut != 0))
+        s.Lineup[position] = 0;
       if (s.Lineup[position] == 0) hole = true;
     }
     refill = refill || SomebodyStandsTwice(s) || (hole && CountEligible(side) >= kPositions);

@@ -6,6 +6,7 @@
 // Positions are 1 (point guard) to 5 (centre); a name that ends in Slot (BallSlot, BlockerSlot) holds such a
 // position. Times are tenths of a second. Chances and weights are thousandths.
 #include <algorithm>
+#include <string>
 
 #include "base/random.h"
 #include "base/tables.h"
@@ -125,6 +126,9 @@ struct Side {
   int IllegalDefenses = 0;
   int FastbreakPoints = 0, BenchPoints = 0, BiggestLead = 0;
   int ExtraPaintPoints = 0, ExtraSecondChancePoints = 0;
+  int PaintPoints = 0,
+      SecondChancePoints = 0;  ///< by the kinds of shots; the box prints both with the extras
+  StatLine TeamLine;           ///< sums of the men, by SumTeamTotals
   i32 TimeSinceScore = 0;
   Table<int, 1, 20> TimeoutsByPeriod{};
   Table<int, 0, 20> TimeoutsByMinute{};
@@ -343,6 +347,13 @@ struct GameRun {
   int AfterPassNoLook = 0;
   int AfterTimeout = 0, TimeoutTaken = 0, TimeoutHandover = 0;
   bool GameStarted = false, GameOver = false, GameDone = false;
+  bool TeamTotalsAdded = false;  ///< the team lines are in the season's totals
+  bool BoxRebuild = false;       ///< the team records count this game already
+  bool InTheBooks = false;       ///< FinishGame has kept the game in the league's files
+  int MvpSide = 0, MvpSlot = 0;  ///< the game's most valuable player, 0 none yet
+  int SpreadPoints = 0;          ///< expected margin, above 0 the visitor by so many
+  int TickerStamp = 0;           ///< rises with every entry of the ticker
+  std::string TickerRows;        ///< entries of this game, kept with its books
   int PeriodStart = 0;
   int OpeningTipWinner = 0;  ///< side, 0 unset
   int PossessionArrow = 0;   ///< side, 0 unset
@@ -355,8 +366,9 @@ struct GameRun {
   int MomentumTime = 0;  ///< 600 after a timeout; TimeoutFocus acts while it is above 0
   int MomentumMark = 0;
   int LastSubClock = 99999;
-  int Tension = 0;          ///< hard fouls since the game or the last fight began
-  int InjuryListChars = 0;  ///< length of the list of men hurt in this game
+  int Tension = 0;  ///< hard fouls since the game or the last fight began
+  /// Men of the box's last lines, each "<name>, ".
+  std::string InjuryNames, TechnicalNames, EjectionNames, FlagrantNames;
   int LineupAnnounced = 0;  ///< 1 = the last stop brought a line-up change
   tipline::PlayKind LastShotKind;
   int SecondChance = 0;  ///< 1 = this possession had an offensive rebound
@@ -451,15 +463,18 @@ auto& DoubleOf(auto& man, int pick) {
 inline bool LastPeriod() { return game.Period >= league.rules.PeriodList; }
 inline int FullPeriod() { return league.rules.MinuteList * kMinute; }
 inline int FullOvertime() { return std::max<int>(league.rules.OverTimeList, 1) * kMinute; }
+/// Of the period that is played, in tenths.
+inline int PeriodLength() { return game.Period > league.rules.PeriodList ? FullOvertime() : FullPeriod(); }
 /// The clock stands at the start of a period, regulation or overtime.
-inline bool PeriodOpens() {
-  return game.GameClock == (game.Period > league.rules.PeriodList ? FullOvertime() : FullPeriod());
-}
+inline bool PeriodOpens() { return game.GameClock == PeriodLength(); }
 inline int FullShotClock() {
   return league.rules.ShotClockList == 0 ? kNoShotClock : league.rules.ShotClockList * 10;
 }
 /// Both sides run unattended up to a mark, in a game that is watched.
 inline bool Watching() { return game.WatchUntil != "NONE"; }
+inline bool FouledOut(const StatLine& line) {
+  return league.rules.DqList > 0 && line.Pf >= league.rules.DqList;
+}
 /// Absolute difference of the scores.
 inline int Margin() {
   const int d = game.side[1].Score - game.side[2].Score;

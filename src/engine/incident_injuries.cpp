@@ -120,7 +120,7 @@ int DrawLength(int side, int slot) {
 /// How far the list of the men hurt today has grown, and what it spares the others.
 bool EnoughHurt() {
   for (const int chars : {20, 40, 60}) {
-    if (game.InjuryListChars > chars && Rnd(10) <= 9) return true;
+    if (static_cast<int>(game.InjuryNames.size()) > chars && Rnd(10) <= 9) return true;
   }
   return false;
 }
@@ -157,7 +157,7 @@ void CarryOutInjury() {
   KeepOnRecord(p, side, length, word);
   LoadedAt(side, slot).PlayerOut = 1;
   ManAt(side, slot).GameInjury = 1;
-  game.InjuryListChars += static_cast<int>(p.LastName.View().size()) + 2;
+  game.InjuryNames += p.LastName.Str() + ", ";
   AddPlayLog(game.GameClock, side, slot, "", "TIMEOUT", kInjuryNote);
   LeaveFloor(side, slot);
   StopForIncident();

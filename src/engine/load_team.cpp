@@ -105,10 +105,8 @@ void ReadySide(int side) {
 bool SaveTeam(int teamNo, int side) {
   if (teamNo < 1 || teamNo > kTeams || game.GameTeam[side] != teamNo) return false;
   // The final of the in-season cup does not count.
-  const int row = game.ScheduleRow;
-  if (row > 0 && row <= league.GameCount() &&
-      league.ScheduleGame[static_cast<std::size_t>(row)].GameType == 'C')
-    return true;
+  const ScheduleRecord* row = league.Row(game.ScheduleRow);
+  if (row && row->GameType == 'C') return true;
   Roster roster;
   roster.TeamNo = teamNo;
   roster.team = game.team[side];

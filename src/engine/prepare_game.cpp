@@ -7,6 +7,7 @@
 #include "engine/engine.h"
 #include "engine/fatigue.h"
 #include "engine/game_state.h"
+#include "engine/point_spread.h"
 #include "engine/weights.h"
 #include "league/shot_splits.h"
 
@@ -41,6 +42,8 @@ void PrepareGame() {
     game.team[s].TeamRebounds[3] = 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) ClearGameLine(PlayerAt(s, slot));
   }
+  game.SpreadPoints = PointSpread().points;
+  game.TickerStamp = game.team[2].ArenaAge * 12 + 1;
   const int nerve = Rnd(4);
   game.RunOffset = nerve - Rnd(4);
   CalibrateLeague();

@@ -42,7 +42,9 @@ std::filesystem::path NewFile(std::string_view typed) {
 
 /// The spare copy follows the schedule that becomes current, so that it never fills another one's empty file.
 bool FollowWithSpare(const std::filesystem::path& file) {
-  return Written(WriteWholeFile(SpareSchedule(), ReadWholeFile(file)), SpareSchedule());
+  bool read = false;
+  const std::string bytes = ReadWholeFile(file, &read);
+  return WasRead(read, file) && Written(WriteWholeFile(SpareSchedule(), bytes), SpareSchedule());
 }
 
 /// The rules name the current schedule; false, told and as before, when they can't be written.

@@ -8,8 +8,6 @@
 namespace tipline {
 namespace {
 
-constexpr u8 kCleared = 99;
-
 RecordFile Daily() { return {DailyFile(), kDailySlotBytes}; }
 
 }  // namespace
@@ -18,14 +16,14 @@ bool ReadDailies(std::span<const int> rows, std::span<DailyRecord> dailies) {
   return Daily().ReadSlots(rows, [&dailies](std::size_t k, const u8* bytes) {
     DailyRecord& daily = dailies[k];
     ReadRecord(bytes, daily);
-    if (daily.DailyMark != kCleared) daily = {};
-    daily.DailyMark = kCleared;
+    if (daily.DailyMark != DailyRecord::kSetMark) daily = {};
+    daily.DailyMark = DailyRecord::kSetMark;
   });
 }
 
 bool ReadDaily(int recNo, DailyRecord& daily) {
   daily = {};
-  daily.DailyMark = kCleared;
+  daily.DailyMark = DailyRecord::kSetMark;
   return ReadDailies({&recNo, 1}, {&daily, 1});
 }
 

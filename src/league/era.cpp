@@ -100,7 +100,7 @@ bool LoadEra() {
 
 bool SaveEra() {
   const RecordFile file(EraFile(), kEraSlotBytes);
-  const bool written = file.RewriteAll(std::max(kEraRecords, file.Count()), [](int record, u8* bytes) {
+  const bool written = file.RewriteAll(kEraRecords, [](int record, u8* bytes) {
     if (const EraRecord* row = RowOfRecord(record)) WriteRecord(*row, bytes);
   });
   return Written(written, file.Path());

@@ -100,8 +100,7 @@ void LoadLeaguePlayers() {
 
 bool SaveAllTeams() {
   const auto file = Teams();
-  const int slots = std::max(kTeams, file.Count());
-  const bool written = file.RewriteAll(slots, [](int team, u8* bytes) {
+  const bool written = file.RewriteAll(kTeams, [](int team, u8* bytes) {
     if (IsTeamSlot(team)) WriteRecord(league.team[team], bytes);
   });
   return Written(written, TeamsFile());

@@ -32,7 +32,7 @@ bool RowMakesSense(const EraRecord& row) {
 std::string LeagueFault(const std::filesystem::path& folder) {
   const RecordFile teams(folder / "HCTEAMS", kTeamSlotBytes);
   if (!teams.Exists()) return teams.Path().string() + " is missing.";
-  for (const char* name : {"HCTEAMS", "HCPLAYER", "HCgameplan", "HcDaily"}) {
+  for (const char* name : {"HCTEAMS", "HCPLAYER", "HCgameplan", "HcDaily", "HCRULES"}) {
     if (auto fault = RecordFile(folder / name, 1).Fault(); !fault.empty()) return fault;
   }
   bool found = false;

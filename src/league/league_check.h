@@ -6,9 +6,9 @@
 
 namespace tipline {
 
-/// Why a folder can't be opened as a league: there are no teams in it, or teams, players, plans or days off
-/// can't be read: repairs would put nobody in their place. Empty when it can; whatever else its files lack is
-/// repaired. Reads only, but for changes that were cut short and are undone.
+/// Why a folder can't be opened as a league: there are no teams in it, or teams, players, plans, days off or
+/// rules can't be read: repairs would put nobody, or defaults, in their place. Empty when it can; whatever
+/// else its files lack is repaired. Reads only, but for changes that were cut short and are undone.
 std::string LeagueFault(const std::filesystem::path& folder);
 
 /// What is wrong with the files of a league, alone and against each other, and what its opening would repair,

@@ -54,7 +54,7 @@ bool CleanTeam(int teamNo, InUse& inUse) {
 bool EmptyUnusedRows(const InUse& inUse) {
   const RecordFile file(PlayersFile(), kPlayerSlotBytes);
   if (!file.Exists()) return true;
-  const bool written = file.RewriteAll(file.Count(), [&inUse](int row, u8* bytes) {
+  const bool written = file.RewriteAll(0, [&inUse](int row, u8* bytes) {
     if (static_cast<std::size_t>(row) >= inUse.size() || inUse[static_cast<std::size_t>(row)]) return;
     PlayerRecord player;
     ReadRecord(bytes, player);

@@ -58,8 +58,7 @@ std::vector<KnownLeague> KnownLeagues() {
     const std::string folder = Normalised(entry);
     const auto same = [&folder](const KnownLeague& other) { return SameText(other.Folder, folder); };
     if (SameText(folder, SeasonsRoot()) || std::any_of(known.begin(), known.end(), same)) return;
-    known.push_back({NameIn(folder), folder, recent, SameText(folder, program.RecentList.front()),
-                     GlanceAt(RealFolder(folder))});
+    known.push_back({NameIn(folder), folder, recent, SameText(folder, program.RecentList.front())});
   };
   for (const auto& entry : program.RecentList) add(entry, true);
   for (const auto& name : SeasonNames()) {

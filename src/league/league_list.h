@@ -22,7 +22,6 @@ struct KnownLeague {
   std::string Folder;  ///< text of the data tree, which ends in a separator
   bool Recent = false;
   bool Current = false;
-  std::optional<LeagueGlance> Glance;  ///< nothing for a recent league that is gone, or a damaged one
 };
 
 /// The recent leagues, the current one first, then the others of the seasons root by name. Reads the recent

@@ -26,7 +26,7 @@ bool Truncate(std::string_view name) {
 
 bool ZeroPlayers(bool realLifeToo) {
   const RecordFile file(PlayersFile(), kPlayerSlotBytes);
-  const bool written = file.RewriteAll(file.Count(), [realLifeToo](int, u8* bytes) {
+  const bool written = file.RewriteAll(0, [realLifeToo](int, u8* bytes) {
     PlayerRecord player;
     ReadRecord(bytes, player);
     ZeroPlayer(player, 2);

@@ -10,8 +10,7 @@ namespace {
 
 bool WriteTeams(const std::set<int>& teams) {
   const RecordFile file(TeamsFile(), kTeamSlotBytes);
-  const int slots = std::max(file.Count(), *teams.rbegin());
-  const bool written = file.RewriteAll(slots, [&teams](int team, u8* bytes) {
+  const bool written = file.RewriteAll(*teams.rbegin(), [&teams](int team, u8* bytes) {
     if (teams.contains(team)) WriteRecord(league.team[team], bytes);
   });
   return Written(written, file.Path());

@@ -29,6 +29,11 @@ struct Program {
   TranslationTable Translate;           ///< how the voice says names, read at its first use
   std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
   tipline::GameKind GameKind;
+  std::string BoxFileName;     ///< current box file of the league folder
+  bool BoxRecordOnly = false;  ///< a load of a box restores no more than the scoring log
+  bool ResumingGame = false;   ///< a load of a box does not add its lines to the season lines
+  std::string LastFilmFile;    ///< film of the last game that left one
+  std::string ReportName;      ///< what stands in the report file
   bool PlayoffGame = false;
   int CurrentRound = 0;        ///< playoff round 1 to 4, 0 none
   bool ScenarioGame = false;   ///< the team pick screen sets up a scenario

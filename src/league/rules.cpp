@@ -59,7 +59,7 @@ bool LoadRules() {
 bool SaveRules() {
   RaiseFoulLimits(league.rules);
   const RecordFile file(RulesFile(), kRulesSlotBytes);
-  const bool written = file.RewriteAll(std::max(2, file.Count()), [](int n, u8* bytes) {
+  const bool written = file.RewriteAll(2, [](int n, u8* bytes) {
     if (n == 1) WriteRecord(league.rules, bytes);
     if (n == 2)
       std::copy_n(league.tournamentPools.begin(),

@@ -29,13 +29,14 @@ bool MakeReady(const std::filesystem::path& file) {
   if (file.empty()) return false;
   std::error_code error;
   if (!std::filesystem::exists(file, error) && !Written(WriteWholeFile(file, ""), file)) return false;
-  if (!std::filesystem::is_regular_file(file, error) || !std::ifstream(file)) {
+  if (!std::filesystem::is_regular_file(file, error) ||
+      !RecordFile(file, kScheduleSlotBytes).Fault().empty()) {
     return WasRead(false, file);
   }
   return Heal(file);
 }
 
-void ReadRows(const std::filesystem::path& file) {
+bool ReadRows(const std::filesystem::path& file) {
   const double rows = static_cast<double>(SizeOf(file)) / kScheduleSlotBytes + 0.75;
   if (rows >= kMostScheduleRows + 1) {
     platform::dialogs().Tell(file.filename().string() + " holds more than " +
@@ -43,9 +44,11 @@ void ReadRows(const std::filesystem::path& file) {
   }
   const int count = std::min(Int(rows), kMostScheduleRows);
   league.ScheduleGame.resize(static_cast<std::size_t>(count) + 1);
-  RecordFile(file, kScheduleSlotBytes).ReadAll(count, [](int n, const u8* bytes) {
+  const bool read = RecordFile(file, kScheduleSlotBytes).ReadAll(count, [](int n, const u8* bytes) {
     ReadRecord(bytes, league.ScheduleGame[static_cast<std::size_t>(n)]);
   });
+  if (!read) league.ScheduleGame.resize(1);
+  return WasRead(read, file);
 }
 
 /// Number of a game type; what is no type is a game of the regular season.
@@ -99,8 +102,7 @@ bool LoadSchedule() {
   league.ScheduleYear = 2000;
   league.HasAugustGames = league.HasSeptemberGames = false;
   const auto file = ScheduleFile();
-  if (!MakeReady(file)) return false;
-  ReadRows(file);
+  if (!MakeReady(file) || !ReadRows(file)) return false;
   if (league.GameCount() > 0) {
     const int year = league.ScheduleGame[1].Year;
     if (year >= 1900 && year <= 2100) league.ScheduleYear = year;

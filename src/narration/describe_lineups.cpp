@@ -36,7 +36,7 @@ int FreshMen(int side) {
 }
 
 bool IsLineChange(int side) {
-  const int fresh = FreshMen(side), margin = MarginNow();
+  const int fresh = FreshMen(side), margin = Margin();
   if (fresh == kPositions) return true;
   if (fresh < 4) return false;
   return margin >= 25 || (margin >= 15 && LastPeriod() && game.GameClock < 1800);
@@ -123,13 +123,9 @@ void TellExit(int side, int slot) {
   WrapLine(NameOf(side, slot) + " " + Pick(kExits), parts);
 }
 
-bool HasFouledOut(int side, int slot) {
-  return league.rules.DqList > 0 && PlayerAt(side, slot).Stats[3].Pf >= league.rules.DqList;
-}
-
 /// His day is done: fouled out, or his side needs him no more.
 bool DayIsDone(int side, int slot) {
-  if (HasFouledOut(side, slot)) return true;
+  if (FouledOut(PlayerAt(side, slot).Stats[3])) return true;
   return game.Blowout == 1 && LastPeriod() && game.GameClock < 3000 &&
          PointsOf(PlayerAt(side, slot).Stats[3]) >= 10;
 }

@@ -72,7 +72,7 @@ void TellLeaders() {
 
 void TellMargin() {
   const std::string who = PbpTeamName(Leader());
-  if (MarginNow() >= 15) Say(kRout, {.who = who, .number = MarginNow()});
+  if (Margin() >= 15) Say(kRout, {.who = who, .number = Margin()});
 }
 
 void TellLed() {
@@ -85,7 +85,7 @@ void TellLed() {
 }
 
 void Farewell() {
-  if (MarginNow() <= 2) Say(kEndRemark);
+  if (Margin() <= 2) Say(kEndRemark);
   if (!WonIt() || BallName().empty() || game.NeutralGame) return;
   if (scene().OffenseSide == 2) {
     NewLine(BallName() + " sends them home happy!");

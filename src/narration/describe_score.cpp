@@ -28,7 +28,7 @@ bool TimeForTheScore() {
 
 bool Decided() {
   if (!LastPeriod()) return false;
-  return (ClockLeft() < 600 && MarginNow() >= 5) || (ClockLeft() < 1800 && MarginNow() >= 10);
+  return (ClockLeft() < 600 && Margin() >= 5) || (ClockLeft() < 1800 && Margin() >= 10);
 }
 
 /// The result counts as one line: what was said on the way to it is over.
@@ -67,10 +67,10 @@ std::string ExactScore() {
 
 std::string LeadText() {
   const int side = scene().OffenseSide;
-  if (MarginNow() == 0) return Pick(kTieGame, {.number = game.side[1].Score});
+  if (Margin() == 0) return Pick(kTieGame, {.number = game.side[1].Score});
   const std::string nick = PluralNickname(side);
   const std::string who = !nick.empty() && OneIn(2) ? nick : PbpTeamName(side);
-  const Cast cast{.who = who, .number = MarginNow()};
+  const Cast cast{.who = who, .number = Margin()};
   const int ladder = ShowRnd(10);
   if (!Ahead(side)) return Pick(ladder > 5 ? kBehindBy : IsPlural(who) ? kTrailBy : kTrailsBy, cast);
   if (ladder <= 3) return Pick(IsPlural(who) ? kLeadBy : kLeadsBy, cast);
@@ -79,7 +79,7 @@ std::string LeadText() {
 
 /// Whether the lead is worth a line now.
 bool LeadIsDue() {
-  const int margin = MarginNow();
+  const int margin = Margin();
   if (game.Period < 3 && OneIn(2)) return true;
   if (game.Period >= 3 && margin > 15 + ShowRnd(5) && OneIn(3)) return true;
   if (game.Period == 1 && margin < 5 + ShowRnd(5)) return true;

@@ -72,14 +72,15 @@ void AddFilmFrames() {
 bool SaveFilm(const std::filesystem::path& file) {
   auto& film = game.commentary.Film;
   if (film.empty()) return platform::RefusedWith("There is no film of this game.");
-  const RecordFile out(file, kFilmSlotBytes);
-  const bool written = out.RewriteAll(static_cast<int>(film.size()), [&film](int n, u8* slot) {
-    FilmFrame& frame = film[static_cast<std::size_t>(n - 1)];
+  // A film keeps nothing of an older one.
+  std::string bytes(film.size() * kFilmSlotBytes, '\0');
+  auto* slot = reinterpret_cast<u8*>(bytes.data());
+  for (FilmFrame& frame : film) {
     frame.FilmVersion = kFilmVersion;
-    std::fill(slot, slot + kFilmSlotBytes, u8{0});
     WriteRecord(frame, slot);
-  });
-  return written || platform::RefusedWith("The film can't be written: " + file.string());
+    slot += kFilmSlotBytes;
+  }
+  return WriteWholeFile(file, bytes) || platform::RefusedWith("The film can't be written: " + file.string());
 }
 
 Film ReadFilm(const std::filesystem::path& file) {

@@ -7,7 +7,7 @@ namespace tipline::whistles {
 // clang-format off
 inline bool Misfires() { return ShooterLine().FTA >= 3 && ShooterLine().FTM == 0; }
 inline bool Flawless() { return ShooterLine().FTA >= 6 && ShooterLine().FTM == ShooterLine().FTA; }
-inline bool TiesIt() { return LateAndClose() && MarginNow() == 0; }
+inline bool TiesIt() { return LateAndClose() && Margin() == 0; }
 inline bool TakesTheLead() { return LateAndClose() && Lead(scene().OffenseSide) == 1; }
 
 inline constexpr Saying kBriefMakeSayings[] = {{"{ball} makes the free throw"}};

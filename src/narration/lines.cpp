@@ -227,6 +227,4 @@ bool Add(const Family& family, const Cast& cast) {
 
 bool WomensGame() { return game.team[1].TeamSex == 'W'; }
 
-int MarginNow() { return std::abs(game.side[1].Score - game.side[2].Score); }
-
 }  // namespace tipline

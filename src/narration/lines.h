@@ -103,7 +103,6 @@ inline bool OneIn(int n) { return ShowRnd(n) == 1; }
 inline const Scene& scene() { return game.scene; }
 inline bool Brief() { return setup.PBPOption == 1; }
 bool WomensGame();  ///< the lines are turned to a woman's
-int MarginNow();    ///< of the present score
 inline bool Scored() { return IsMadeShot(game.play.Posted); }
 inline const PlayerRecord& BallMan() { return game.player[game.scene.OffenseSide][game.scene.BallPlayer]; }
 inline Side& OffenseThen() { return game.side[game.scene.OffenseSide]; }

@@ -78,6 +78,7 @@ void LoadPhraseTable() {
 bool SavePhraseTable() {
   const RecordFile file(PhraseFile(setup.PhraseFileName.View()), kPhraseSlotBytes);
   const bool written = file.RewriteAll(kCells, [](int n, u8* bytes) {
+    if (n > kCells) return;  // what stands behind the table stays
     WriteRecord(PhraseRecord{program.Phrases.Cells[static_cast<std::size_t>(n - 1)]}, bytes);
   });
   return Written(written, file.Path());

@@ -38,7 +38,7 @@ std::string LedBy(int side) {
              side, [](const StatLine& s) { return int{s.Ast}; }, "", " assists ");
 }
 
-bool FinalHorn() { return LastPeriod() && MarginNow() > 0; }
+bool FinalHorn() { return LastPeriod() && Margin() > 0; }
 
 /// What precedes the score, by the period that has ended.
 std::string_view ScoreOpening() {

@@ -12,7 +12,7 @@ inline bool FromThePass() {
          play.ExtraPass || scene().Possession.PassFirst || Lobbed();
 }
 inline bool OffTheDribble() { return !FromThePass(); }
-inline bool FewMinutesLeft() { return LastPeriod() && scene().GameClock < 1200 && MarginNow() <= 5; }
+inline bool FewMinutesLeft() { return LastPeriod() && scene().GameClock < 1200 && Margin() <= 5; }
 
 inline constexpr Saying kBriefStealSayings[] = {{"{stealer} steals it from {who}"}};
 inline constexpr Saying kPassSayings[] = {

@@ -37,7 +37,7 @@ inline bool Guard() { return scene().BallSlot == 1 || scene().BallSlot == 2; }
 inline bool BigMan() { return scene().BallSlot >= 4; }
 inline bool FullCourtPressure() { return DefenseThen().Pressure >= 3; }
 inline bool SetOffense() { return !Running() && !OnTheBoards(); }
-inline bool LateAndClose() { return LastPeriod() && scene().GameClock < 3000 && MarginNow() <= 3; }
+inline bool LateAndClose() { return LastPeriod() && scene().GameClock < 3000 && Margin() <= 3; }
 
 // Fouls.
 inline bool HardFoul() { return game.Tension > scene().Tension; }
@@ -61,7 +61,7 @@ inline bool BadAtTheLine() {
   return real.FTA > 20 && 10 * real.FTM < 6 * real.FTA;
 }
 inline bool OneFoulLeft() { return league.rules.DqList > 0 && FoulerLine().Pf == league.rules.DqList - 1; }
-inline bool FouledOut() { return league.rules.DqList > 0 && FoulerLine().Pf >= league.rules.DqList; }
+inline bool FouledOut() { return tipline::FouledOut(FoulerLine()); }
 inline bool MayFoulOn() { return !FouledOut(); }
 /// More fouls than a coach likes to see by now.
 inline bool FoulTrouble() {

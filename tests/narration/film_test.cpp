@@ -25,7 +25,10 @@ TEST(Films, KeepWhatWasTold) {
     if (play == 3) PauseLine();
     AddFilmFrames();
   }
+  ASSERT_TRUE(WriteWholeFile(program.Home / "a.FLM", std::string(3'000'000, 'z')));
   ASSERT_TRUE(SaveFilm(program.Home / "a.FLM"));
+  EXPECT_EQ(std::filesystem::file_size(program.Home / "a.FLM"), 1'000'000u)
+      << "nothing of a longer one stays";
   EXPECT_EQ(HCGameFilmsList().Files, std::vector<std::string>{"a.FLM"});
   HCFILM screen;
   ASSERT_TRUE(screen.Open("a.FLM"));
