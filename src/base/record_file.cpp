@@ -1,8 +1,10 @@
 #include "base/record_file.h"
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 
+#include "base/group_save.h"
 #include "base/undo_journal.h"
 
 namespace tipline {
@@ -11,44 +13,63 @@ namespace {
 using platform::FileHandle;
 using platform::Opening;
 
-/// What the file holds from there on, zeros behind its end or without a file. False on an error.
-bool Fill(const FileHandle& file, long long offset, std::span<u8> bytes) {
-  const long long got = file.Open() ? file.ReadUpTo(offset, bytes.data(), bytes.size()) : 0;
-  std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(std::max(got, 0LL)), bytes.end(), u8{0});
-  return got >= 0;
+/// A file as a reader sees it: with what a group save under way has gathered for it.
+class View {
+ public:
+  explicit View(const std::filesystem::path& path)
+      : gathered_(Gathered(path)), file_(OpenToRead(path, &ok_)) {}
+
+  bool Ok() const { return ok_; }
+  bool There() const { return file_.Open() || gathered_; }
+  long long Length() const {
+    const long long length = file_.Open() ? std::max(file_.Length(), 0LL) : 0;
+    return gathered_ ? gathered_->LengthOver(length) : length;
+  }
+  /// What the file holds from there on, zeros behind its end or without a file. False on an error.
+  bool Fill(long long offset, std::span<u8> bytes) const {
+    long long got = file_.Open() ? file_.ReadUpTo(offset, bytes.data(), bytes.size()) : 0;
+    const bool read = got >= 0;
+    got = std::max(got, 0LL);
+    if (gathered_) got = gathered_->Over(offset, bytes.data(), bytes.size(), got);
+    std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(got), bytes.end(), u8{0});
+    return read;
+  }
+  std::string All(bool* read) const {
+    if (!gathered_) return file_.Open() ? file_.ReadAll(read) : "";
+    std::string bytes(static_cast<std::size_t>(Length()), '\0');
+    *read = Fill(0, {reinterpret_cast<u8*>(bytes.data()), bytes.size()});
+    return bytes;
+  }
+
+ private:
+  bool ok_ = false;
+  const GatheredFile* gathered_;
+  FileHandle file_;
+};
+
+/// By the only saver of the file.
+bool Replace(const std::filesystem::path& path, std::string_view bytes, Saving saving) {
+  if (!WriteBeside(path, bytes, saving)) return false;
+  if (TakePlace(path)) return true;
+  DropBeside(path);
+  return false;
 }
 
-/// By the only saver of the file: the temporary one is his.
-bool Replace(const std::filesystem::path& path, std::string_view bytes, Saving saving) {
-  auto temporary = path;
-  temporary += ".new";
-  std::error_code error;
-  {
-    FileHandle out(temporary, Opening::kOver);
-    if (!out.Open()) return false;
-    bool whole = out.WriteAt(0, reinterpret_cast<const u8*>(bytes.data()), bytes.size());
-    whole = whole && (saving == Saving::kUnflushed || out.Flush());
-    whole = out.Close() && whole;
-    if (whole) std::filesystem::rename(temporary, path, error);
-    if (whole && !error) return true;
-  }
-  std::filesystem::remove(temporary, error);
-  return false;
+/// In the group under way, or at once.
+bool Change(const std::filesystem::path& path, std::vector<FilePiece> pieces, long long end) {
+  return Gathering() ? Gather(path, std::move(pieces), end) : ChangeInPlace(path, pieces, end);
 }
 
 }  // namespace
 
 bool RecordFile::Exists() const {
+  if (Gathered(path_)) return true;
   UndoUnfinished(path_);
   std::error_code error;
   return std::filesystem::is_regular_file(path_, error);
 }
 
-long long RecordFile::Bytes() const {
-  bool ok = false;
-  const FileHandle file = OpenToRead(path_, &ok);
-  return file.Open() ? std::max(file.Length(), 0LL) : 0;
-}
+long long RecordFile::Bytes() const { return View(path_).Length(); }
 
 std::string RecordFile::Fault() const {
   u8 first = 0;
@@ -58,19 +79,22 @@ std::string RecordFile::Fault() const {
 }
 
 bool RecordFile::ReadBytes(int n, std::span<u8> bytes) const {
-  bool ok = true;
-  const FileHandle file = n < 1 ? FileHandle() : OpenToRead(path_, &ok);
-  return Fill(file, (n - 1LL) * slot_, bytes) && ok;
+  if (n >= 1) {
+    const View file(path_);
+    return file.Fill((n - 1LL) * slot_, bytes) && file.Ok();
+  }
+  std::fill(bytes.begin(), bytes.end(), u8{0});
+  return true;
 }
 
 bool RecordFile::ReadSlots(std::span<const int> numbers,
                            const std::function<void(std::size_t, const u8*)>& visit) const {
   std::vector<u8> bytes(static_cast<std::size_t>(slot_));
-  bool ok = false;
-  const FileHandle file = OpenToRead(path_, &ok);
+  const View file(path_);
+  bool ok = file.Ok();
   for (std::size_t k = 0; ok && k < numbers.size(); ++k) {
     if (numbers[k] < 1) continue;
-    ok = Fill(file, (numbers[k] - 1LL) * slot_, bytes);
+    ok = file.Fill((numbers[k] - 1LL) * slot_, bytes);
     if (ok) visit(k, bytes.data());
   }
   return ok;
@@ -84,17 +108,17 @@ bool RecordFile::WriteSlots(const Slots& slots) const {
     pieces.push_back({(n - 1LL) * slot_, bytes});
     end = std::max(end, static_cast<long long>(n) * slot_);
   }
-  return pieces.empty() || ChangeInPlace(path_, pieces, end);
+  return pieces.empty() || Change(path_, std::move(pieces), end);
 }
 
 bool RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& visit) const {
   constexpr int kSlotsAtOnce = 64;
   const auto slot = static_cast<std::size_t>(slot_);
   std::vector<u8> buffer(slot * kSlotsAtOnce);
-  bool ok = false;
-  const FileHandle file = OpenToRead(path_, &ok);
+  const View file(path_);
+  bool ok = file.Ok();
   for (int n = 1; n <= count; n += kSlotsAtOnce) {
-    ok = Fill(file, (n - 1LL) * slot_, buffer) && ok;
+    ok = file.Fill((n - 1LL) * slot_, buffer) && ok;
     for (int k = 0; k < kSlotsAtOnce && n + k <= count; ++k) {
       visit(n + k, buffer.data() + slot * static_cast<std::size_t>(k));
     }
@@ -104,31 +128,51 @@ bool RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& v
 
 bool RecordFile::RewriteAll(int count, const std::function<void(int, u8*)>& fill) const {
   const auto slot = static_cast<std::size_t>(slot_);
-  const SoleSaver saver(path_);
-  if (!saver.Holds()) return false;
-  const FileHandle old(path_, Opening::kRead);
-  bool read = old.Missing();
-  std::string bytes = old.Open() ? old.ReadAll(&read) : "";
-  if (!read) return false;
+  std::optional<SoleSaver> saver;
+  if (!Gathering()) saver.emplace(path_);
+  if (saver && !saver->Holds()) return false;
+  std::string bytes;
+  if (!ReadToRewrite(bytes)) return false;
   const std::size_t slots = std::max((bytes.size() + slot / 2) / slot, static_cast<std::size_t>(count));
   bytes.resize(slot * slots, '\0');
   for (std::size_t k = 0; k < slots; ++k) {
     fill(static_cast<int>(k) + 1, reinterpret_cast<u8*>(bytes.data()) + slot * k);
   }
-  return Replace(path_, bytes, Saving::kFlushed);
+  return saver ? Replace(path_, bytes, Saving::kFlushed) : GatherWhole(path_, std::move(bytes));
+}
+
+/// The old bytes, by the saver who holds the file or within a group; empty where there is no file.
+bool RecordFile::ReadToRewrite(std::string& bytes) const {
+  bool read = true;
+  if (Gathering()) {
+    const View file(path_);
+    if (file.There()) bytes = file.All(&read);
+    return file.Ok() && read;
+  }
+  const FileHandle old(path_, Opening::kRead);
+  read = old.Missing();
+  if (old.Open()) bytes = old.ReadAll(&read);
+  return read;
 }
 
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok) {
+  const View file(path);
   bool read = false;
-  const FileHandle file = OpenToRead(path, &read);
-  const std::string bytes = file.Open() ? file.ReadAll(&read) : "";
-  if (ok) *ok = file.Open() && read;
+  const std::string bytes = file.There() ? file.All(&read) : "";
+  if (ok) *ok = file.Ok() && read;
   return bytes;
 }
 
 bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes, Saving saving) {
+  if (Gathering()) return GatherWhole(path, std::string(bytes));
   const SoleSaver saver(path);
   return saver.Holds() && Replace(path, bytes, saving);
+}
+
+bool AppendToFile(const std::filesystem::path& path, std::string_view bytes) {
+  const long long end = View(path).Length();
+  FilePiece piece{end, {bytes.begin(), bytes.end()}};
+  return Change(path, {std::move(piece)}, end + static_cast<long long>(bytes.size()));
 }
 
 }  // namespace tipline

@@ -3,6 +3,7 @@
 // its slot. A file is open for the length of one operation only. Whenever the program is killed, or the disk
 // is full, a file holds all that an operation writes or nothing of it. Two programs at the same file change
 // it one after the other, and neither reads a half change; no operation waits for the other one for long.
+// Within a group save (base/group_save.h) writes are gathered, and reads see them.
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "base/record.h"
+#include "base/replace_file.h"
 
 namespace tipline {
 
@@ -60,7 +62,7 @@ class RecordFile {
   /// rest.
   bool ReadAll(int count, const std::function<void(int, const u8*)>& visit) const;
 
-  /// Writes slots 1 to `count`, or to the last one where the file has more, in one pass: fill(n, bytes) gets
+  /// Writes slots 1 to `count`, and all that the file has beyond them, in one pass: fill(n, bytes) gets
   /// each slot as it stands (zeros where new) and changes it, but reads and writes no file of this name. The
   /// new file, which ends behind the last slot, replaces the old one in one step. False, with the old file
   /// kept, when that failed or an old file is there and can't be read.
@@ -68,6 +70,7 @@ class RecordFile {
 
  private:
   bool ReadBytes(int n, std::span<u8> bytes) const;
+  bool ReadToRewrite(std::string& bytes) const;
 
   std::filesystem::path path_;
   int slot_;
@@ -76,13 +79,14 @@ class RecordFile {
 /// The whole file as bytes; an empty text when it can't be read (then `*ok`, if given, is false).
 std::string ReadWholeFile(const std::filesystem::path& path, bool* ok = nullptr);
 
-/// Whether power loss may cost what was just written: a flush takes as long as a game.
-enum class Saving { kFlushed, kUnflushed };
-
 /// Writes a temporary file beside `path`, flushes it and renames it over it: a crash, or power loss, leaves
 /// the old file or the new one (an unflushed one may be empty after power loss). False, with the old one
 /// kept, when that failed.
 [[nodiscard]] bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes,
                                   Saving saving = Saving::kFlushed);
+
+/// Adds bytes to the end of a file, which is made when it is missing. False, with nothing added, when that
+/// failed.
+[[nodiscard]] bool AppendToFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace tipline
