@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/group_save.h"
 #include "base/record_file.h"
 #include "league/league.h"
 
@@ -30,6 +31,10 @@ bool RowMakesSense(const EraRecord& row) {
 }  // namespace
 
 std::string LeagueFault(const std::filesystem::path& folder) {
+  if (!FinishGroupSave(folder)) {
+    return "A game that was being saved in " + folder.string() +
+           " can't be brought into all of its files: the disk is full, or they can't be written.";
+  }
   const RecordFile teams(folder / "HCTEAMS", kTeamSlotBytes);
   if (!teams.Exists()) return teams.Path().string() + " is missing.";
   for (const char* name : {"HCTEAMS", "HCPLAYER", "HCgameplan", "HcDaily", "HCRULES"}) {

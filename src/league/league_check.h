@@ -8,7 +8,8 @@ namespace tipline {
 
 /// Why a folder can't be opened as a league: there are no teams in it, or teams, players, plans, days off or
 /// rules can't be read: repairs would put nobody, or defaults, in their place. Empty when it can; whatever
-/// else its files lack is repaired. Reads only, but for changes that were cut short and are undone.
+/// else its files lack is repaired. Reads only, but for saves that were cut short: one of a single file is
+/// undone, one of a whole game is carried out.
 std::string LeagueFault(const std::filesystem::path& folder);
 
 /// What is wrong with the files of a league, alone and against each other, and what its opening would repair,

@@ -1,5 +1,6 @@
 #include "league/startup.h"
 
+#include "base/group_save.h"
 #include "base/record_file.h"
 #include "base/text.h"
 #include "league/data_tree.h"
@@ -72,6 +73,7 @@ std::string StatusFilePath() { return StatusFile().string(); }
 
 bool OpenLeague() {
   const fs::path folder = program.LeagueFolder;
+  if (!FinishGroupSave(folder)) return Written(false, folder);
   SaveSetup();
   LoadSetup();
   program.LeagueFolder = folder;
