@@ -8,6 +8,7 @@
 #include "base/random.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
+#include "cli/standings_command.h"
 #include "cli/stop_signals.h"
 #include "cli/terminal.h"
 #include "league/dump.h"
@@ -39,6 +40,7 @@ struct Arguments {
   cli::ScheduleArguments schedule;
   cli::PhraseArguments phrases;
   bool speak = false;
+  cli::StandingsArguments standings;
 };
 
 /// Options that every command takes, in front of it or behind it.
@@ -185,6 +187,15 @@ void AddCoach(CLI::App& app, Arguments& a) {
   daily->add_flag("--yes", a.yes, "without asking");
 }
 
+void AddStandings(CLI::App& app, Arguments& a) {
+  auto* standings = app.add_subcommand("standings", "who leads each division or conference");
+  auto* date = standings->add_option("--date", a.standings.Date, "as they were at the end of MM-DD");
+  standings->add_option("--month", a.standings.Month, "of the games of one month, 1 to 12")->excludes(date);
+  standings->add_flag("--csv", a.common.Csv, "as comma-separated text");
+  auto* power = app.add_subcommand("power", "the power rankings: margins, opponents and home court weighed");
+  power->add_flag("--csv", a.common.Csv, "as comma-separated text");
+}
+
 /// One team is named, or all are meant; false, told, otherwise.
 bool OneOrAll(const std::string& team, bool all) {
   if (team.empty() == all) return true;
@@ -224,6 +235,8 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
+  if (app.got_subcommand("standings")) return cli::ShowStandings(a.standings, a.common);
+  if (app.got_subcommand("power")) return cli::ShowPower(a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
@@ -254,6 +267,7 @@ int main(int argc, char** argv) {
   AddLists(app, a);
   AddPlay(app, a);
   AddCoach(app, a);
+  AddStandings(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
   try {

@@ -34,6 +34,7 @@ struct Program {
   bool ResumingGame = false;   ///< a load of a box does not add its lines to the season lines
   std::string LastFilmFile;    ///< film of the last game that left one
   std::string ReportName;      ///< what stands in the report file
+  bool SilentReport = false;   ///< a report is worked out and not written
   bool PlayoffGame = false;
   int CurrentRound = 0;        ///< playoff round 1 to 4, 0 none
   bool ScenarioGame = false;   ///< the team pick screen sets up a scenario

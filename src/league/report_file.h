@@ -1,0 +1,14 @@
+#pragma once
+// The file that every report is written to, for the viewer: "VTX.txt" of the league folder.
+#include <filesystem>
+#include <string_view>
+
+namespace tipline {
+
+std::filesystem::path ReportFile();  ///< empty when no league is open
+
+/// Writes a page over the last report and keeps its name in `program.ReportName`. Without an open league
+/// there is no file to write. False, told, when it could not be written.
+bool WriteReport(std::string_view name, std::string_view page);
+
+}  // namespace tipline
