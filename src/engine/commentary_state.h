@@ -36,7 +36,7 @@ struct CommentaryState {
   bool FreeThrowStreakNote = false;           ///< a run at the line may be told
   int SloppyCount = 0;                        ///< 0 to 4
   int LastPerimeterSide = 0, LastPerimeterSlot = 0, LastPerimeterPosition = 0;  ///< of the last shot
-  int ResultLine = 0;                         ///< where the stop tells the shot's result, 0 nowhere
+  int ResultLine = 0;                         ///< first line of the shot's result, 0: nothing led up to it
   int BasketPeriod = 0, LeadChangesSaid = 0;  ///< period of the last basket; count told last
   tipline::PlayKind KindBefore;               ///< of the play told before
   Table2<int, 1, 2, 0, 30> ShotRun;           ///< [side][slot] baskets in a row, below 0 misses

@@ -46,8 +46,8 @@ inline constexpr Saying kDriveInSayings[] = {
     {"{ball} drives"},
     {"{ball} puts it on the floor"},
     {"{ball} goes to the basket"},
-    {"{ball} backs in",          Inside, 20},
-    {"{ball} on the run",        Running, 20},
+    {"{ball} backs in",          FromPost, 20},
+    {"{ball} on the run",        OnBreak, 20},
     {"{ball} #117"},
     {"{ball} #118 {def}"},
 };

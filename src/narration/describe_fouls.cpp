@@ -124,7 +124,7 @@ void DescribeLooseBallFoul() {
 }
 
 void DescribeBegForCall() {
-  if (Brief() || !(Inside() || Driving()) || Scored() || game.play.TipIn || !OneIn(25)) return;
+  if (Brief() || !(FromPost() || OnDrive()) || Scored() || game.play.TipIn || !OneIn(25)) return;
   if (!Say(kBeg)) return;
   if (OneIn(4)) Say(kBegAnswer);
 }

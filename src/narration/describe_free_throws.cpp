@@ -63,7 +63,7 @@ bool AddIfShort(const std::string& words) {
 void TellBiography() {
   const PlayerRecord& p = BallMan();
   u8& said = game.commentary.BioSaid[scene().OffenseSide][scene().BallPlayer];
-  if (said || ShooterLine().FTA != 1) return;
+  if (said || GameOfShooter().FTA != 1) return;
   const int years = p.Year - p.DebutYear;
   const bool known = p.DebutYear >= 1930;
   bool told = false;
@@ -88,7 +88,7 @@ void StepToTheLine() {
   constexpr int kBigNight = 20;
   Say(kToTheLine);
   TellBiography();
-  const StatLine& line = ShooterLine();
+  const StatLine& line = GameOfShooter();
   const int points = PointsOf(line) - (FreeThrowMade() ? 1 : 0);
   if (line.FTA == 1 && points >= kBigNight) {
     Say(kFirstTrip, {.number = points}, kSituationRemark);
@@ -114,7 +114,7 @@ void TellShotAndResult() {
 /// A run at the line is told rather early than late: the note is set by the clock.
 void TellForm() {
   CommentaryState& c = game.commentary;
-  const StatLine& line = ShooterLine();
+  const StatLine& line = GameOfShooter();
   const int streak = BallMan().FreeThrowStreak;
   if (FreeThrowMade()) c.FreeThrowStreakNote = ShowRnd(600) <= scene().GameClock;
   if (FreeThrowMade() && line.FTM == 1 && line.FTA >= 3) {

@@ -1,4 +1,6 @@
 // The score, the lead, and what happens when the clock dies.
+#include <algorithm>
+
 #include "narration/describe.h"
 #include "narration/score_sayings.h"
 #include "narration/shot_parts.h"
@@ -31,10 +33,10 @@ bool Decided() {
   return (ClockLeft() < 600 && Margin() >= 5) || (ClockLeft() < 1800 && Margin() >= 10);
 }
 
-/// The result counts as one line: what was said on the way to it is over.
+/// Lines of the result; of the whole stop where nothing led up to it.
 int LinesSinceResult() {
   const CommentaryState& c = game.commentary;
-  return c.ResultLine > 0 ? c.PbpLineCount - c.ResultLine + 1 : 1;
+  return c.PbpLineCount - std::max(c.ResultLine, 1) + 1;
 }
 
 bool LiveKind(PlayKind kind) { return kind == "OFFREB" || kind == "FASTBREAK"; }

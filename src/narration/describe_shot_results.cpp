@@ -1,11 +1,12 @@
 // How a shot ended: in, out, blocked, on the rim; who passed, and what the scorer has done so far.
+#include <algorithm>
+
 #include "narration/break_sayings.h"
 #include "narration/describe.h"
 #include "narration/drive_sayings.h"
 #include "narration/inside_sayings.h"
 #include "narration/made_sayings.h"
 #include "narration/missed_sayings.h"
-#include "narration/phrases.h"
 #include "narration/shot_parts.h"
 
 namespace tipline {

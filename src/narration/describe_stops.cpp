@@ -1,9 +1,6 @@
 // The ball is brought in, men are tied up, a side calls time, a period ends.
-#include <algorithm>
-
 #include "narration/describe.h"
 #include "narration/pass_sayings.h"
-#include "narration/phrases.h"
 #include "narration/stop_sayings.h"
 
 namespace tipline {

@@ -17,12 +17,12 @@ struct LossOdds {
 };
 // clang-format off
 constexpr LossOdds kLosses[] = {
-    {Loss::kBadPass,       [] { return OnTheBoards() ? 0 : Lobbed() ? 1000 : Running() ? 60 : 40; }},
-    {Loss::kOut,           [] { return Holding() ? 10 : Driving() || FullCourtPressure() ? 30 : 18; }},
-    {Loss::kRebound,       [] { return OnTheBoards() ? 100 : 0; }},
-    {Loss::kTravel,        [] { return OnTheBoards() ? 0 : Inside() || Driving() ? 35 : 18; }},
-    {Loss::kDoubleDribble, [] { return OnTheBoards() ? 0 : BigMan() ? 3 : 5; }},
-    {Loss::kOverLine,      [] { return !SetOffense() || Inside() ? 0 : FullCourtPressure() || Holding() ? 15 : Guard() ? 4 : 0; }},
+    {Loss::kBadPass,       [] { return Putback() ? 0 : Lobbed() ? 1000 : OnBreak() ? 60 : 40; }},
+    {Loss::kOut,           [] { return Holding() ? 10 : OnDrive() || FullCourtPressure() ? 30 : 18; }},
+    {Loss::kRebound,       [] { return Putback() ? 100 : 0; }},
+    {Loss::kTravel,        [] { return Putback() ? 0 : FromPost() || OnDrive() ? 35 : 18; }},
+    {Loss::kDoubleDribble, [] { return Putback() ? 0 : BigMan() ? 3 : 5; }},
+    {Loss::kOverLine,      [] { return !SetOffense() || FromPost() ? 0 : FullCourtPressure() || Holding() ? 15 : Guard() ? 4 : 0; }},
     {Loss::kThreeSec,      [] { return SetOffense() && !Holding() && BigMan() ? 8 : 0; }},
     {Loss::kFiveSec,       [] { return Holding() ? 25 : 0; }},
     {Loss::kShot,          [] { return SetOffense() && !Holding() ? 1 : 0; }},

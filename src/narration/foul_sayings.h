@@ -24,13 +24,13 @@ inline constexpr Saying kFoulSayings[] = {
     {"#079 {fouler}"},
     {"{fouler} caught {who} #080",                     TowardsTheBasket},
     {"{fouler} hacks {who} #081"},
-    {"{fouler} #082 {who}",                            Driving},
+    {"{fouler} #082 {who}",                            OnDrive},
     {"#086 {fouler}"},
     {"{who} draws the foul on {fouler}"},
     {"{fouler} comes over and fouls {who}",            ByHelp},
     {"{fouler} got there late and fouled {who}",       ByHelp},
     {"{fouler} is up too close and fouls {who}",       ByHisDefender},
-    {"{fouler} stops the break with a foul",           Running, 30},
+    {"{fouler} stops the break with a foul",           OnBreak, 30},
 };
 inline constexpr Saying kFoulActSayings[] = {  // a plain whistle is told behind them
     {"#085"},
@@ -38,7 +38,7 @@ inline constexpr Saying kFoulActSayings[] = {  // a plain whistle is told behind
     {"{who} is bumped"},
     {"{who} is held up",      SetOffense},
     {"{who} gets tangled up", nullptr, 5},
-    {"there's a bump inside", Inside},
+    {"there's a bump inside", FromPost},
 };
 inline constexpr Saying kFoulCalledSayings[] = {
     {"{fouler} is called for the foul"},

@@ -5,8 +5,8 @@
 namespace tipline::whistles {
 
 // clang-format off
-inline bool Misfires() { return ShooterLine().FTA >= 3 && ShooterLine().FTM == 0; }
-inline bool Flawless() { return ShooterLine().FTA >= 6 && ShooterLine().FTM == ShooterLine().FTA; }
+inline bool Misfires() { return GameOfShooter().FTA >= 3 && GameOfShooter().FTM == 0; }
+inline bool Flawless() { return GameOfShooter().FTA >= 6 && GameOfShooter().FTM == GameOfShooter().FTA; }
 inline bool TiesIt() { return LateAndClose() && Margin() == 0; }
 inline bool TakesTheLead() { return LateAndClose() && Lead(scene().OffenseSide) == 1; }
 

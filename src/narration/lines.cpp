@@ -19,7 +19,7 @@ std::string NameFor(std::string_view key, const Cast& cast) {
   const int o = game.scene.OffenseSide, d = game.scene.DefenseSide;
   if (key == "ball") return BallName();
   if (key == "def") return NameOf(d, game.scene.BallDefender);
-  if (key == "fouler") return NameOf(play.FoulingSide == 0 ? d : play.FoulingSide, play.Fouler);
+  if (key == "fouler") return NameOf(FoulingSide(), play.Fouler);
   if (key == "blocker") return NameOf(d, play.Blocker);
   if (key == "stealer") return NameOf(d, play.Stealer);
   if (key == "rebounder") return play.ReboundSide > 2 ? "" : NameOf(play.ReboundSide, play.Rebounder);
@@ -215,13 +215,6 @@ bool Say(const Family& family, const Cast& cast, int spokenKind, int side) {
   std::string text = Pick(family, cast);
   if (text.empty()) return false;
   NewLine(std::move(text), spokenKind, side);
-  return true;
-}
-
-bool Add(const Family& family, const Cast& cast) {
-  const std::string text = Pick(family, cast);
-  if (text.empty()) return false;
-  AddToLine(text.starts_with(',') ? text : " " + text);
   return true;
 }
 

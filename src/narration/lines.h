@@ -13,7 +13,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 #include "engine/game_state.h"
 #include "league/setup.h"
@@ -94,8 +93,7 @@ PbpLine& LastLine();
 /// The text, "" when none fits.
 std::string Pick(const Family& family, const Cast& cast = {});
 bool Say(const Family& family, const Cast& cast = {}, int spokenKind = kUnspoken,
-         int side = 0);                                 ///< new line
-bool Add(const Family& family, const Cast& cast = {});  ///< behind the last line, with a blank between
+         int side = 0);  ///< new line
 /// One time in n, by the generator for show.
 inline bool OneIn(int n) { return ShowRnd(n) == 1; }
 
@@ -103,9 +101,11 @@ inline bool OneIn(int n) { return ShowRnd(n) == 1; }
 inline const Scene& scene() { return game.scene; }
 inline bool Brief() { return setup.PBPOption == 1; }
 bool WomensGame();  ///< the lines are turned to a woman's
+inline bool ForMen() { return !WomensGame(); }
 inline bool Scored() { return IsMadeShot(game.play.Posted); }
 inline const PlayerRecord& BallMan() { return game.player[game.scene.OffenseSide][game.scene.BallPlayer]; }
 inline Side& OffenseThen() { return game.side[game.scene.OffenseSide]; }
+inline int FoulingSide() { return game.play.FoulingSide == 0 ? scene().DefenseSide : game.play.FoulingSide; }
 inline Side& DefenseThen() { return game.side[game.scene.DefenseSide]; }
 
 }  // namespace tipline

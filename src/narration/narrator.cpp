@@ -177,7 +177,6 @@ void NarrateQuickPass() {
 
 void NarrateTimeout(int side, bool media) {
   if (!Listening()) return;
-  NoteScene();
   DescribeTimeout(side, media);
   ShowPlayByPlay();
 }

@@ -15,7 +15,7 @@ inline constexpr Saying kLostStreakSayings[] = {
 inline constexpr Saying kTossSayings[] = {{"#096"}};
 inline constexpr Saying kMismatchSayings[] = {{"quite a mismatch here"}, {"quite a mismatch"}};
 inline constexpr Saying kBadTossSayings[] = {{"bad toss"}};
-inline constexpr Saying kTossAgainSayings[] = {{"he'll try that again", [] { return !WomensGame(); }}, {"they'll do that one over"}};
+inline constexpr Saying kTossAgainSayings[] = {{"he'll try that again", ForMen}, {"they'll do that one over"}};
 inline constexpr Saying kTipSayings[] = {
     {"{who} has no problem with the tip"}, {"{who} has no problem with that one"}, {"{who} easily controls the tip"},
     {"{other} has it, and will get things started", PeriodOpens},

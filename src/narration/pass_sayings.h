@@ -1,12 +1,9 @@
 #pragma once
 // How the ball gets from the backcourt to the man of the play: {who} gives, {other} takes.
 #include "narration/floor_talk.h"
+#include "narration/shot_conditions.h"
 
 namespace tipline::floor_talk {
-
-inline bool ForBigMan() { return scene().PlayKind == "INSIDE"; }
-inline bool NoMiss() { return !IsShot(game.play.Posted) || Scored(); }
-inline bool SpokenOfMen() { return !WomensGame(); }
 
 // clang-format off
 inline constexpr Saying kPassWordSayings[] = {
@@ -84,11 +81,11 @@ inline constexpr Saying kScreenSayings[] = {
     {"{who} sets the screen for {other}"},
     {"{other} around the pick by {who}"}};
 inline constexpr Saying kRollSayings[] = {
-    {"{other} #039", ForBigMan, 20},
-    {"{other} #040", [] { return !ForBigMan(); }, 20},
+    {"{other} #039", FromPost, 20},
+    {"{other} #040", [] { return !FromPost(); }, 20},
     {"{other} slips the pick, {who} sees it", nullptr},
     {"{who} off the pick, over to {other}"},
-    {"pick and roll, {who} to {other}", ForBigMan}};
+    {"pick and roll, {who} to {other}", FromPost}};
 
 inline constexpr Saying kBringUpSayings[] = {
     {"{who} brings it up"}, {"{who} brings the ball up"}, {"{who} bringing it up"}, {"{who} takes it into the frontcourt"},
@@ -101,21 +98,21 @@ inline constexpr Saying kBeatPressSayings[] = {
 inline constexpr Saying kPressTroubleSayings[] = {{"{team} is having trouble"}, {"it's giving {team} problems"}};
 
 inline constexpr Saying kBallHolderSayings[] = {
-    {"{who} with the ball", nullptr, 20}, {"{who} #005"}, {"{who} #021", ForBigMan}, {"{who} #022"}, {"{who} #023"},
+    {"{who} with the ball", nullptr, 20}, {"{who} #005"}, {"{who} #021", FromPost}, {"{who} #022"}, {"{who} #023"},
     {"{who} #045"}, {"{who} has it out on top", nullptr, 5}, {"it's in the hands of {who}", nullptr, 4}};
 
 inline constexpr Saying kDribbleMoveSayings[] = {
-    {"{who} dribbles outside", [] { return !ForBigMan(); }},
+    {"{who} dribbles outside", [] { return !FromPost(); }},
     {"{who} dribbles left"}, {"{who} dribbles right"},
     {"{who} is looking to make a play"},
-    {"{who} #024", [] { return !ForBigMan(); }, 5}, {"{who} #046", ForBigMan}, {"{who} #047"},
-    {"{who} #048", [] { return !ForBigMan(); }, 5}, {"{who} #049"},
+    {"{who} #024", [] { return !FromPost(); }, 5}, {"{who} #046", FromPost}, {"{who} #047"},
+    {"{who} #048", [] { return !FromPost(); }, 5}, {"{who} #049"},
     {"{who} works against {def}"}, {"{who} is cut off by {def}", nullptr, 5}};
 // Behind a line that has named him.
 inline constexpr Saying kMoreDribbleSayings[] = {
-    {"he dribbles back"}, {"he steps back", [] { return !ForBigMan(); }}, {"he's looking to make a play"},
+    {"he dribbles back"}, {"he steps back", [] { return !FromPost(); }}, {"he's looking to make a play"},
     {"dribbles left"}, {"dribbles right"}, {"cut off by {def}"}, {"{def} cuts him off", nullptr, 5}, {"he bumps {def}, no call!", nullptr, 2},
-    {"he dribbles outside", [] { return !ForBigMan(); }}, {"he waits for a screen", nullptr, 4}};
+    {"he dribbles outside", [] { return !FromPost(); }}, {"he waits for a screen", nullptr, 4}};
 
 inline constexpr Saying kLooseBallSayings[] = {
     {"he lost the ball"}, {"the ball is loose"}, {"the ball is on the floor"}, {"loose ball"}};
@@ -129,7 +126,7 @@ inline constexpr Saying kQuickPassSayings[] = {
 
 inline constexpr Saying kKickOutSayings[] = {
     {"he kicks it to {other}"}, {"he flips it to {other}"}, {"he passes to {other}"},
-    {"and he passes it back out to {other}", SpokenOfMen}, {"{who} kicks it out to {other}"}};
+    {"and he passes it back out to {other}", ForMen}, {"{who} kicks it out to {other}"}};
 inline constexpr Saying kResetSayings[] = {
     {"{who} will reset"}, {"they'll reset the offense"}, {"{who} resets the offense"}, {"{team} resets the offense", nullptr, 4}};
 // clang-format on

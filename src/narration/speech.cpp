@@ -17,19 +17,6 @@ bool IsTurnover(int kind) {
 }
 bool IsMade(int kind) { return kind == kMadeTwo || kind == kMadeThree; }
 
-/// The user wants to hear lines of this kind.
-bool Wanted(int kind) {
-  if (setup.NarratorFullPBPCheck) return true;  // every line that is shown
-  if (kind == kUnspoken) return false;
-  if (IsRemark(kind)) return setup.NarratorMiscCheck;
-  if (IsTurnover(kind)) return setup.NarratorTurnoversCheck;
-  if (kind == kReboundLine) return setup.NarratorReboundsCheck;
-  if (IsMade(kind) || kind == kMissedShot) {
-    return setup.NarratorShotPlusResultCheck || setup.NarratorScoringCheck;
-  }
-  return setup.NarratorShotPlusResultCheck;
-}
-
 /// He was fouled as he shot, where the text does not say so already: by the word, or by who did it.
 std::string FoulEnding(const std::string& text) {
   const PlayResult result = game.play.Posted;
@@ -49,6 +36,18 @@ std::string AssistEnding() {
 }
 
 }  // namespace
+
+bool WantsToHear(int kind) {
+  if (setup.NarratorFullPBPCheck) return true;  // every line that is shown
+  if (kind == kUnspoken) return false;
+  if (IsRemark(kind)) return setup.NarratorMiscCheck;
+  if (IsTurnover(kind)) return setup.NarratorTurnoversCheck;
+  if (kind == kReboundLine) return setup.NarratorReboundsCheck;
+  if (IsMade(kind) || kind == kMissedShot) {
+    return setup.NarratorShotPlusResultCheck || setup.NarratorScoringCheck;
+  }
+  return setup.NarratorShotPlusResultCheck;
+}
 
 bool SpeechOn() { return !platform::voice().Silent() && (setup.MasterNarratorCheck || program.FilmReplay); }
 
@@ -70,7 +69,7 @@ void SpeakShownLine(int n) {
   if (!SpeechOn() || game.commentary.Line[n].IsPause()) return;
   const PbpLine& line = game.commentary.Line[n];
   const int kind = line.SpokenKind;
-  if (!Wanted(kind)) return;
+  if (!WantsToHear(kind)) return;
   // Of a shot that was not heard the basket is told in one sentence.
   const bool shotHeard = setup.NarratorShotPlusResultCheck || setup.NarratorFullPBPCheck;
   if (IsMade(kind) && Scored() && !shotHeard) return SpeakShot();

@@ -13,10 +13,12 @@ void SpeakLine(std::string_view text, bool wait = true);
 /// The same for one who asked for this text: as it stands, whether the narrator is on or not.
 void SayAloud(std::string_view text, bool wait = true);
 
+/// The user wants to hear lines of this kind.
+bool WantsToHear(int spokenKind);
 /// Says line n of the buffer, as it was shown, if the user wants lines of its kind.
 void SpeakShownLine(int n);
-/// Line n of the buffer carries a result. Where neither it nor the line before begins or ends with the man's
-/// name, the voice says a plain sentence on him in its place.
+/// Line n of the buffer carries a result. Where neither it nor the line before, if that is heard, begins or
+/// ends with the man's name, the voice says a plain sentence on him in its place.
 void FillSpokenLine(int n);
 
 // Sentences for which there is no line. Each asks for its own preference first.

@@ -171,8 +171,7 @@ void FillSpokenLine(int n) {
     return;
   }
   const std::string name = ActingMan(n);
-  const bool heard =
-      setup.NarratorShotPlusResultCheck || n < 2 || game.commentary.Line[n - 1].SpokenKind != kShotLine;
+  const bool heard = n > 1 && WantsToHear(game.commentary.Line[n - 1].SpokenKind);
   if (name.empty() || Names(n, name) || (heard && Names(n - 1, name))) return;
   line.SpokenText = Sentence(n, name).substr(0, kSpokenLength);
 }

@@ -127,7 +127,7 @@ void SpeakShot() {
 
 void SpeakFoul(bool withCount) {
   if (!SpeechOn() || !setup.NarratorFoulsCheck) return;
-  const int side = game.play.FoulingSide == 0 ? scene().DefenseSide : game.play.FoulingSide;
+  const int side = FoulingSide();
   const std::string name = NameOf(side, game.play.Fouler);
   if (name.empty()) return;
   std::string text = "foul is on " + name;

@@ -19,7 +19,7 @@ inline constexpr Saying kPassSayings[] = {
     {"{who} passes.."},
     {"the pass from {who}.."},
     {"{who} looks inside..",        SetOffense},
-    {"{who} throws it up court..",  Running, 30},
+    {"{who} throws it up court..",  OnBreak, 30},
     {"{who} goes up top with it..", Lobbed, 30},
 };
 inline constexpr Saying kPassTippedSayings[] = {{"{stealer} tipped it"}, {"{stealer} deflected it"}};

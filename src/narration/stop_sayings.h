@@ -25,7 +25,7 @@ inline constexpr Saying kTiedUpSayings[] = {
     {"{ball} and {def} both have the ball"}, {"{ball} and {def} are tied up"}, {"{def} tied him up", whistles::BallManMeant},
     {"he's tied up by {def}", whistles::BallManMeant}, {"{ball} with the ball, tied up by {def}"}};
 inline constexpr Saying kWantsTimeoutSayings[] = {{"{ball} is trying to call a time out"}};
-inline constexpr Saying kNoTimeoutSayings[] = {{"but he won't get one", [] { return !WomensGame(); }}, {"too late for that"}};
+inline constexpr Saying kNoTimeoutSayings[] = {{"but he won't get one", ForMen}, {"too late for that"}};
 inline constexpr Saying kJumpCallSayings[] = {{"jump ball"}, {"they'll jump"}, {"{ball} will jump against {def}"}};
 inline constexpr Saying kArrowSayings[] = {{"#094 {who}", nullptr, 20}, {"the arrow gives it to {who}"}, {"the arrow is with {who}"}};
 

@@ -1,7 +1,6 @@
 #include "narration/translations.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/csv.h"
 #include "base/record_file.h"

@@ -12,10 +12,10 @@ inline constexpr Saying kHasItSayings[] = {
     {"{ball} looks around",               SetOffense},
     {"{ball} on the dribble",             Guard},
     {"{ball} against {def}",              SetOffense},
-    {"{ball} drives",                     Driving, 40},
-    {"{ball} on the run",                 Running, 40},
-    {"{ball} with his back to the basket", Inside, 20},
-    {"{ball} has the rebound",            OnTheBoards, 200},
+    {"{ball} drives",                     OnDrive, 40},
+    {"{ball} on the run",                 OnBreak, 40},
+    {"{ball} with his back to the basket", FromPost, 20},
+    {"{ball} has the rebound",            Putback, 200},
     {"{ball} holds it",                   Holding, 60},
 };
 inline constexpr Saying kBadPassSayings[] = {
@@ -28,8 +28,8 @@ inline constexpr Saying kBadPassSayings[] = {
     {"the pass by {ball} sails out of bounds"},
     {"nobody there for the pass by {ball}"},
     {"{ball} and {who} got mixed up"},
-    {"{ball} throws it long, too long for {who}", Running, 40},
-    {"{ball} forces one inside to {who}",         [] { return SetOffense() && !Inside(); }},
+    {"{ball} throws it long, too long for {who}", OnBreak, 40},
+    {"{ball} forces one inside to {who}",         [] { return SetOffense() && !FromPost(); }},
 };
 inline constexpr Saying kBehindHimSayings[] = {{"he threw it behind him"}, {"he threw it a mile over"}};
 inline constexpr Saying kLookSayings[] = {{"{ball} looks for {who}"}, {"{ball} passes to {who}"}};
@@ -52,7 +52,7 @@ inline constexpr Saying kAfterReboundSayings[] = {
 inline constexpr Saying kTravelActSayings[] = {{"{ball} shuffles his feet"}, {"up and down", BallManMeant}};
 inline constexpr Saying kTravelSayings[] = {
     {"that's a travel"}, {"traveling violation"}, {"he traveled"}, {"he's called for a travel"}, {"he walked"}, {"he walked with it"},
-    {"{ball} took an extra step", Driving}, {"{ball} dragged the pivot foot", BigMan},
+    {"{ball} took an extra step", OnDrive}, {"{ball} dragged the pivot foot", BigMan},
 };
 inline constexpr Saying kDoubleDribbleSayings[] = {{"he double dribbled", BallManMeant}, {"{ball} #092"}};
 inline constexpr Saying kOverLineSayings[] = {

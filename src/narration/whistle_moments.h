@@ -2,11 +2,11 @@
 // What the sayings of whistles and lost balls ask of the play of `game.scene`.
 #include "engine/execution.h"
 #include "narration/lines.h"
+#include "narration/shot_conditions.h"
 
 namespace tipline::whistles {
 
 // Who had a hand in it.
-inline int FoulingSide() { return game.play.FoulingSide == 0 ? scene().DefenseSide : game.play.FoulingSide; }
 inline const StatLine& FoulerLine() { return PlayerAt(FoulingSide(), game.play.Fouler).Stats[3]; }
 /// Slot of the man who was fouled: away from the ball that is another than the man who had it.
 inline int FouledSlot() {
@@ -22,21 +22,15 @@ inline bool BallManMeant() { return MeansHim(BallName()); }
 inline bool FouledManMeant() { return MeansHim(FouledName()); }
 inline bool FoulerMeant() { return MeansHim(NameOf(FoulingSide(), game.play.Fouler)); }
 
-inline bool ForMen() { return !WomensGame(); }
 inline bool ForWomen() { return WomensGame(); }
 
 // Where and how the play went.
-inline bool Inside() { return scene().PlayKind == "INSIDE"; }
-inline bool Driving() { return scene().PlayKind == "DRIVE"; }
-inline bool Running() { return scene().PlayKind == "FASTBREAK"; }
-inline bool OnTheBoards() { return scene().PlayKind == "OFFREB"; }
-inline bool TowardsTheBasket() { return Inside() || Driving() || Running(); }
+inline bool TowardsTheBasket() { return FromPost() || OnDrive() || OnBreak(); }
 inline bool Holding() { return scene().PlayKind == "HOLD BALL" || scene().PlayKind == "BURN"; }
 inline bool Lobbed() { return scene().Call.LobFrom > 0; }
 inline bool Guard() { return scene().BallSlot == 1 || scene().BallSlot == 2; }
-inline bool BigMan() { return scene().BallSlot >= 4; }
 inline bool FullCourtPressure() { return DefenseThen().Pressure >= 3; }
-inline bool SetOffense() { return !Running() && !OnTheBoards(); }
+inline bool SetOffense() { return !OnBreak() && !Putback(); }
 inline bool LateAndClose() { return LastPeriod() && scene().GameClock < 3000 && Margin() <= 3; }
 
 // Fouls.
@@ -71,7 +65,6 @@ inline bool FoulTrouble() {
 }
 
 // Free throws; the counts hold the shot that is told.
-inline const StatLine& ShooterLine() { return BallMan().Stats[3]; }
 inline bool FirstOfTrip() { return game.commentary.FreeThrowNo == 0; }
 /// Neither a common trip nor the shots of a flagrant foul.
 bool Technical();

@@ -40,6 +40,7 @@ TEST(ScoreLines, AreMadeWhereTheyAreTrueAndDue) {
       {"not in them", 90, 100, [] { TimeLeft(1799), game.commentary.ForceScoreRemark = 1; }, "10", 0, 0},
       {"free throws come first", 10, 15, [] { game.play.Posted = "GF"; }, "Denver", 0, 0},
       {"enough was said", 10, 15, [] { NewLine("assisted by Mate"); }, "Denver", 0, 0},
+      {"a result of three lines that nothing led up to", 10, 15, [] { game.commentary.ResultLine = 0, NewLine("one"), NewLine("two"); }, "Denver", 0, 0},
       {"behind a break", 10, 15, [] { game.commentary.KindBefore = "FASTBREAK"; }, "Denver", 0, 0},
       {"a zone", 10, 15, [] { D().DefenseType = 2; }, "Boston in a 2-3 zone", 40, 130},
       {"man where nothing else is allowed", 10, 15, [] {}, "man defense", 0, 0},
