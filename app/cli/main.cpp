@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "base/random.h"
+#include "cli/news_commands.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
 #include "cli/standings_command.h"
@@ -39,6 +40,7 @@ struct Arguments {
   cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
   cli::PhraseArguments phrases;
+  cli::NewsArguments news;
   bool speak = false;
   cli::StandingsArguments standings;
 };
@@ -234,6 +236,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
+  if (cli::IsNews(app)) return cli::RunNews(app, a.news, a.common);
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
   if (app.got_subcommand("standings")) return cli::ShowStandings(a.standings, a.common);
   if (app.got_subcommand("power")) return cli::ShowPower(a.common);
@@ -270,6 +273,7 @@ int main(int argc, char** argv) {
   AddStandings(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
+  cli::AddNews(app, a.news, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

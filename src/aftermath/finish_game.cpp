@@ -1,154 +1,199 @@
 #include "aftermath/finish_game.h"
 
-#include <algorithm>
-#include <limits>
+#include <utility>
+#include <vector>
 
+#include "aftermath/box_file.h"
+#include "aftermath/box_text.h"
+#include "aftermath/game_film.h"
+#include "aftermath/game_results.h"
+#include "aftermath/highlights.h"
+#include "aftermath/injury_history.h"
+#include "aftermath/leader_boards.h"
+#include "aftermath/power_rating.h"
+#include "aftermath/record_book.h"
+#include "aftermath/season_lines.h"
+#include "aftermath/standings.h"
+#include "aftermath/team_books.h"
+#include "aftermath/ticker.h"
+#include "base/group_save.h"
 #include "engine/eligible.h"
+#include "engine/engine.h"
 #include "engine/game_state.h"
 #include "league/program.h"
-#include "league/shot_splits.h"
+#include "league/schedule.h"
+#include "platform/dialogs.h"
 
 namespace tipline {
 namespace {
 
-/// Adds without leaving the counter's range.
-template <class Counter>
-void Add(Counter& counter, int value) {
-  const int low = std::numeric_limits<Counter>::min();
-  const int high = std::numeric_limits<Counter>::max();
-  counter = static_cast<Counter>(Clamp(counter + value, low, high));
-}
-
-// clang-format off
-constexpr i16 StatLine::*kCounters[] = {
-    &StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA, &StatLine::FTM, &StatLine::Reb,
-    &StatLine::Off, &StatLine::Ast, &StatLine::St,  &StatLine::Bk,  &StatLine::To,  &StatLine::Pf,  &StatLine::Dq,
-    &StatLine::Dunks};
-// clang-format on
-
-void AddLine(StatLine& to, const StatLine& from) {
-  for (const auto counter : kCounters) Add(to.*counter, from.*counter);
-  Add(to.Technicals, from.Technicals);
-  Add(to.Flagrant2, from.Flagrant2);
-}
-
-/// He was on the floor, if only for a free throw.
-bool HasPlayed(int side, int slot) {
-  if (ManAt(side, slot).PlayerGameTime > 0) return true;
-  const StatLine& line = PlayerAt(side, slot).Stats[3];
-  return std::any_of(std::begin(kCounters), std::end(kCounters), [&](const auto c) { return line.*c > 0; });
-}
-
-void CloseGameLine(int side, int slot) {
-  StatLine& line = PlayerAt(side, slot).Stats[3];
-  line.Min = static_cast<i16>(ManAt(side, slot).PlayerGameTime / kMinute);
-  line.G = line.Min > 0 ? 1 : 0;
-  line.Dq = FouledOut(line) ? 1 : 0;
-}
-
-/// The line of the games at home or on the road: index 3 the last such game, 2 all of them.
-void AddPlaceLine(Table<StatLine, 1, 3>& lines, const StatLine& line) {
-  lines[3] = line;
-  AddLine(lines[2], line);
-  Add(lines[2].Min, line.Min);
-  Add(lines[2].G, 1);
-  if (line.GS == 1) Add(lines[2].GS, 1);
-}
-
-/// A game of the suspension is served; one that was earned today begins with the next game.
-void ServeSuspension(int side, int slot) {
-  u8& games = PlayerAt(side, slot).SuspensionGames;
-  if (LoadedAt(side, slot).Suspended && games > 0) --games;
-}
-
-void AddToSeason(int side, int slot) {
-  PlayerRecord& p = PlayerAt(side, slot);
-  const Man& man = ManAt(side, slot);
-  const StatLine& line = p.Stats[3];
-  StatLine& season = p.Stats[2];
-  if (line.GS == 1) Add(season.GS, 1);
-  Add(season.G, 1);
-  Add(season.Min, line.Min);
-  AddLine(season, line);
-  Add(season.Ejections, man.Ejected);
-  Add(p.Flagrants[2], p.Flagrants[3]);
-  for (const ShotSplit& split : kShotSplits) Add((p.*split.man)[2], (p.*split.man)[3]);
-  Add(p.OppFGA[2], p.OppFGA[3]);
-  Add(p.OppFGM[2], p.OppFGM[3]);
-  AddPlaceLine(side == 2 ? p.HomeStats : p.RoadStats, line);
-  for (int period = 1; period <= 5; ++period) Add(p.QuarterPoints[period][2], p.QuarterPoints[period][3]);
-  Add(p.PlusMinus, man.PlusMinus);
-  Add(p.ShareShots, man.ShareShots);
-  Add(p.ShareBlocks, man.ShareBlocks);
-  Add(p.ShareAssists, man.ShareAssists);
-  Add(p.ShareOffReb, man.ShareOffReb);
-  Add(p.ShareDefReb, man.ShareDefReb);
-  for (int position = 1; position <= kPositions; ++position) {
-    if (man.PositionTime[position] == 0) continue;
-    Add(p.GamesAtPosition[position], 1);
-    Add(p.MinutesAtPosition[position], Int(man.PositionTime[position] / 600.0 + 0.5));
-    Add(p.PointsAtPosition[position], man.PositionPoints[position]);
-  }
-}
-
-void AddManToTeam(int side, TeamRecord& team, const PlayerRecord& p) {
-  AddLine(team.TeamStats[1], p.Stats[3]);
-  if (side == 2) AddLine(team.HomeStats[1], p.Stats[3]);
-  for (const ShotSplit& split : kShotSplits) Add(team.*split.team, (p.*split.man)[3]);
-}
-
-/// Both teams' lines of the season: their own and their opponents'.
-void AddTeamLines() {
-  for (int s = 1; s <= 2; ++s) {
-    TeamRecord& team = game.team[s];
-    const int other = 3 - s;
+/// Calls visit(side, slot) for every man of both teams.
+template <class Visit>
+void ForMen(Visit visit) {
+  for (int side = 1; side <= 2; ++side) {
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (OnTeam(s, slot)) AddManToTeam(s, team, PlayerAt(s, slot));
-      if (OnTeam(other, slot)) AddLine(team.TeamStats[2], PlayerAt(other, slot).Stats[3]);
+      if (OnTeam(side, slot)) visit(side, slot);
     }
-    Add(team.TeamStats[1].G, 1);
-    Add(team.TeamStats[2].G, 1);
-    if (s == 2) Add(team.HomeStats[1].G, 1);
-    Add(team.TeamRebounds[2], game.side[s].GameTeamRebounds);
-    Add(team.OppTeamRebounds, game.side[other].GameTeamRebounds);
-    Add(team.TeamTurnovers[1], game.side[s].GameTeamTurnovers);
-    Add(team.TeamTurnovers[2], game.side[other].GameTeamTurnovers);
-    Add(team.Possessions[2], team.Possessions[3]);
-    Add(team.OppPossessions[2], team.OppPossessions[3]);
-    for (int period = 1; period <= 10; ++period) {
-      Add(team.PeriodPoints[period][1], game.side[s].PeriodScore[period]);
-      Add(team.PeriodPoints[period][2], game.side[other].PeriodScore[period]);
-    }
-    if (Lead(s) > 0) Add(team.Wins, 1);
-    if (Lead(s) < 0) Add(team.Losses, 1);
   }
 }
 
-/// Games that a man sat out since he last played.
-void CountRest(int side, int slot) {
-  u8& rest = PlayerAt(side, slot).RestGames;
-  rest = HasPlayed(side, slot) ? u8{0} : static_cast<u8>(std::min(rest + 1, 255));
+bool OnDisk() { return !program.LeagueFolder.empty(); }
+
+/// The game itself is closed, whatever its kind.
+void CloseGame() {
+  for (int side = 1; side <= 2; ++side) {
+    const int left = CountEligible(side);
+    game.side[side].ShortHanded = left < kPositions ? left : 0;
+  }
+  ForMen([](int side, int slot) {
+    if (HasPlayed(side, slot)) CloseGameLine(side, slot);
+  });
+}
+
+void ServeSuspensions() {
+  ForMen([](int side, int slot) {
+    ServeSuspension(side, slot);
+    CountRest(side, slot);
+  });
+}
+
+/// The first game of a playoff series: the men begin it with nothing.
+void OpenSeries() {
+  const bool series = program.PlayoffGame && program.CurrentRound > 0 && program.CurrentSeriesGame > 0;
+  if (!series || program.SeriesWins[1] > 0 || program.SeriesWins[2] > 0) return;
+  ForMen([](int side, int slot) { PlayerAt(side, slot).SeriesStats = {}; });
+}
+
+/// Adds the game to the season of all who played; `injuries` takes the lines of those who were hurt.
+void BookMen(std::vector<std::string>& injuries) {
+  ForMen(NoteLastGame);
+  OpenSeries();
+  ForMen([&injuries](int side, int slot) {
+    if (!HasPlayed(side, slot)) return;
+    PlayerRecord& p = PlayerAt(side, slot);
+    if (p.InjuryReturnMonth != 0 && OnDisk()) injuries.push_back(InjuryLine(side, slot));
+    EndOldInjury(side, slot);
+    p.LastInjuryMonth = static_cast<u8>(game.GameMonth);
+    p.LastInjuryDay = static_cast<u8>(game.GameDay);
+    AddToSeason(side, slot);
+  });
+}
+
+bool EnterRecords(const std::filesystem::path& folder) {
+  if (!LoadRecordBook(folder)) return false;
+  UpdatePlayerRecords();
+  UpdateTeamRecords();
+  return SaveRecordBook(folder);
+}
+
+bool EnterAllRecords() {
+  const bool allTime = OnDisk() && league.rules.AllTimeRecordCheck == 1;
+  return EnterRecords({}) && (!allTime || EnterRecords(AllTimeFolder()));
+}
+
+bool SaveTeams() { return !OnDisk() || (SaveTeam(game.GameTeam[1], 1) && SaveTeam(game.GameTeam[2], 2)); }
+
+/// The row of the schedule, the record of the scores, and the box that both name.
+bool BookResult(const std::vector<int>& rows) {
+  const int n = NextScore();
+  program.BoxFileName = BoxFileNameOf(n);
+  CloseRows(rows, program.BoxFileName);
+  if (OnDisk() && !rows.empty() && !SaveScheduleRows(rows)) return false;
+  return AppendScore(n, ScoreOfGame(program.BoxFileName)) && (!OnDisk() || SaveBoxFile());
+}
+
+/// What the game leaves besides the season's figures.
+struct News {
+  std::vector<std::string> highlights, injuries;
+};
+
+News BookTables() {
+  News news;
+  WriteTicker();
+  ServeSuspensions();
+  if (OnDisk()) news.highlights = GameHighlights();
+  (void)WriteBoxText();  // a page that can't be written costs no game
+  AddTeamBooks();
+  UpdatePowerRatings();
+  BookMen(news.injuries);
+  AddToStandings();
+  return news;
+}
+
+/// Without a league folder what is no file all the same: the book of records, the row and the scores.
+bool BookFiles(const News& news, const std::vector<int>& rows) {
+  (void)PostTicker();
+  return PostHighlights(news.highlights) && PostInjuries(news.injuries) && EnterAllRecords() && SaveTeams() &&
+         BookResult(rows) && UpdateLeaders() && UpdateTop40();
+}
+
+/// The league in memory as it was before the game was booked.
+class LeagueBefore {
+ public:
+  explicit LeagueBefore(const std::vector<int>& rows) : scores_(league.Scores.size()) {
+    for (int s = 1; s <= 2; ++s) {
+      team_[s] = league.team[game.GameTeam[s]];
+      coach_[s] = league.coach[game.GameTeam[s]];
+    }
+    for (const int n : rows) rows_.emplace_back(n, *league.Row(n));
+  }
+  void PutBack() const {
+    for (int s = 1; s <= 2; ++s) {
+      league.team[game.GameTeam[s]] = team_[s];
+      league.coach[game.GameTeam[s]] = coach_[s];
+    }
+    for (const auto& [n, row] : rows_) league.ScheduleGame[static_cast<std::size_t>(n)] = row;
+    league.Scores.resize(scores_);
+  }
+
+ private:
+  Table<TeamRecord, 1, 2> team_;
+  Table<CoachRecord, 1, 2> coach_;
+  std::vector<std::pair<int, ScheduleRecord>> rows_;
+  std::size_t scores_;
+};
+
+/// The men as the files have them now: the next game's league is measured by them.
+void KeepMenInMemory() {
+  const ScheduleRecord* row = league.Row(game.ScheduleRow);
+  if (row && row->GameType == 'C') return;  // the final of a cup is saved for nobody
+  ForMen([](int side, int slot) {
+    const PlayerRecord& p = PlayerAt(side, slot);
+    if (p.RecNo > 0 && static_cast<std::size_t>(p.RecNo) < league.player.size())
+      league.player[static_cast<std::size_t>(p.RecNo)] = p;
+  });
+}
+
+bool BookInOneStep() {
+  const std::vector<int> rows = RowsToClose();
+  const LeagueBefore before(rows);
+  News news;
+  {
+    GroupSave group(program.LeagueFolder);
+    news = BookTables();
+    game.InTheBooks = BookFiles(news, rows) && group.Keep();
+  }
+  if (!game.InTheBooks) {
+    before.PutBack();
+    (void)LoadRecordBook();
+    return platform::RefusedWith("The game could not be kept: the files of the league stay as they were.");
+  }
+  KeepMenInMemory();
+  ListHighlights(news.highlights);
+  return SaveGameFilm();
 }
 
 }  // namespace
 
 void FinishGame() {
-  const bool counts = program.GameKind == "L";
-  for (int s = 1; s <= 2; ++s) {
-    const int left = CountEligible(s);
-    game.side[s].ShortHanded = left < kPositions ? left : 0;
-    for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!OnTeam(s, slot)) continue;
-      if (counts) {
-        ServeSuspension(s, slot);
-        CountRest(s, slot);
-      }
-      if (!HasPlayed(s, slot)) continue;
-      CloseGameLine(s, slot);
-      if (counts) AddToSeason(s, slot);
-    }
+  CloseGame();
+  if (program.GameKind != "L" || game.AnalysisMode) {
+    (void)WriteBoxText();
+  } else if (OnDisk()) {
+    (void)BookInOneStep();
+  } else {
+    (void)BookFiles(BookTables(), RowsToClose());
   }
-  if (counts) AddTeamLines();
 }
 
 }  // namespace tipline

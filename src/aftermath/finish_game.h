@@ -3,8 +3,11 @@
 
 namespace tipline {
 
-/// Once a game, when it is over: closes the game lines (games, minutes, disqualifications) and, for a league
-/// game, adds them to the season lines of players and teams. Works on the game tables; writes no file.
+/// Once a game, when it is over. It closes the game lines and writes the box to the report file; a league
+/// game then goes into the season: men, teams, standings, power ratings, records, schedule, scores, box file,
+/// leaders, highlights, injuries, ticker and film. On disk that is one step: `game.InTheBooks` when it is
+/// done; else the user is told, and `league` and the files stand as they were before the game.
+/// Without an open league folder only the tables of `game`, the schedule row and the scores change.
 void FinishGame();
 
 }  // namespace tipline

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "aftermath/finish_game.h"
+#include "aftermath/ticker.h"
 #include "base/numbers.h"
 #include "coach/substitutions.h"
 #include "engine/clock.h"
@@ -176,6 +177,7 @@ void GivePossession() {
 void NextPeriod() {
   RestBetweenPeriods();
   OpenPeriod(FullPeriod());
+  TickPeriod();
   if (league.rules.QuarterJumpCheck != 0) {
     game.GameState = "JUMPBALL-1";
   } else {

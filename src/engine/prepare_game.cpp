@@ -10,6 +10,7 @@
 #include "engine/point_spread.h"
 #include "engine/weights.h"
 #include "league/shot_splits.h"
+#include "narration/narrator.h"
 
 namespace tipline {
 namespace {
@@ -52,6 +53,7 @@ void PrepareGame() {
 void NewGame() {
   if (game.GameOver) return;
   game.GameDone = false;
+  BeginFilm();
   game.OffenseSide = 2;
   game.DefenseSide = 1;
   game.ActingSide = 1;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "aftermath/ticker.h"
 #include "engine/chances.h"
 #include "engine/clock.h"
 #include "engine/eligible.h"
@@ -183,6 +184,7 @@ void FindResult() {
   ClearPlay();
   HoldBall();
   SetPlays();
+  TickNowAndThen();
   SeasonForm();
   ValueOfShot();
   FaceDefender();

@@ -241,6 +241,8 @@ RulesRecord NewRules(const LeagueRequest& request, const Plan& plan) {
   RulesRecord rules = RulesOf(plan.preset->level, plan.year);
   rules.LeagueName = request.Name;
   rules.CleanMark = kCleaned;  // a new folder has nothing to clean
+  rules.GameFilmMark = 99;  // films of a season between computers are a gigabyte: only humans' games have one
+  rules.GameFilmsHuman = 1;
   for (int d = 1; d <= kDivisions; ++d)
     rules.DivisionName[d] = d <= plan.divisions ? kDivisionNames[d - 1] : "";
   return rules;

@@ -13,6 +13,7 @@
 #include "league/program.h"
 #include "league/schedule.h"
 #include "league/setup.h"
+#include "league/ticker_record.h"
 #include "platform/folders.h"
 
 namespace tipline {
@@ -237,6 +238,8 @@ constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)
 constexpr std::string_view kAnyFilm = "*.flm", kPhrases = "HCpbp.HCp";
 
 std::filesystem::path DefaultSchedule() { return LeagueFile(kDefaultScheduleFile); }
+std::filesystem::path ScoresFile() { return LeagueFile("SCORES"); }
+std::filesystem::path TickerFile() { return LeagueFile("HcTicker"); }
 std::filesystem::path AnyFilm() { return LeagueFile(kAnyFilm); }
 std::filesystem::path PhrasesFile() { return program.ProgramFolder / kPhrases; }
 
@@ -250,6 +253,10 @@ const FileFormat kFormats[] = {
                         "2 records: 1 the rules, below; 2 the pools of the tournament"),
     Format<ScheduleRecord>(kDefaultScheduleFile, DefaultSchedule, kScheduleSlotBytes,
                            "as many records as there are games; the rules name the file"),
+    Format<ScheduleRecord>("SCORES", ScoresFile, kScheduleSlotBytes,
+                           "a record for each game played, in order"),
+    Format<TickerRecord>("HcTicker", TickerFile, kTickerSlotBytes,
+                         "entries of the score ticker in the order of the games"),
     Format<DailyRecord>("HcDaily", DailyFile, kDailySlotBytes, "record number = RecNo of the player"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),

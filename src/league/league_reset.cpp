@@ -4,6 +4,7 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
+#include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
 #include "platform/dialogs.h"
@@ -99,9 +100,10 @@ bool ReadSeason() { return LoadAllTeams() && LoadSchedule(); }
 /// Of the season as it stands in memory.
 bool ClearResults(bool realLifeToo, const WorkLabel& label) {
   Say(label, "Deleting player stats..");
-  for (const char* name : {"HcHighlights.txt", "HcLeaders", "HcTop40", "HCTICKER", "HcInjuryHistory"}) {
+  for (const char* name : {"HcHighlights.txt", "HcLeaders", "HcTop40", "HcTicker", "HcInjuryHistory"}) {
     if (!Truncate(name)) return false;
   }
+  program.HighlightList.clear();
   if (!ZeroPlayers(realLifeToo)) return false;
   Say(label, "Deleting game scores..");
   if (!ZeroSchedule() || !Truncate("SCORES") || !DeleteBoxes(label)) return false;

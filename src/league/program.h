@@ -1,9 +1,11 @@
 #pragma once
 // Run-time flags and folders of the program.
+#include <deque>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "base/tables.h"
 #include "base/words.h"
 #include "league/name_tables.h"
 #include "league/phrase_table.h"
@@ -20,14 +22,15 @@ using GameKind =
     Word<GameKindWords>;  ///< "L" league game, "E" exhibition, scenario, or the bracket screen is open
 
 struct Program {
-  std::filesystem::path Home;           ///< the data home
-  std::filesystem::path ProgramFolder;  ///< era file, name files; serves all leagues
-  std::string DataDrive = "C:";         ///< drive of the data tree
-  std::vector<std::string> RecentList;  ///< tree texts of recent leagues, the current one first
-  NameTables Names;                     ///< read at their first use, by Names()
-  PhraseTable Phrases;                  ///< the announcer's, read at their first use
-  TranslationTable Translate;           ///< how the voice says names, read at its first use
-  std::filesystem::path LeagueFolder;   ///< folder of the open league, empty when none is
+  std::filesystem::path Home;             ///< the data home
+  std::filesystem::path ProgramFolder;    ///< era file, name files; serves all leagues
+  std::string DataDrive = "C:";           ///< drive of the data tree
+  std::vector<std::string> RecentList;    ///< tree texts of recent leagues, the current one first
+  NameTables Names;                       ///< read at their first use, by Names()
+  PhraseTable Phrases;                    ///< the announcer's, read at their first use
+  TranslationTable Translate;             ///< how the voice says names, read at its first use
+  std::filesystem::path LeagueFolder;     ///< folder of the open league, empty when none is
+  std::deque<std::string> HighlightList;  ///< highlights of the games played, newest first, at most 500
   tipline::GameKind GameKind;
   std::string BoxFileName;     ///< current box file of the league folder
   bool BoxRecordOnly = false;  ///< a load of a box restores no more than the scoring log
@@ -36,12 +39,17 @@ struct Program {
   std::string ReportName;      ///< what stands in the report file
   bool SilentReport = false;   ///< a report is worked out and not written
   bool PlayoffGame = false;
-  int CurrentRound = 0;        ///< playoff round 1 to 4, 0 none
-  bool ScenarioGame = false;   ///< the team pick screen sets up a scenario
-  bool TwoFolderGame = false;  ///< an exhibition of teams from two leagues: it is neither saved nor stored
-  bool ReplayLocked = false;   ///< a game, or its set-up, holds the data
-  bool FilmReplay = false;     ///< a film is looked at: it is spoken whatever the preferences say
-  bool Autoplaying = false;    ///< bulk play: the computer acts at every stop, nothing is shown
+  int CurrentRound = 0;           ///< playoff round 1 to 4, 0 none
+  int CurrentBracket = 0;         ///< its bracket 1 to 5
+  int CurrentSeriesGame = 0;      ///< game of the bracket, 1 to 15
+  int RoundWins = 0;              ///< wins that take a series of the round
+  Table<int, 1, 2> SeriesWins{};  ///< of each side in the series, before the running game
+  int SeriesHome = 2;             ///< side of the running game that opened the series at home
+  bool ScenarioGame = false;      ///< the team pick screen sets up a scenario
+  bool TwoFolderGame = false;     ///< an exhibition of teams from two leagues: it is neither saved nor stored
+  bool ReplayLocked = false;      ///< a game, or its set-up, holds the data
+  bool FilmReplay = false;        ///< a film is looked at: it is spoken whatever the preferences say
+  bool Autoplaying = false;       ///< bulk play: the computer acts at every stop, nothing is shown
 };
 
 extern Program program;

@@ -71,6 +71,27 @@ bool WriteRows(std::vector<ScheduleRecord> rows) {
   return true;
 }
 
+/// The slots of these rows hold the same games.
+bool HoldsRows(const std::filesystem::path& path, std::span<const int> rows) {
+  const RecordFile file(path, kScheduleSlotBytes);
+  if (file.Bytes() != static_cast<long long>(league.GameCount()) * kScheduleSlotBytes) return false;
+  return std::all_of(rows.begin(), rows.end(), [&file](int n) {
+    const ScheduleRecord& row = *league.Row(n);
+    ScheduleRecord there;
+    return file.Read(n, there) && there.Team == row.Team && IsOn(there, row.Month, row.Day);
+  });
+}
+
+bool WriteTheseRows(const std::filesystem::path& path, std::span<const int> rows) {
+  RecordFile::Slots slots;
+  for (const int n : rows) {
+    ScheduleRecord row = *league.Row(n);
+    row.Year = static_cast<i16>(league.ScheduleYear);
+    slots.emplace_back(n, RecordBytes(row));
+  }
+  return Written(RecordFile(path, kScheduleSlotBytes).WriteSlots(slots), path);
+}
+
 /// Place of a calendar month in the year of basketball, which begins in October.
 int PlaceInYear(int month) { return month >= 10 ? month - 9 : month + 3; }
 
@@ -126,6 +147,14 @@ bool SaveSchedule() {
     if (row.Status != 'D') kept.push_back(row);
   }
   return WriteRows(std::move(kept));
+}
+
+bool SaveScheduleRows(std::span<const int> rows) {
+  if (std::any_of(rows.begin(), rows.end(), [](int n) { return !league.Row(n); })) return false;
+  if (!HoldsRows(ScheduleFile(), rows) || !HoldsRows(SpareSchedule(), rows)) return SaveSchedule();
+  if (!WriteTheseRows(ScheduleFile(), rows)) return false;
+  WriteTheseRows(SpareSchedule(), rows);
+  return true;
 }
 
 bool UnloadSortedSchedule() {

@@ -45,7 +45,12 @@ bool LoadSchedule();
 /// failed.
 bool SaveSchedule();
 
-/// The same in order of the dates, October first: rows that have a date and two teams and are not deleted.
+/// The same for some rows that changed since the load. Where file and spare copy hold just the rows of memory
+/// no other slot is touched, so that a season's schedule need not be rewritten for every game.
+bool SaveScheduleRows(std::span<const int> rows);
+
+/// SaveSchedule in order of the dates, October first: rows that have a date and two teams and are not
+/// deleted.
 bool UnloadSortedSchedule();
 
 /// Writes `rows` as a schedule file; for callers outside the open league. False when that failed.

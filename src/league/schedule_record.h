@@ -41,7 +41,7 @@ void Describe(Record& r, Visitor&& field) {
   field(4, "Month", r.Month, "calendar month, 1 to 12");
   field(5, "Day", r.Day, "1 to 31");
   field(6, "Year", r.Year, "year in which the season begins; the same in all rows");
-  field(8, "Reserved12", r.Reserved12, "not used");
+  field(8, "Reserved12", r.Reserved12, "of a game played, in SCORES: the computer's date; else not used");
   field(20, "ScoringLeader", r.ScoringLeader, "leader of the game in points: name and points");
   field(40, "ReboundLeader", r.ReboundLeader, "leader in rebounds");
   field(60, "AssistLeader", r.AssistLeader, "leader in assists");
@@ -57,8 +57,10 @@ void Describe(Record& r, Visitor&& field) {
   field(141, "BlockLeader", r.BlockLeader, "leader in blocks; the last two characters are the number");
   field(161, "PairingStatus", r.PairingStatus, "mark of the tournament screen; blank in a schedule");
   field(162, "Reserved1", r.Reserved1, "not used");
-  field(163, "GameStats", r.GameStats,
-        "totals by (side, 1 FGA, 2 FGM, 3 FTA, 4 FTM, 5 F3A, 6 F3M, ...); zero in a schedule");
+  field(
+      163, "GameStats", r.GameStats,
+      "totals by (side, 1 FGA, 2 FGM, 3 FTA, 4 FTM, 5 F3A, 6 F3M, 7 Reb, 8 Ast, 9 To, 10 St, 11 Bk, 12 Pf); "
+      "zero in a schedule");
   field(187, "Reserved2", r.Reserved2, "not used");
   field(188, "GameType", r.GameType,
         "type of the date: 'R' season, 'P' pool, 'N' non-advancing, 'Q' and 'L' quarter finals, 'S', 'C'");

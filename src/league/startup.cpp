@@ -6,6 +6,7 @@
 #include "league/data_tree.h"
 #include "league/files.h"
 #include "league/league_reset.h"
+#include "league/office_files.h"
 #include "league/program.h"
 #include "league/rules.h"
 #include "league/schedule.h"
@@ -81,6 +82,7 @@ bool OpenLeague() {
   if (!LoadAllTeams()) return false;
   LoadLeaguePlayers();
   const bool schedule = LoadSchedule();
+  LoadScores();
   return schedule && (rules || SaveRules()) && CleanUnmarkedFolder();
 }
 

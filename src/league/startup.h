@@ -14,9 +14,9 @@ void MarkClosed();
 std::string StatusFilePath();
 
 /// Reads the league in `program.LeagueFolder` anew, as every opening does: setup written and read, rules,
-/// teams with their repairs, players, schedule; then the clean-up, where the folder never had it. A league
-/// without a rules file gets one, one without teams opens. False, told, when the schedule or that rules file
-/// can't be read or written, or the clean-up failed.
+/// teams with their repairs, players, schedule, games played; then the clean-up, where the folder never had
+/// it. A league without a rules file gets one, one without teams opens. False, told, when the schedule or
+/// that rules file can't be read or written, or the clean-up failed.
 bool OpenLeague();
 /// Makes a league of the seasons root current. False when there is no such folder, or it holds no league.
 bool OpenSeason(const std::string& name);

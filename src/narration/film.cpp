@@ -4,6 +4,7 @@
 
 #include "base/record_file.h"
 #include "engine/game_state.h"
+#include "league/program.h"
 #include "platform/dialogs.h"
 
 namespace tipline {
@@ -61,6 +62,12 @@ void Mend(FilmFrame& frame) {
 }
 
 }  // namespace
+
+bool FilmIsKept() {
+  const bool human = game.side[1].CoachMode == "H" || game.side[2].CoachMode == "H";
+  const bool wanted = (human ? league.rules.GameFilmsHuman : league.rules.GameFilmsComputer) == 1;
+  return wanted && program.GameKind == "L" && !program.LeagueFolder.empty() && !game.AnalysisMode;
+}
 
 void AddFilmFrames() {
   const int lines = game.commentary.PbpLineCount;

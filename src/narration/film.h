@@ -8,6 +8,10 @@
 
 namespace tipline {
 
+/// The rules keep the film of this game: one flag for games in which a human coaches, one for those between
+/// computers. Only league games of an open league are kept.
+bool FilmIsKept();
+
 /// A frame of the lines in the buffer, with period, clock and score; a play of more than thirty lines takes a
 /// second one. A frame behind the 500th overwrites it.
 void AddFilmFrames();

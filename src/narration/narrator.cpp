@@ -2,6 +2,7 @@
 #include "narration/narrator.h"
 
 #include "narration/describe.h"
+#include "narration/film.h"
 #include "narration/incident_lines.h"
 #include "narration/lines.h"
 #include "narration/show.h"
@@ -115,6 +116,8 @@ void TellIncident() {
 
 }  // namespace
 
+void BeginFilm() { game.FilmOn = FilmIsKept(); }
+
 void NoteScene() {
   if (!Listening()) return;
   Scene& s = game.scene;
@@ -163,7 +166,7 @@ void NarrateIncident() {
 void NarrateOpening() {
   if (!Listening()) return;
   NoteScene();
-  SpeakLineups();
+  if (game.CommentaryOn) SpeakLineups();
   DescribeOpening();
   ShowPlayByPlay();
 }
@@ -191,7 +194,7 @@ void NarratePeriodEnd() {
   if (!Listening()) return;
   DescribePeriodEnd();
   ShowPlayByPlay();
-  SpeakPeriodEnd();
+  if (game.CommentaryOn) SpeakPeriodEnd();
 }
 
 }  // namespace tipline

@@ -7,7 +7,10 @@
 namespace tipline {
 
 /// Plays are told; what-if runs of the chances are not.
-inline bool Listening() { return game.CommentaryOn && !game.AnalysisMode; }
+inline bool Listening() { return (game.CommentaryOn || game.FilmOn) && !game.AnalysisMode; }
+
+/// A game begins, its coaches chosen: it is filmed where the rules keep the film, heard or not.
+void BeginFilm();
 
 /// The play is decided, and about to be posted: keeps it as it stands, in `game.scene`.
 void NoteScene();

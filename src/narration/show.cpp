@@ -84,8 +84,10 @@ void ShowPlayByPlay() {
   ClearLaterCues();
   if (WomensGame()) RewriteGender();
   AddFilmFrames();
-  ShowLines();
-  if (game.commentary.TellsPlay) SpeakPlay();
+  if (game.CommentaryOn) {
+    ShowLines();
+    if (game.commentary.TellsPlay) SpeakPlay();
+  }
   game.commentary.PbpLineCount = 0;
 }
 

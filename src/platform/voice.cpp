@@ -3,20 +3,15 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
 #include <sstream>
-#include <thread>
 
-extern char** environ;
+#include "platform/command.h"
 
 namespace tipline::platform {
 namespace {
@@ -37,60 +32,12 @@ class SilentVoice : public Voice {
 SilentVoice silent;
 Voice* inUse = &silent;
 
-std::string FindCommand(const char* name) {
-  const char* path = std::getenv("PATH");
-  std::istringstream folders(path ? path : "");
-  for (std::string folder; std::getline(folders, folder, ':');) {
-    const std::string file = folder + "/" + name;
-    std::error_code error;
-    if (!folder.empty() && std::filesystem::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0) {
-      return file;
-    }
-  }
-  return "";
-}
-
-/// Starts a command with nothing to read; what it prints goes to `out`, or nowhere below 0. Its process id, 0
-/// when it could not be started.
-pid_t Start(const std::string& command, std::vector<std::string> arguments, int out) {
-  std::vector<char*> argv;
-  arguments.insert(arguments.begin(), command);
-  for (std::string& argument : arguments) argv.push_back(argument.data());
-  argv.push_back(nullptr);
-  posix_spawn_file_actions_t files;
-  if (posix_spawn_file_actions_init(&files) != 0) return 0;
-  posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-  posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  if (out >= 0) {
-    posix_spawn_file_actions_adddup2(&files, out, STDOUT_FILENO);
-  } else {
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-  }
-  pid_t process = 0;
-  if (posix_spawn(&process, command.c_str(), &files, nullptr, argv.data(), environ) != 0) process = 0;
-  posix_spawn_file_actions_destroy(&files);
-  return process;
-}
-
-/// Waits until the process is over, at the longest until `end`; then it is ended, and the answer is false.
-bool WaitFor(pid_t process, Clock::time_point end) {
-  while (waitpid(process, nullptr, WNOHANG) == 0) {
-    if (Clock::now() >= end) {
-      kill(process, SIGKILL);
-      waitpid(process, nullptr, 0);
-      return false;
-    }
-    std::this_thread::sleep_for(milliseconds(10));
-  }
-  return true;
-}
-
 /// What a command prints in at most a few seconds.
 std::string OutputOf(const std::string& command, const std::vector<std::string>& arguments) {
   constexpr std::size_t kMost = 200'000;
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) return "";
-  const pid_t process = Start(command, arguments, ends[1]);
+  const pid_t process = StartCommand(command, arguments, ends[1]);
   close(ends[1]);
   std::string output;
   const auto end = Clock::now() + milliseconds(3000);
@@ -103,7 +50,7 @@ std::string OutputOf(const std::string& command, const std::vector<std::string>&
     output.append(part.data(), static_cast<std::size_t>(bytes));
   }
   close(ends[0]);
-  if (process > 0) (void)WaitFor(process, Clock::now() + milliseconds(500));
+  if (process > 0) (void)WaitForCommand(process, Clock::now() + milliseconds(500));
   return output;
 }
 
@@ -166,14 +113,15 @@ void SpeechDispatcher::Speak(std::string_view text, bool wait) {
   if (!voice_.empty()) arguments.insert(arguments.end(), {"--synthesis-voice", voice_});
   if (wait) arguments.emplace_back("--wait");
   arguments.insert(arguments.end(), {"--", std::string(text)});
-  const pid_t process = Start(command_, arguments, -1);
+  const pid_t process = StartCommand(command_, arguments, -1);
   if (process <= 0) return;
   if (!wait) {
     speaking_.push_back(process);
     return;
   }
   // The slowest speaker takes a third of a second for a letter; then something hangs.
-  hung_ = !WaitFor(process, Clock::now() + milliseconds(3000 + 300 * static_cast<int>(text.size())));
+  hung_ = !WaitForCommand(process, Clock::now() + milliseconds(3000 + 300 * static_cast<int>(text.size())))
+               .inTime;
   if (Finished) Finished();
 }
 

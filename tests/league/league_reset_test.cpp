@@ -66,17 +66,17 @@ TEST_F(Resets, ASeasonBeginsAnew) {
   pools.DateType[6][11] = "Q";
   WriteRecord(pools, league.tournamentPools.data());
   ASSERT_TRUE(SaveSchedule() && SaveRules());
-  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "BOX1.BOX", "box2.box", "GAMELOGS"})
+  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "HcTicker", "BOX1.BOX", "box2.box", "GAMELOGS"})
     ASSERT_TRUE(WriteWholeFile(LeagueFile(name), "something"));
   Texts labels;
   ASSERT_TRUE(ResetLeague(false, [&labels](const std::string& text) { labels.push_back(text); }));
   ASSERT_EQ(labels.size(), 5u);
   EXPECT_EQ(labels[3], "Deleting box 2 of 2...");
   EXPECT_EQ(dialogs.told, Texts{"League Reset Complete!"});
-  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40"})
+  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "HcTicker"})
     EXPECT_EQ(ReadWholeFile(LeagueFile(name)), "") << name;
   EXPECT_FALSE(std::filesystem::exists(LeagueFile("BOX1.BOX")) ||
-               std::filesystem::exists(LeagueFile("HCTICKER")));
+               std::filesystem::exists(LeagueFile("HcHighlights.txt")));
   EXPECT_EQ(ReadWholeFile(LeagueFile("GAMELOGS")), "something");
   EXPECT_EQ(Man(1).Stats[2].G, 0);
   EXPECT_EQ(Man(3).Stats[1].G, 70) << "real life stays";
