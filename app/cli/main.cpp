@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "base/random.h"
+#include "cli/leader_options.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
 #include "cli/stop_signals.h"
@@ -38,6 +39,7 @@ struct Arguments {
   cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
   cli::PhraseArguments phrases;
+  cli::LeaderArguments leaders;
   bool speak = false;
 };
 
@@ -224,6 +226,8 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
+  if (app.got_subcommand("leaders")) return cli::RunLeaders(app, a.leaders, a.common);
+  if (app.got_subcommand("records")) return cli::ShowRecords(a.leaders.Records, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
@@ -256,6 +260,7 @@ int main(int argc, char** argv) {
   AddCoach(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
+  cli::AddLeaders(app, a.leaders, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -278,7 +283,7 @@ int main(int argc, char** argv) {
     LoadSetup();
     if (!MayStart(terminal, a.force)) return 1;
     const Opened opened;
-    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes;
+    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes || a.leaders.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");
