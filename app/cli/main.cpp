@@ -7,6 +7,7 @@
 
 #include "base/random.h"
 #include "cli/news_commands.h"
+#include "cli/leader_options.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
 #include "cli/standings_command.h"
@@ -41,6 +42,7 @@ struct Arguments {
   cli::ScheduleArguments schedule;
   cli::PhraseArguments phrases;
   cli::NewsArguments news;
+  cli::LeaderArguments leaders;
   bool speak = false;
   cli::StandingsArguments standings;
 };
@@ -240,6 +242,8 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
   if (app.got_subcommand("standings")) return cli::ShowStandings(a.standings, a.common);
   if (app.got_subcommand("power")) return cli::ShowPower(a.common);
+  if (app.got_subcommand("leaders")) return cli::RunLeaders(app, a.leaders, a.common);
+  if (app.got_subcommand("records")) return cli::ShowRecords(a.leaders.Records, a.common);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
   std::cout << app.help();
   return 0;
@@ -274,6 +278,7 @@ int main(int argc, char** argv) {
   cli::AddSchedule(app, a.schedule, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
   cli::AddNews(app, a.news, a.common);
+  cli::AddLeaders(app, a.leaders, a.common);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -296,7 +301,7 @@ int main(int argc, char** argv) {
     LoadSetup();
     if (!MayStart(terminal, a.force)) return 1;
     const Opened opened;
-    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes;
+    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes || a.leaders.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

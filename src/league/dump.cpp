@@ -9,6 +9,7 @@
 #include "league/daily.h"
 #include "league/files.h"
 #include "league/film_record.h"
+#include "league/leader_tables.h"
 #include "league/phrase_table.h"
 #include "league/program.h"
 #include "league/schedule.h"
@@ -237,6 +238,9 @@ constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)
 
 constexpr std::string_view kAnyFilm = "*.flm", kPhrases = "HCpbp.HCp";
 
+std::filesystem::path RecordsFile() { return LeagueFile("HCRECORDS"); }
+std::filesystem::path LeadersFile() { return LeagueFile("HcLeaders"); }
+std::filesystem::path Top40File() { return LeagueFile("HcTop40"); }
 std::filesystem::path DefaultSchedule() { return LeagueFile(kDefaultScheduleFile); }
 std::filesystem::path ScoresFile() { return LeagueFile("SCORES"); }
 std::filesystem::path TickerFile() { return LeagueFile("HcTicker"); }
@@ -258,6 +262,11 @@ const FileFormat kFormats[] = {
     Format<TickerRecord>("HcTicker", TickerFile, kTickerSlotBytes,
                          "entries of the score ticker in the order of the games"),
     Format<DailyRecord>("HcDaily", DailyFile, kDailySlotBytes, "record number = RecNo of the player"),
+    Format<RecordRow>("HCRECORDS", RecordsFile, kRecordSlotBytes,
+                      "800 records: 1 to 400 the season's records by category, teams from 201 on; 401 to 800 "
+                      "those of a game"),
+    Format<LeaderTable>("HcLeaders", LeadersFile, kLeaderSlotBytes, "1 record"),
+    Format<Top40Table>("HcTop40", Top40File, kLeaderSlotBytes, "1 record"),
     Format<EraRecord>("Basketball-Era.dat", EraFile, kEraSlotBytes,
                       "305 records: 1 to 105 the pro seasons 1946 to 2050, 201 to 305 the college seasons"),
     Format<SetupRecord>("HcSetup2023.dat", SetupFile, kSetupSlotBytes, "1 record: the user's preferences"),

@@ -9,6 +9,7 @@
 #include "league/coach_record.h"
 #include "league/era_record.h"
 #include "league/player_record.h"
+#include "league/record_row.h"
 #include "league/rules_record.h"
 #include "league/schedule_record.h"
 #include "league/team_record.h"
@@ -51,6 +52,9 @@ struct League {
 
   std::vector<ScheduleRecord> Scores =
       std::vector<ScheduleRecord>(1);  ///< games played; index = row, 0 unused
+
+  tipline::RecordBook RecordBook;   ///< the one that was loaded last, by LoadRecordBook
+  tipline::RecordBook ShelvedBook;  ///< the one before it: the league's beside that of all leagues
 
   std::string LeagueFolderName;       ///< last part of the league folder
   std::filesystem::path PhotoFolder;  ///< where this league's player photos lie

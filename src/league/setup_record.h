@@ -144,11 +144,13 @@ void Describe(Record& r, Visitor&& field) {
   field(106, "StatViewName", r.StatViewName, "names of the stat views, the built-in ten first");
   field(2126, "StatViewColumns", r.StatViewColumns,
         "for each view, up to 25 column numbers of the player report");
-  field(7176, "LeaderBoardColumns", r.LeaderBoardColumns, "for each board, its column numbers");
+  field(7176, "LeaderBoardColumns", r.LeaderBoardColumns,
+        "by (place, board): the columns of the user's leader reports; 300 begins a section, its key column "
+        "follows; 0 ends them");
   field(11868, "LeaderBoardName", r.LeaderBoardName, "names of the leader boards, the built-in seven first");
   field(12888, "LeaderBoardState", r.LeaderBoardState, "remembered choices of the leader screen");
-  field(12891, "LeaderBoardMain", r.LeaderBoardMain, "main list pick per board");
-  field(12942, "LeaderBoardSub", r.LeaderBoardSub, "sub-list pick per board");
+  field(12891, "LeaderBoardMain", r.LeaderBoardMain, "per board: 0 'Top 5' to 9 'Top 50'");
+  field(12942, "LeaderBoardSub", r.LeaderBoardSub, "per board: its team, low byte; 0 'All Teams'");
   field(12993, "PlayCallFrequency", r.PlayCallFrequency[1],
         "tenths of the plays that the human calls, by period, 5 overtime: more than 6 minutes left");
   field(12998, "PlayCallFrequency", r.PlayCallFrequency[2],
@@ -159,7 +161,8 @@ void Describe(Record& r, Visitor&& field) {
   field(13010, "NotUsed13010", r.NotUsed13010, "not used");
   field(13014, "PBPdelayscroll", r.PBPdelayscroll, "'Pause Between Plays', 1 to 10; default 3");
   field(13016, "NotUsed13016", r.NotUsed13016, "not used");
-  field(13019, "LeaderBoardDisplay", r.LeaderBoardDisplay, "per board, display list pick");
+  field(13019, "LeaderBoardDisplay", r.LeaderBoardDisplay,
+        "per board: bit 0 'Real Stats', above it the high bits of the team");
   field(13070, "HelpOption", r.HelpOption, "play-calling help, 1 or 2: 'Coverage' or 'Percentages'");
   field(13071, "ComputerCheck", r.ComputerCheck,
         "'View Computer vs Computer Plays': 0 played at once, 1 shown");
