@@ -8,6 +8,7 @@
 #include "base/random.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
+#include "cli/season_options.h"
 #include "cli/stop_signals.h"
 #include "cli/terminal.h"
 #include "league/dump.h"
@@ -37,6 +38,7 @@ struct Arguments {
   cli::CoachRequest coach;
   cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
+  cli::SeasonArguments season;
   cli::PhraseArguments phrases;
   bool speak = false;
 };
@@ -222,6 +224,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
+  if (app.got_subcommand("season")) return cli::RunSeason(app, a.season, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
   if (app.got_subcommand("start") || cli::Interactive()) return cli::Start(a.common);
@@ -255,6 +258,7 @@ int main(int argc, char** argv) {
   AddPlay(app, a);
   AddCoach(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
+  cli::AddSeason(app, a.season, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
   try {
     app.parse(argc, argv);
@@ -278,7 +282,7 @@ int main(int argc, char** argv) {
     LoadSetup();
     if (!MayStart(terminal, a.force)) return 1;
     const Opened opened;
-    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes;
+    terminal.AssumeYes = a.yes || a.schedule.Yes || a.season.Yes || a.phrases.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

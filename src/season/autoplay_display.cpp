@@ -93,9 +93,8 @@ std::vector<CalendarDate> UpdateAutoplayCalendarDates() {
     ++at->Games;
     at->Played += row.Status == 'P';
   });
-  std::sort(dates.begin(), dates.end(), [](const CalendarDate& a, const CalendarDate& b) {
-    return DateKey(a.Date) < DateKey(b.Date);
-  });
+  std::sort(dates.begin(), dates.end(),
+            [](const CalendarDate& a, const CalendarDate& b) { return DateKey(a.Date) < DateKey(b.Date); });
   return dates;
 }
 

@@ -11,7 +11,7 @@ namespace tipline {
 /// A game in the list of the day.
 struct SkedLine {
   int Row = 0;
-  std::string Status;    ///< "Unplayed", "Play Next", the score, or "***** Now Playing *****"
+  std::string Status;  ///< "Unplayed", "Play Next", the score, or "***** Now Playing *****"
   std::string Visitor, Home, Points, Rebounds, Assists;
   Table<char, 1, 2> CoachKind{};
 };

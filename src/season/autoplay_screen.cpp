@@ -98,13 +98,15 @@ bool HCAUTOPLAY::SaveMarks() {
   return saved;
 }
 
-int HCAUTOPLAY::NextRow() {
+MarkedGames& HCAUTOPLAY::Marked() {
   if (gathered_ != league.GameCount()) {
     marked_.Gather();
     gathered_ = league.GameCount();
   }
-  return marked_.Next();
+  return marked_;
 }
+
+const ScheduleRecord* HCAUTOPLAY::Upcoming() { return league.Row(Marked().Peek()); }
 
 void HCAUTOPLAY::EndRun() {
   AutoRunning = false;
@@ -153,7 +155,7 @@ void HCAUTOPLAY::PlayCommandChosen() {
   }
   AutoRunning = true;
   ContinueRun = GamesMarked = false;
-  const int row = NextRow();
+  const int row = Marked().Next();
   if (row == 0) return EndRun();
   TakeRow(row);
   if (marked_.UndecidedUpTo(RowAt(row))) {
@@ -185,8 +187,8 @@ bool HCAUTOPLAY::BeginGame() {
   game.NeutralGame = row.NeutralSite == 1 || league.rules.NeutralCheck == 1;
   if (SeasonSeed) {
     const auto number = [](int n) { return static_cast<std::uint64_t>(n); };
-    SeedRandom(SeedOf({*SeasonSeed, number(Replay), number(DateKey(row)), number(row.Team[1]),
-                       number(row.Team[2])}));
+    SeedRandom(SeedOf(
+        {*SeasonSeed, number(Replay), number(DateKey(row)), number(row.Team[1]), number(row.Team[2])}));
   }
   if (!LoadBothTeams()) return false;
   PrepareGame();

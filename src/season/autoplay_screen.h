@@ -35,15 +35,15 @@ inline constexpr int kMostReplays = 99;  ///< of the list behind the bulk comman
 
 struct HCAUTOPLAY {
   // The run.
-  bool GamesMarked = false;  ///< a row is marked to be played next
-  bool ContinueRun = false;  ///< the run goes on by itself: an empty selection is its end and no fault
-  bool AutoRunning = false;  ///< the timer may start the next game
-  bool StopRun = false;      ///< no further game is started
-  bool GameLost = false;     ///< the last game could not be loaded or kept; the run has stopped
-  bool NoCompleteBox = false;         ///< the end of a run is not told
+  bool GamesMarked = false;    ///< a row is marked to be played next
+  bool ContinueRun = false;    ///< the run goes on by itself: an empty selection is its end and no fault
+  bool AutoRunning = false;    ///< the timer may start the next game
+  bool StopRun = false;        ///< no further game is started
+  bool GameLost = false;       ///< the last game could not be loaded or kept; the run has stopped
+  bool NoCompleteBox = false;  ///< the end of a run is not told
   bool IncompletePoolPicture = false;  ///< the cup's dates are not all set; play is possible all the same
-  int PlayingRow = 0;        ///< "***** Now Playing *****"; 0 none
-  GameDate CurrentDate;      ///< of the league: the date of the game played last, at first of the next one
+  int PlayingRow = 0;                  ///< "***** Now Playing *****"; 0 none
+  GameDate CurrentDate;  ///< of the league: the date of the game played last, at first of the next one
   std::unique_ptr<NowPlaying> Live;  ///< while the tab of the running game is open
 
   /// With a seed every game draws from a seed of its own, made of this one, its date and teams, and `Replay`:
@@ -63,9 +63,9 @@ struct HCAUTOPLAY {
 
   // What is to be played. A selection is of the current date.
   std::vector<std::string> SetSelectLists() const;  ///< captions of SelectList
-  void SelectList(int index);      ///< 0 the day, 1 its month, 2 up to the day, 3 all games
-  void UnselectList(int index);    ///< 0 the day, 1 its month, 2 all games
-  void PlayDayCommand(int index);  ///< marks as SelectList does, and runs
+  void SelectList(int index);                       ///< 0 the day, 1 its month, 2 up to the day, 3 all games
+  void UnselectList(int index);                     ///< 0 the day, 1 its month, 2 all games
+  void PlayDayCommand(int index);                   ///< marks as SelectList does, and runs
   std::string PlayDayCaption(int index) const;
   void SelectTeamList(int team);  ///< after asking, all games of a team; runs
   void UnselectTeamList(int team, int index);
@@ -86,6 +86,8 @@ struct HCAUTOPLAY {
   void GamePlayCommand(int row);
   /// The next game of the run; the end of the run when there is none.
   void PlayCommandChosen();
+  /// The game that the run comes to next; nullptr at its end.
+  const ScheduleRecord* Upcoming();
   /// Between two games: starts the next one while the run goes on. A front end calls it until AutoRunning is
   /// false.
   void Timer1();
@@ -114,7 +116,7 @@ struct HCAUTOPLAY {
   bool SetAllCoaches(std::string_view kind);
   void RunRow(int row);
 
-  int NextRow();
+  MarkedGames& Marked();
   void EndRun();
   void StopAtUndecided();
   void Abandon();

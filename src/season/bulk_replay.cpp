@@ -80,9 +80,9 @@ std::string Percentage(int made, int tried) {
 
 std::string SideCells(const ReplaySide& side, int games) {
   const auto each = [games](int sum) { return Tenths(games > 0 ? static_cast<double>(sum) / games : 0); };
-  return each(side.FGM) + "," + each(side.FGA) + "," + Percentage(side.FGM, side.FGA) + "," +
-         each(side.F3M) + "," + each(side.F3A) + "," + Percentage(side.F3M, side.F3A) + "," +
-         each(side.FTM) + "," + each(side.To) + "," + each(side.Points);
+  return each(side.FGM) + "," + each(side.FGA) + "," + Percentage(side.FGM, side.FGA) + "," + each(side.F3M) +
+         "," + each(side.F3A) + "," + Percentage(side.F3M, side.F3A) + "," + each(side.FTM) + "," +
+         each(side.To) + "," + each(side.Points);
 }
 
 /// Files that tell of games; a season begins without them.
@@ -165,8 +165,13 @@ bool EverybodyIsFit() {
 class Replays {
  public:
   Replays(HCAUTOPLAY& screen, AutoplayScreens& screens, int replays, int jobs)
-      : screen_(screen), screens_(screens), replays_(replays), jobs_(Clamp(jobs, 1, replays)),
-        league_(program.LeagueFolder), seed_(SeedOfAll(screen)), speed_(setup.ComputerCheck) {}
+      : screen_(screen),
+        screens_(screens),
+        replays_(replays),
+        jobs_(Clamp(jobs, 1, replays)),
+        league_(program.LeagueFolder),
+        seed_(SeedOfAll(screen)),
+        speed_(setup.ComputerCheck) {}
   ~Replays() { setup.ComputerCheck = speed_; }
 
   bool Run();
@@ -310,8 +315,8 @@ std::string BulkReplayCsv(const ReplayTotals& totals) {
     if (league.team[t].TeamActive != 1 || sum.Seasons == 0) continue;
     text += CsvField(TeamName(league.team[t])) + "," + std::to_string(sum.Seasons) + "," +
             Tenths(static_cast<double>(sum.Wins) / sum.Seasons) + "," +
-            Tenths(static_cast<double>(sum.Losses) / sum.Seasons) + "," +
-            SideCells(sum.Side[1], sum.Games) + "," + SideCells(sum.Side[2], sum.Games) + "\n";
+            Tenths(static_cast<double>(sum.Losses) / sum.Seasons) + "," + SideCells(sum.Side[1], sum.Games) +
+            "," + SideCells(sum.Side[2], sum.Games) + "\n";
   }
   return text;
 }

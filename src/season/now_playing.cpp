@@ -158,8 +158,7 @@ bool NowPlaying::SomebodyHurtOrOut() {
   const bool hurt = kind == IncidentKind::kInjury || kind == IncidentKind::kTemporaryInjury;
   const int before = ejected_;
   ejected_ = EjectedMen();
-  return (hurt && league.rules.InjuryCheck == 1) ||
-         (ejected_ > before && league.rules.EjectionCheck == 1);
+  return (hurt && league.rules.InjuryCheck == 1) || (ejected_ > before && league.rules.EjectionCheck == 1);
 }
 
 /// Once a game: the last minutes of a game that is not decided.

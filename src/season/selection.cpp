@@ -93,13 +93,18 @@ void MarkedGames::Gather() {
   });
 }
 
-int MarkedGames::Next() {
-  while (next_ < rows_.size()) {
-    const int n = rows_[next_++];
-    const ScheduleRecord* row = league.Row(n);
-    if (row && HasMark(*row, 'N')) return n;
+int MarkedGames::Peek() {
+  for (; next_ < rows_.size(); ++next_) {
+    const ScheduleRecord* row = league.Row(rows_[next_]);
+    if (row && HasMark(*row, 'N')) return rows_[next_];
   }
   return 0;
+}
+
+int MarkedGames::Next() {
+  const int row = Peek();
+  if (row > 0) ++next_;
+  return row;
 }
 
 }  // namespace tipline

@@ -51,8 +51,9 @@ std::vector<int> RowsInOrder(char mark, const Selection& selection = {});
 class MarkedGames {
  public:
   void Gather();
-  /// The next row that still is marked; 0 at the end.
-  int Next();
+  /// The next row that still is marked, without taking it; 0 at the end.
+  int Peek();
+  int Next();  ///< takes it
   /// A game that is not played yet has an undecided team, on the row's date or before.
   bool UndecidedUpTo(const ScheduleRecord& row) const { return DateKey(row) >= firstUndecided_; }
 
