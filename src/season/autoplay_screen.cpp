@@ -1,7 +1,8 @@
 // The run: the next game, played, kept, and what ends it.
 #include "season/autoplay_screen.h"
 
-#include "base/calendar.h"
+#include <algorithm>
+
 #include "base/random.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -52,6 +53,18 @@ bool SideIsHuman() { return game.side[1].CoachMode == "H" || game.side[2].CoachM
 
 /// The books have the game; a league in memory alone has none to be kept in.
 bool IsKept() { return game.GameOver && (game.InTheBooks || program.LeagueFolder.empty()); }
+
+/// The league's table of men is what the files hold: the next game is tuned by a sample of it, and a season
+/// that was stopped and read again has to go on in the same way.
+void FollowInMemory() {
+  for (int side = 1; side <= 2; ++side) {
+    for (int slot = 1; slot <= kRosterSlots; ++slot) {
+      const PlayerRecord& man = PlayerAt(side, slot);
+      const auto row = static_cast<std::size_t>(std::max<i16>(man.RecNo, 0));
+      if (OnTeam(side, slot) && row > 0 && row < league.player.size()) league.player[row] = man;
+    }
+  }
+}
 
 }  // namespace
 
@@ -245,7 +258,9 @@ void HCAUTOPLAY::AfterGame() {
     Reselected();
   } else if (!IsKept()) {
     Abandon();
-  } else if (SideIsHuman() || setup.ComputerCheck == 1) {
+  } else {
+    FollowInMemory();
+    if (!SideIsHuman() && setup.ComputerCheck == 0) return;
     DropMarks();
     AutoRunning = false;
     Reselected();
