@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <iomanip>
 #include <ostream>
 #include <stdexcept>
@@ -84,6 +85,7 @@ int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request
   const int games = screen.ChooseFirst({}, options.games > 0 ? options.games : league.GameCount());
   std::vector<double> times;
   const auto start = Clock::now();
+  const std::clock_t cpu = std::clock();
   while (screen.Upcoming()) {
     const auto before = Clock::now();
     screen.ContinueRun = true;
@@ -92,11 +94,14 @@ int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request
     times.push_back(Seconds(before));
   }
   const double rate = static_cast<double>(times.size()) / Seconds(start);
+  const double busy = static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
   out << title << ": " << games << " games, " << std::fixed << std::setprecision(0) << rate
       << " a second; at least " << kAim << ", wished " << kWish << ": " << (rate < kAim ? "too slow" : "ok")
       << '\n';
+  out << "processor time " << std::setprecision(2) << busy / static_cast<double>(times.size()) * 1000
+      << " milliseconds a game\n";
   PrintParts(out, times);
   PrintSanity(out);
   out << "peak memory " << usage.ru_maxrss / 1024 << " MiB\n";

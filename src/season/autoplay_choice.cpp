@@ -1,5 +1,6 @@
 // What is marked to be played, and who coaches.
 #include "base/calendar.h"
+#include "league/setup.h"
 #include "platform/dialogs.h"
 #include "season/autoplay_screen.h"
 #include "season/bulk_replay.h"
@@ -102,6 +103,11 @@ bool HCAUTOPLAY::SetAllCoaches(std::string_view kind) {
     row->CoachKind.Fill(kind);
   }
   return SaveMarks();
+}
+
+bool HCAUTOPLAY::SetSpeed(u8 speed) {
+  setup.ComputerCheck = speed;
+  return SaveSetup();
 }
 
 void HCAUTOPLAY::RunRow(int row) {

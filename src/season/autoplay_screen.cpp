@@ -269,6 +269,10 @@ void HCAUTOPLAY::AfterGame() {
 
 void HCAUTOPLAY::Timer1() {
   if (!game.GameOver || !AutoRunning || StopRun) return;
+  if (Live && Live->FinishRequested) {  // the game was to be finished, and no other begun
+    AutoRunning = false;
+    return Reselected();
+  }
   ContinueRun = true;
   PlayCommandChosen();
 }

@@ -80,6 +80,10 @@ struct HCAUTOPLAY {
   bool SetAllCoachesHumanMenu() { return SetAllCoaches("H"); }
   bool SetAAllCoachesComputerMenu() { return SetAllCoaches("C"); }
 
+  // How games of two computers go, kept in the user's setup. False, told, when that can't be written.
+  bool InstantOption() { return SetSpeed(0); }
+  bool RegularOption() { return SetSpeed(1); }  ///< shown play by play; the run then stops behind each game
+
   // The run.
   void GameAutoCommand(int row);  ///< marks this game as well, and runs
   /// The same on the game screen: both coaches are human when both were computers.
@@ -99,7 +103,7 @@ struct HCAUTOPLAY {
   // Of the game that is looked at.
   void ContinueCommand();
   void NextPlayCommand();
-  void FinishGameCommand();
+  void FinishGameCommand();  ///< to the end without a pause; the timer then begins no other game
   void BoxCommand();
   /// Takes the game over as it stands, both sides; beeps when it is decided.
   bool JoinGameCommand();
@@ -114,6 +118,7 @@ struct HCAUTOPLAY {
   void Reselected();
   bool ToggleCoach(int row, int side);
   bool SetAllCoaches(std::string_view kind);
+  static bool SetSpeed(u8 speed);
   void RunRow(int row);
 
   MarkedGames& Marked();
