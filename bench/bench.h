@@ -33,6 +33,9 @@ int Schedules(std::ostream& out, const BenchOptions& options);
 /// What interrupts games, in a hundred of them, and the share of games that men miss over a season.
 int Incidents(std::ostream& out, const BenchOptions& options);
 
+/// A season of a new league played on disk; with `season` one of a college league of 360 teams as well.
+int Season(std::ostream& out, const BenchOptions& options);
+
 /// How varied the commentary is, what is wrong in it, what is never said, and what it costs.
 int Commentary(std::ostream& out, const BenchOptions& options);
 

@@ -6,10 +6,11 @@
 #include <iostream>
 
 #include "base/random.h"
-#include "cli/news_commands.h"
 #include "cli/leader_options.h"
+#include "cli/news_commands.h"
 #include "cli/phrase_commands.h"
 #include "cli/schedule_options.h"
+#include "cli/season_options.h"
 #include "cli/standings_command.h"
 #include "cli/stop_signals.h"
 #include "cli/terminal.h"
@@ -40,6 +41,7 @@ struct Arguments {
   cli::CoachRequest coach;
   cli::DailyRequest daily;
   cli::ScheduleArguments schedule;
+  cli::SeasonArguments season;
   cli::PhraseArguments phrases;
   cli::NewsArguments news;
   cli::LeaderArguments leaders;
@@ -237,6 +239,7 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
+  if (app.got_subcommand("season")) return cli::RunSeason(app, a.season, a.common);
   if (app.got_subcommand("phrases")) return cli::RunPhrases(app, a.phrases, a.common);
   if (cli::IsNews(app)) return cli::RunNews(app, a.news, a.common);
   if (app.got_subcommand("say")) return cli::RunSay(app, a.phrases);
@@ -276,6 +279,7 @@ int main(int argc, char** argv) {
   AddCoach(app, a);
   AddStandings(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
+  cli::AddSeason(app, a.season, a.common);
   cli::AddPhrases(app, a.phrases, a.common);
   cli::AddNews(app, a.news, a.common);
   cli::AddLeaders(app, a.leaders, a.common);
@@ -301,7 +305,7 @@ int main(int argc, char** argv) {
     LoadSetup();
     if (!MayStart(terminal, a.force)) return 1;
     const Opened opened;
-    terminal.AssumeYes = a.yes || a.schedule.Yes || a.phrases.Yes || a.leaders.Yes;
+    terminal.AssumeYes = a.yes || a.schedule.Yes || a.season.Yes || a.phrases.Yes || a.leaders.Yes;
     const int code = RunCommand(app, a);
     std::cout.flush();
     return std::cout || code != 0 ? code : cli::Refuse("the output can't be written");

@@ -25,7 +25,32 @@ extern "C" void Stopped(int signal) {
   _exit(128 + signal);
 }
 
+volatile std::sig_atomic_t noted = 0;
+constexpr int kNoted[] = {SIGINT, SIGTERM, SIGHUP};
+
+extern "C" void Note(int signal) {
+  noted = signal;
+  for (const int each : kNoted) std::signal(each, Stopped);
+}
+
 }  // namespace
+
+StopRequest::StopRequest() {
+  noted = 0;
+  Resume();
+}
+
+StopRequest::~StopRequest() { Pause(); }
+
+int StopRequest::Signal() { return noted; }
+
+void StopRequest::Pause() {
+  for (const int each : kNoted) std::signal(each, Stopped);
+}
+
+void StopRequest::Resume() {
+  for (const int each : kNoted) std::signal(each, Note);
+}
 
 void CloseOnSignals(const std::string& statusFile) {
   std::strncpy(closedFile, statusFile.c_str(), sizeof closedFile - 1);

@@ -16,6 +16,7 @@
 
 namespace tipline {
 
+class PlayWatcher;
 struct SayingTally;
 
 inline constexpr int kMinute = 600;  ///< tenths
@@ -416,6 +417,8 @@ struct Game : GameRun {
   bool AnalysisMode = false;       ///< the chances are run as a what-if
   tipline::WatchUntil WatchUntil;  ///< both sides run unattended up to this mark
   bool CommentaryOn = false;       ///< somebody listens, or a film is made: plays are told
+  PlayWatcher* Watcher = nullptr;  ///< looks on while the game runs in one go; nullptr: nobody
+  bool ExitRequested = false;      ///< the game is broken off: the cycle of its stops is left
   SayingTally* Tally = nullptr;    ///< counts what is said, for a survey; nullptr: nobody counts
 };
 

@@ -7,6 +7,7 @@
 #include "engine/commands.h"
 #include "engine/eligible.h"
 #include "engine/engine.h"
+#include "engine/play_watch.h"
 #include "engine/resolution.h"
 #include "engine/shot_selection.h"
 #include "league/program.h"
@@ -30,8 +31,10 @@ void ChargePass(bool ballStays) {
   game.possession.PassedThisPossession = 1;
   if (game.GameClock - game.PlayTime <= 1) {
     game.PlayTime = game.GameClock;
+    const int period = game.Period;
     EndPeriodNotice();
     EndPlay();
+    if (game.Watcher) ShowToWatcher(game.OffenseSide, period, false);
     return;
   }
   EndPlay();

@@ -291,7 +291,7 @@ bool NextStop() {
 }  // namespace
 
 void SetPlayBox() {
-  while (NextStop()) {
+  while (!game.ExitRequested && NextStop()) {
   }
 }
 

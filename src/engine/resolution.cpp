@@ -12,6 +12,7 @@
 #include "engine/fatigue.h"
 #include "engine/incidents.h"
 #include "engine/outcome.h"
+#include "engine/play_watch.h"
 #include "engine/resolution_steps.h"
 #include "engine/shot_selection.h"
 #include "engine/weights.h"
@@ -194,6 +195,7 @@ void FindResult() {
   if (game.GameOver) return;
   if (PlayIsInterrupted()) {
     NarrateIncident();
+    if (game.Watcher) ShowToWatcher(game.OffenseSide, game.Period);
     RestoreCoverage();
     ClearOrders();
     game.AfterTimeout = IsTimeout(game.GameState) ? 1 : 0;

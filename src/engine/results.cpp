@@ -7,6 +7,7 @@
 #include "engine/fatigue.h"
 #include "engine/incidents.h"
 #include "engine/outcome.h"
+#include "engine/play_watch.h"
 #include "engine/who.h"
 #include "narration/narrator.h"
 
@@ -244,6 +245,7 @@ void PostPlay() {
   LogPlay(side, kind);
   NarratePlay();
   if (game.PlayKind == "ENDPERIOD" || !IsFreeThrow(kind)) EndPlay();
+  if (game.Watcher) ShowToWatcher(side, period);
   if (game.GameOver || game.Period != period || IsJump(game.GameState)) return;
   if (game.PlayResult == "IN-OB-DEF" || game.PlayResult == "IN-5") {
     game.ShotClock = std::min(FullShotClock(), game.GameClock);

@@ -11,15 +11,6 @@
 namespace tipline {
 namespace {
 
-void TakeDate(const ScheduleRecord& row) {
-  constexpr int kJanuary = 5;  // as a season month
-  game.GameDay = row.Day;
-  game.GameCalendarMonth = row.Month;
-  game.GameYear = league.ScheduleGame[1].Year;
-  game.GameMonth = SeasonMonth(row.Month);
-  if (game.GameMonth >= kJanuary) ++game.GameYear;
-}
-
 /// A row names no team yet, or one that was removed since.
 bool TeamsSelected(const ScheduleRecord& row) {
   Roster roster;
@@ -39,6 +30,15 @@ void PrepareAndPlay(GameScreens& screens) {
 
 }  // namespace
 
+void TakeDateOf(const ScheduleRecord& row) {
+  constexpr int kJanuary = 5;  // as a season month
+  game.GameDay = row.Day;
+  game.GameCalendarMonth = row.Month;
+  game.GameYear = league.ScheduleYear;
+  game.GameMonth = SeasonMonth(row.Month);
+  if (game.GameMonth >= kJanuary) ++game.GameYear;
+}
+
 bool PlayUpcomingGame(int row, GameScreens& screens) {
   if (!league.Row(row)) return false;
   const ScheduleRecord chosen = *league.Row(row);
@@ -46,7 +46,7 @@ bool PlayUpcomingGame(int row, GameScreens& screens) {
   if (!screens.Preview(chosen)) return false;
   game.ScheduleRow = row;
   game.WatchUntil = "NONE";
-  TakeDate(chosen);
+  TakeDateOf(chosen);
   program.ReplayLocked = true;
   program.GameKind = "L";
   program.TwoFolderGame = program.ScenarioGame = false;

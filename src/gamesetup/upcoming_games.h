@@ -4,6 +4,10 @@
 
 namespace tipline {
 
+/// The game's date is that of the row: season month, calendar month, day, and the year, which turns behind
+/// December.
+void TakeDateOf(const ScheduleRecord& row);
+
 /// Plays row `row` of `league.ScheduleGame`. False, with its message and nothing changed, when a team is not
 /// selected or one of the two is gone; false as well for no row, and when the preview is left without a
 /// start. Reads the whole schedule again at the end: season play has its own way.

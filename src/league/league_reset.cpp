@@ -120,12 +120,16 @@ bool ZeroStats(bool realLifeToo, const WorkLabel& label) {
   return ReadSeason() && ClearResults(realLifeToo, label);
 }
 
-bool ResetLeague(bool realLifeToo, const WorkLabel& label) {
+bool ClearSeason(bool realLifeToo, const WorkLabel& label) {
   if (!ReadSeason()) return false;
   for (ScheduleRecord& row : league.ScheduleGame) {
     if (IsCupGame(row)) row.Status = "D";
   }
-  if (!ZeroPools() || !Truncate("HCRECORDS") || !ClearResults(realLifeToo, label)) return false;
+  return ZeroPools() && Truncate("HCRECORDS") && ClearResults(realLifeToo, label);
+}
+
+bool ResetLeague(bool realLifeToo, const WorkLabel& label) {
+  if (!ClearSeason(realLifeToo, label)) return false;
   platform::dialogs().Tell("League Reset Complete!");
   return true;
 }

@@ -15,6 +15,8 @@ using WorkLabel = std::function<void(const std::string&)>;
 /// again. Asks nothing; ends with "League Reset Complete!". False, after telling the user, when a file could
 /// not be written; what comes after it is then as it was.
 bool ResetLeague(bool realLifeToo = false, const WorkLabel& label = {});
+/// The same without its last word.
+bool ClearSeason(bool realLifeToo = false, const WorkLabel& label = {});
 /// The part of it that clears results alone; it too reads teams and schedule anew.
 bool ZeroStats(bool realLifeToo = false, const WorkLabel& label = {});
 
