@@ -9,15 +9,10 @@
 #include <ostream>
 #include <stdexcept>
 
-#include "base/random.h"
 #include "bench.h"
-#include "frontoffice/league_maker.h"
+#include "harness/disk_league.h"
 #include "harness/temporary_home.h"
-#include "league/data_tree.h"
-#include "league/files.h"
-#include "league/rules.h"
-#include "league/schedule.h"
-#include "season/autoplay_screen.h"
+#include "league/league.h"
 
 namespace tipline {
 namespace {
@@ -26,25 +21,8 @@ using Clock = std::chrono::steady_clock;
 constexpr int kParts = 10;
 constexpr double kAim = 300, kWish = 700;  // games a second
 
-class NoScreens : public AutoplayScreens {
-  void GameSetupScreen(HCGAMEsetup&) override {}
-  void OpenViewer() override {}
-  void OpenGame() override {}
-};
-
 double Seconds(Clock::time_point since) {
   return std::chrono::duration<double>(Clock::now() - since).count();
-}
-
-void MakeAndOpen(LeagueRequest request, std::uint64_t seed) {
-  if (!UseShippedEras()) throw std::runtime_error("the era tables can't be read");
-  request.Name = "Bench";
-  request.Seed = seed;
-  std::string message;
-  if (!MakeLeague(request, message)) throw std::runtime_error(message);
-  program.LeagueFolder = LeaguesFolder() / "Bench";
-  if (!LoadRules() || !LoadAllTeams()) throw std::runtime_error("the league was not opened");
-  LoadLeaguePlayers();
 }
 
 void PrintParts(std::ostream& out, const std::vector<double>& times) {
@@ -76,23 +54,16 @@ void PrintSanity(std::ostream& out) {
 int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request,
               const BenchOptions& options) {
   const TemporaryHome home;
-  MakeAndOpen(request, options.seed);
-  NoScreens screens;
-  HCAUTOPLAY screen(screens);
-  screen.NoCompleteBox = true;
-  screen.SeasonSeed = options.seed;
-  if (!screen.Open()) throw std::runtime_error("the schedule was not opened");
-  const int games = screen.ChooseFirst({}, options.games > 0 ? options.games : league.GameCount());
+  MakeDiskLeague(request);
   std::vector<double> times;
   const auto start = Clock::now();
+  auto before = start;
   const std::clock_t cpu = std::clock();
-  while (screen.Upcoming()) {
-    const auto before = Clock::now();
-    screen.ContinueRun = true;
-    screen.PlayCommandChosen();
-    if (screen.GameLost || screen.StopRun) throw std::runtime_error("a game was not kept");
+  const int games = PlayScheduledGames(options.games, options.seed, [&](int) {
     times.push_back(Seconds(before));
-  }
+    before = Clock::now();
+  });
+  if (games == 0) throw std::runtime_error("no game was kept");
   const double rate = static_cast<double>(times.size()) / Seconds(start);
   const double busy = static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
   rusage usage{};
@@ -112,9 +83,11 @@ int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request
 
 int Season(std::ostream& out, const BenchOptions& options) {
   LeagueRequest pro;
+  pro.Seed = options.seed;
   int code = OneSeason(out, "pro", pro, options);
   if (!options.season) return code;
   LeagueRequest college;
+  college.Seed = options.seed;
   college.Preset = "college";
   college.Divisions = 36;
   college.Teams = 360;

@@ -85,6 +85,8 @@ int PlayExhibition(const PlayRequest& request, const Common& common);
 int ShowFilm(const std::string& file, bool speak, const Common& common);
 /// What is wrong with the league's files and what an opening would repair; changes nothing.
 int ExamineLeague(const Common& common);
+/// Counts the season anew from the boxes of its games and tells of every figure that differs.
+int RecountBooks(const Common& common);
 /// After asking, the league before its first game; `realLifeToo` takes the real season lines as well.
 int StartSeasonAnew(bool realLifeToo, const Common& common);
 /// After asking, rows of men who stand nowhere go.

@@ -9,6 +9,7 @@
 #include "league/league_reset.h"
 #include "league/rules.h"
 #include "platform/dialogs.h"
+#include "season/recount.h"
 
 namespace tipline::cli {
 
@@ -21,6 +22,19 @@ int ExamineLeague(const Common& common) {
   for (const auto& finding : findings) std::cout << Plain(finding) << '\n';
   if (findings.empty() && !common.Quiet) std::cout << folder.filename().string() << " is sound.\n";
   return findings.empty() ? 0 : 1;
+}
+
+int RecountBooks(const Common& common) {
+  if (!OpenTheLeague(common)) return 1;
+  const Recount recount = RecountLeague();
+  for (const auto& fault : recount.faults) std::cout << Plain(fault) << '\n';
+  if (recount.leftOut > 0) std::cout << "and " << recount.leftOut << " more.\n";
+  if (!common.Quiet) {
+    std::cout << recount.boxes << " boxes of " << recount.games << " games counted: " << recount.teams
+              << " teams, " << recount.men << " players, " << recount.figures << " figures, "
+              << static_cast<long>(recount.faults.size()) + recount.leftOut << " differences.\n";
+  }
+  return recount.faults.empty() ? 0 : 1;
 }
 
 int StartSeasonAnew(bool realLifeToo, const Common& common) {

@@ -45,7 +45,7 @@ struct Arguments {
   cli::PhraseArguments phrases;
   cli::NewsArguments news;
   cli::LeaderArguments leaders;
-  bool speak = false;
+  bool speak = false, recount = false;
   cli::StandingsArguments standings;
 };
 
@@ -105,7 +105,8 @@ void AddLists(CLI::App& app, Arguments& a) {
       ->check(CLI::IsMember({"stats", "real", "ratings"}))
       ->capture_default_str();
   roster->add_flag("--csv", a.common.Csv, "as comma-separated text");
-  app.add_subcommand("doctor", "what is wrong with the league's files; changes nothing");
+  auto* doctor = app.add_subcommand("doctor", "what is wrong with the league's files; changes nothing");
+  doctor->add_flag("--recount", a.recount, "count the season anew from the boxes of its games");
   auto* dump = app.add_subcommand("dump", "a record of a league file, field by field");
   dump->add_option("file", a.file, FormatNames())->required();
   dump->add_option("record", a.record, "record number")->capture_default_str();
@@ -222,7 +223,8 @@ int RunLeague(CLI::App& group, Arguments& a) {
 
 int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("league")) return RunLeague(*app.get_subcommand("league"), a);
-  if (app.got_subcommand("doctor")) return cli::ExamineLeague(a.common);
+  if (app.got_subcommand("doctor"))
+    return a.recount ? cli::RecountBooks(a.common) : cli::ExamineLeague(a.common);
   if (app.got_subcommand("teams")) return cli::ShowTeams(a.common);
   if (app.got_subcommand("roster")) return cli::ShowRoster(a.team, a.view, a.common);
   if (app.got_subcommand("ratings")) {

@@ -9,6 +9,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "cli/columns.h"
+#include "cli/leader_commands.h"
 #include "cli/season_screens.h"
 #include "cli/terminal.h"
 #include "engine/game_state.h"
@@ -16,6 +17,7 @@
 #include "league/player_values.h"
 #include "league/program.h"
 #include "season/autoplay_display.h"
+#include "season/standings.h"
 
 namespace tipline::cli {
 namespace {
@@ -93,10 +95,6 @@ int Run(const SeasonArguments& a, HCAUTOPLAY& screen, SeasonScreens& screens, in
   return 0;
 }
 
-double PerGame(int count, const StatLine& line) {
-  return line.G > 0 ? static_cast<double>(count) / line.G : 0;
-}
-
 /// Behind a run: what it came to.
 void Report(int code, int played, double seconds, const Common& common) {
   const auto left = static_cast<int>(RowsInOrder('U').size() + RowsInOrder('N').size());
@@ -109,10 +107,10 @@ void Report(int code, int played, double seconds, const Common& common) {
     return;
   }
   if (played == 0) return;
-  std::cout << '\n';
-  PrintStandings(std::cout);
-  std::cout << '\n';
-  PrintLeaders(std::cout);
+  std::cout << '\n' << StandingsPage(OrderStandings(), true);
+  LeaderRequest leaders;
+  leaders.Top = 5;
+  ShowLeaders(leaders, common);
 }
 
 }  // namespace
@@ -199,52 +197,6 @@ int ShowSeasonStatus(const SeasonArguments& a, const Common& common) {
   if (!common.Csv && a.Next > 0) std::cout << '\n';
   if (common.Csv || a.Next > 0) table.Print(std::cout, common.Csv);
   return 0;
-}
-
-void PrintStandings(std::ostream& out) {
-  Columns table({"<Team", "W", "L", "Pct", "GB"});
-  bool first = true;
-  for (const int division : league.UsedDivisions) {
-    if (!first) table.Rule();
-    first = false;
-    for (const StandingsLine& line : DisplayStandings({division})) {
-      table.Row({TeamName(league.team[line.Team]), Str(line.W), Str(line.L), Share(line.W, line.W + line.L),
-                 line.GB > 0 ? Fixed(line.GB, 1) : "-"});
-    }
-  }
-  table.Print(out, false);
-}
-
-void PrintLeaders(std::ostream& out) {
-  LoadLeaguePlayers();
-  constexpr struct {
-    const char* name;
-    int (*of)(const StatLine&);
-  } kBoards[] = {{"Points", [](const StatLine& s) { return PointsOf(s); }},
-                 {"Rebounds", [](const StatLine& s) { return +s.Reb; }},
-                 {"Assists", [](const StatLine& s) { return +s.Ast; }}};
-  Columns table({"<Leaders", "<Player", "<Team", "G", "A game"});
-  for (const auto& board : kBoards) {
-    std::vector<const PlayerRecord*> men;
-    for (const PlayerRecord& man : league.player) {
-      if (man.TeamNo < 1 || man.TeamNo > kTeams) continue;
-      const TeamRecord& team = league.team[man.TeamNo];
-      if (man.Stats[2].G * 10 >= (team.Wins + team.Losses) * 7 && man.Stats[2].G > 0) men.push_back(&man);
-    }
-    const std::size_t shown = std::min<std::size_t>(5, men.size());
-    const auto value = [&board](const PlayerRecord* man) {
-      return PerGame(board.of(man->Stats[2]), man->Stats[2]);
-    };
-    std::partial_sort(men.begin(), men.begin() + static_cast<std::ptrdiff_t>(shown), men.end(),
-                      [&](const PlayerRecord* x, const PlayerRecord* y) {
-                        return value(x) != value(y) ? value(x) > value(y) : x->RecNo < y->RecNo;
-                      });
-    for (std::size_t k = 0; k < shown; ++k) {
-      table.Row({k == 0 ? board.name : "", FullName(*men[k]), league.team[men[k]->TeamNo].Abbrev.Str(),
-                 Str(men[k]->Stats[2].G), Fixed(value(men[k]), 1)});
-    }
-  }
-  table.Print(out, false);
 }
 
 }  // namespace tipline::cli

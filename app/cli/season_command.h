@@ -1,6 +1,5 @@
 #pragma once
 // The games of the schedule on the command line.
-#include <ostream>
 #include <string>
 
 #include "cli/commands.h"
@@ -31,10 +30,5 @@ int PlaySeason(const SeasonArguments& a, const Common& common);
 int ReplaySeason(const SeasonArguments& a, const Common& common);
 /// How far the season is, and what comes next.
 int ShowSeasonStatus(const SeasonArguments& a, const Common& common);
-
-/// Wins, losses, share and games behind of every team, division by division.
-void PrintStandings(std::ostream& out);
-/// The five best in points, rebounds and assists a game.
-void PrintLeaders(std::ostream& out);
 
 }  // namespace tipline::cli

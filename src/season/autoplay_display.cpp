@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <tuple>
 
 #include "base/numbers.h"
 #include "frontoffice/schedule_editor.h"
+#include "season/standings.h"
 
 namespace tipline {
 namespace {
@@ -22,22 +22,6 @@ std::string StreakText(int team) {
   if (std::abs(streak) < kTellingStreak) return "";
   return ScheduleTeamName(team) + " " + std::to_string(std::abs(streak)) +
          (streak > 0 ? " Game Win Streak" : " Game Losing Streak");
-}
-
-/// Wins and losses that the standings go by.
-struct Ranked {
-  StandingsLine line;
-  int wins, losses;
-
-  double Share() const { return wins + losses > 0 ? static_cast<double>(wins) / (wins + losses) : 0; }
-};
-
-Ranked RankedOf(int team) {
-  const TeamRecord& t = league.team[team];
-  const bool division = league.rules.StandingsOption == 1;
-  return {{team, t.Wins, t.Losses, 0},
-          division ? t.DivisionWins : t.Wins,
-          division ? t.DivisionLosses : t.Losses};
 }
 
 }  // namespace
@@ -113,24 +97,17 @@ std::string EnterPointSPread(const ScheduleRecord& row) {
 }
 
 std::vector<StandingsLine> DisplayStandings(const std::vector<int>& divisions) {
-  std::vector<Ranked> teams;
-  for (const int division : divisions) {
-    if (division < 1 || division > kDivisions) continue;
-    for (const int team : TeamsOfDivision(division)) {
-      if (league.team[team].TeamActive == 1) teams.push_back(RankedOf(team));
+  const Standings standings = OrderStandings();
+  StandingsGroup view;
+  for (const int team : standings.StandingsOrder) {
+    if (std::find(divisions.begin(), divisions.end(), DivisionOf(team)) != divisions.end()) {
+      view.teams.push_back(team);
     }
   }
-  std::sort(teams.begin(), teams.end(), [](const Ranked& a, const Ranked& b) {
-    const auto key = [](const Ranked& r) {
-      return std::tuple(-r.Share(), -r.wins, r.line.L - r.line.W, r.line.Team);
-    };
-    return key(a) < key(b);
-  });
   std::vector<StandingsLine> lines;
-  for (Ranked& r : teams) {
-    const Ranked& first = teams.front();
-    r.line.GB = ((first.wins - r.wins) + (r.losses - first.losses)) / 2.0;
-    lines.push_back(r.line);
+  for (const int team : view.teams) {
+    const TeamRecord& t = league.team[team];
+    lines.push_back({team, t.Wins, t.Losses, GamesBehind(standings, view, team)});
   }
   return lines;
 }

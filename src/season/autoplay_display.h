@@ -34,10 +34,9 @@ std::string EnterPointSPread(const ScheduleRecord& row);
 /// The short grid of the standings.
 struct StandingsLine {
   int Team = 0, W = 0, L = 0;
-  double GB = 0;
+  std::string GB;  ///< "-" for the first
 };
-/// Active teams of the divisions on view, best first; by the total record, or, as the rules have it, by the
-/// record in their division. Ties by total record, then by number. Games behind by the record that orders.
+/// Active teams of the divisions on view in the order of the standings, games behind the first of them.
 std::vector<StandingsLine> DisplayStandings(const std::vector<int>& divisions);
 
 }  // namespace tipline

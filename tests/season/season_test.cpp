@@ -391,7 +391,7 @@ TEST(SeasonDisplay, StandingsAndLines) {
   league.team[first].PowerRating = 2, league.team[second].PowerRating = 4;
   const auto lines = DisplayStandings({1});
   EXPECT_EQ(lines[0].Team, second);
-  EXPECT_EQ(lines[1].GB, 2);
+  EXPECT_EQ(lines[1].GB, "2.0");
   ScheduleRecord& row = ScheduleLeague::Add(first, second);
   EXPECT_EQ(EnterPointSPread(row), ScheduleTeamName(second) + " by 5");
   row.NeutralSite = 1;

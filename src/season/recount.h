@@ -1,0 +1,22 @@
+#pragma once
+// The books of a league against its box files: everything that the games have added up to is counted anew,
+// by other means than those that added it up.
+#include <string>
+#include <vector>
+
+namespace tipline {
+
+struct Recount {
+  int games = 0, boxes = 0;         ///< records of SCORES, and of those with a box that can be read
+  int men = 0, teams = 0;           ///< compared
+  long figures = 0;                 ///< compared, all told
+  std::vector<std::string> faults;  ///< what differs, a sentence each
+  long leftOut = 0;                 ///< sentences beyond those kept
+};
+
+/// Counts the open league. Reads its files; changes none, and nothing in memory but `league.Scores`. What a
+/// box does not tell is taken as it stands: streaks of shots, scouting counters, power ratings, minutes at a
+/// position of a man who stood there for more than 53 minutes of one game.
+Recount RecountLeague();
+
+}  // namespace tipline
