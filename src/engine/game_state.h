@@ -354,6 +354,7 @@ struct GameRun {
   int SpreadPoints = 0;          ///< expected margin, above 0 the visitor by so many
   int TickerStamp = 0;           ///< rises with every entry of the ticker
   std::string TickerRows;        ///< entries of this game, kept with its books
+  std::string BoxPageText;       ///< the page that the box text was written from last, "" none yet
   int PeriodStart = 0;
   int OpeningTipWinner = 0;  ///< side, 0 unset
   int PossessionArrow = 0;   ///< side, 0 unset

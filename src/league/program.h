@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/tables.h"
 #include "base/words.h"
 #include "league/name_tables.h"
 #include "league/phrase_table.h"
@@ -12,6 +13,7 @@
 namespace tipline {
 
 inline constexpr int kEditionYear = 2023;  ///< edition of the program: its last season, and its setup file
+inline constexpr std::string_view kVersionText = "2023 Edition 0-1-0";  ///< stands in stored games
 
 struct GameKindWords {
   static constexpr std::string_view kTexts[] = {"L", "E"};
@@ -35,12 +37,17 @@ struct Program {
   std::string LastFilmFile;    ///< film of the last game that left one
   std::string ReportName;      ///< what stands in the report file
   bool PlayoffGame = false;
-  int CurrentRound = 0;        ///< playoff round 1 to 4, 0 none
-  bool ScenarioGame = false;   ///< the team pick screen sets up a scenario
-  bool TwoFolderGame = false;  ///< an exhibition of teams from two leagues: it is neither saved nor stored
-  bool ReplayLocked = false;   ///< a game, or its set-up, holds the data
-  bool FilmReplay = false;     ///< a film is looked at: it is spoken whatever the preferences say
-  bool Autoplaying = false;    ///< bulk play: the computer acts at every stop, nothing is shown
+  int CurrentRound = 0;           ///< playoff round 1 to 4, 0 none
+  int CurrentBracket = 0;         ///< its bracket 1 to 5
+  int CurrentSeriesGame = 0;      ///< game of the bracket, 1 to 15
+  int RoundWins = 0;              ///< wins that take a series of the round
+  Table<int, 1, 2> SeriesWins{};  ///< of each side in the series, before the running game
+  int SeriesHome = 2;             ///< side of the running game that opened the series at home
+  bool ScenarioGame = false;      ///< the team pick screen sets up a scenario
+  bool TwoFolderGame = false;     ///< an exhibition of teams from two leagues: it is neither saved nor stored
+  bool ReplayLocked = false;      ///< a game, or its set-up, holds the data
+  bool FilmReplay = false;        ///< a film is looked at: it is spoken whatever the preferences say
+  bool Autoplaying = false;       ///< bulk play: the computer acts at every stop, nothing is shown
 };
 
 extern Program program;
