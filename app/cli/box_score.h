@@ -2,6 +2,7 @@
 // The running game on paper.
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "league/stat_line.h"
 
@@ -19,7 +20,10 @@ void AddTo(StatLine& sum, const StatLine& line);
 /// The score by periods, up to period `last`.
 void PrintPeriods(std::ostream& out, int last);
 
-/// The game as a fan reads it: periods, every man's line, what else there is to tell.
+/// A page of text, line by line.
+void PrintLines(std::ostream& out, std::string_view page);
+
+/// The box of the game, as it is printed for every game.
 void PrintBox(std::ostream& out);
 
 }  // namespace tipline::cli

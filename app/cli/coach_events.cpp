@@ -164,16 +164,6 @@ std::string IncidentLine(const PlayLogRow& row) {
   return Head(row) + text;
 }
 
-std::string ClockText(int tenths) {
-  char text[32];
-  if (tenths < kMinute) {
-    std::snprintf(text, sizeof text, "0:%02d.%d", tenths / 10, tenths % 10);
-  } else {
-    std::snprintf(text, sizeof text, "%d:%02d", tenths / kMinute, tenths % kMinute / 10);
-  }
-  return text;
-}
-
 std::string EventLine(const PlayLogRow& row) {
   const std::string what = What(row);
   const std::string who = what[0] == '~' || row.Slot == 0 ? "" : ManName(row.Side, row.Slot);

@@ -2,6 +2,7 @@
 // What happened, in a plain sentence.
 #include <string>
 
+#include "aftermath/play_log.h"
 #include "engine/game_state.h"
 
 namespace tipline::cli {
@@ -13,8 +14,5 @@ std::string EventLine(const PlayLogRow& row);
 bool IsOfIncident(const PlayLogRow& row);
 /// Its row in the announcer's words. Draws them from what is only for show.
 std::string IncidentLine(const PlayLogRow& row);
-
-/// "8:42", in the last minute "0:08.4".
-std::string ClockText(int tenths);
 
 }  // namespace tipline::cli

@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "base/random.h"
+#include "cli/book_commands.h"
 #include "cli/leader_options.h"
 #include "cli/news_commands.h"
 #include "cli/phrase_commands.h"
@@ -48,6 +49,17 @@ struct Arguments {
   bool speak = false, recount = false;
   cli::StandingsArguments standings;
 };
+
+void AddBooks(CLI::App& app, Arguments& a) {
+  const auto add = [&](const char* name, const char* help) {
+    auto* command = app.add_subcommand(name, help);
+    command->add_option("game", a.file, "its number in the scores, or \"last\"")->required();
+    return command;
+  };
+  add("box", "the box of a game that was played");
+  add("log", "its plays, and every basket")
+      ->add_flag("--csv", a.common.Csv, "the plays as comma-separated text");
+}
 
 /// Options that every command takes, in front of it or behind it.
 void AddCommon(CLI::App& app, Arguments& a) {
@@ -239,6 +251,8 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak, a.common);
+  if (app.got_subcommand("box")) return cli::ShowBox(a.file, a.common);
+  if (app.got_subcommand("log")) return cli::ShowLog(a.file, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("season")) return cli::RunSeason(app, a.season, a.common);
@@ -279,6 +293,7 @@ int main(int argc, char** argv) {
   AddLists(app, a);
   AddPlay(app, a);
   AddCoach(app, a);
+  AddBooks(app, a);
   AddStandings(app, a);
   cli::AddSchedule(app, a.schedule, a.common);
   cli::AddSeason(app, a.season, a.common);

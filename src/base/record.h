@@ -6,7 +6,7 @@
 // that calls field(offset, name, member, meaning) for every field in the order of the file, spare bytes too.
 // Reading, writing, the size check, the dump and the format document all run over it.
 //
-// Numbers are little-endian. A table with two or three indexes has the first index fastest.
+// Numbers are little-endian. A table with several indexes has the first index fastest.
 #include <bit>
 #include <concepts>
 #include <cstring>
@@ -63,33 +63,16 @@ constexpr int DiskSize() {
 
 /// Calls visit(cell, offset in bytes from the table's start) for each cell, the first index fastest.
 template <class Tbl, class Visit>
-void ForCells(Tbl& table, Visit&& visit) {
+void ForCells(Tbl& table, Visit&& visit, int offset = 0,
+              int stride = DiskSize<typename TableShape<std::remove_const_t<Tbl>>::Cell>()) {
   using Plain = std::remove_const_t<Tbl>;
-  using Cell = typename TableShape<Plain>::Cell;
-  constexpr int size = DiskSize<Cell>();
-  if constexpr (TableShape<Plain>::kDepth == 1) {
-    for (int a = 0; a < Plain::kCount; ++a) visit(table.cells_[static_cast<std::size_t>(a)], a * size);
-  } else if constexpr (TableShape<Plain>::kDepth == 2) {
-    using Row = typename Plain::value_type;
-    for (int a = 0; a < Plain::kCount; ++a) {
-      for (int b = 0; b < Row::kCount; ++b) {
-        visit(table.cells_[static_cast<std::size_t>(a)].cells_[static_cast<std::size_t>(b)],
-              (a + b * Plain::kCount) * size);
-      }
+  for (auto& cell : table.cells_) {
+    if constexpr (TableShape<Plain>::kDepth == 1) {
+      visit(cell, offset);
+    } else {
+      ForCells(cell, visit, offset, stride * Plain::kCount);
     }
-  } else {
-    using Row = typename Plain::value_type;
-    using Line = typename Row::value_type;
-    for (int a = 0; a < Plain::kCount; ++a) {
-      for (int b = 0; b < Row::kCount; ++b) {
-        for (int c = 0; c < Line::kCount; ++c) {
-          visit(table.cells_[static_cast<std::size_t>(a)]
-                    .cells_[static_cast<std::size_t>(b)]
-                    .cells_[static_cast<std::size_t>(c)],
-                (a + (b + c * Row::kCount) * Plain::kCount) * size);
-        }
-      }
-    }
+    offset += stride;
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 // Words of the game that the compiler checks: one byte in memory, a text on files and prompts.
+#include <iterator>
 #include <string_view>
 
 #include "base/types.h"
@@ -22,6 +23,13 @@ class Word {
     const u8 found = Find(text);
     if (found == kNone) return false;
     index_ = found;
+    return true;
+  }
+
+  /// The word with this number in the table; false, and nothing changed, when there is none.
+  constexpr bool SetIndex(u8 index) {
+    if (index >= std::size(Words::kTexts)) return false;
+    index_ = index;
     return true;
   }
 

@@ -356,6 +356,7 @@ struct GameRun {
   int TickerStamp = 0;           ///< rises with every entry of the ticker
   std::string TickerRows;        ///< entries of this game, kept with its books
   bool FilmOn = false;           ///< plays are told for the film, even where nobody listens
+  std::string BoxPageText;       ///< the page that the box text was written from last, "" none yet
   int PeriodStart = 0;
   int OpeningTipWinner = 0;  ///< side, 0 unset
   int PossessionArrow = 0;   ///< side, 0 unset

@@ -104,6 +104,7 @@ void CallTechnical(const Suspect& suspect) {
   StatLine& line = GameLine(side, slot);
   Note(IncidentKind::kTechnical, side, slot);
   if (line.Technicals < 255) ++line.Technicals;
+  game.TechnicalNames += PlayerAt(side, slot).LastName.Str() + ", ";
   if (rules.TechnicalPFCheck == 2) PostFoul(side, slot);
   AddPlayLog(game.GameClock, side, slot, "", "TIMEOUT", kTechnicalNote);
   if (rules.TechList > 0 && line.Technicals >= rules.TechList) {
@@ -144,6 +145,7 @@ void PostFlagrant(int level) {
   const int side = game.DefenseSide, slot = game.play.Fouler;
   PlayerRecord& p = PlayerAt(side, slot);
   if (p.Flagrants[3] < 255) ++p.Flagrants[3];
+  game.FlagrantNames += p.LastName.Str() + ", ";
   if (level == 2 && p.Stats[3].Flagrant2 < 255) ++p.Stats[3].Flagrant2;
   game.incident.Ejected = level == 2 || p.Flagrants[3] >= 2;
 }

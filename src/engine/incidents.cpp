@@ -72,6 +72,7 @@ int Eject(int side, int slot, int games) {
   LoadedAt(side, slot).PlayerOut = 1;
   ManAt(side, slot).Ejected = 1;
   p.Stats[3].Ejections = 1;
+  game.EjectionNames += p.LastName.Str() + ", ";
   LeaveFloor(side, slot);
   p.SuspensionGames = static_cast<u8>(std::min(p.SuspensionGames + games, 255));
   return games;

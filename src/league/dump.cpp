@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/record_file.h"
+#include "league/box_record.h"
 #include "league/daily.h"
 #include "league/files.h"
 #include "league/film_record.h"
@@ -90,19 +91,22 @@ class Dump {
          << meaning << '\n';
   }
 
-  /// The cells of a table; `index` names those of the outer tables.
+  /// The cells of a table, `stride` bytes from one to the next; `index` names those of the outer tables.
   template <class T, int First, int Last>
-  void Cells(int offset, const Table<T, First, Last>& table, const std::string& index) const {
-    if constexpr (TableShape<T>::kDepth > 0) {
-      for (int i = First; i <= Last; ++i) Cells(offset, table[i], index + std::to_string(i) + ", ");
-    } else if constexpr (Described<const T>) {
-      for (int i = First; i <= Last; ++i) {
-        const int at = offset + (i - First) * T::kRecordSize;
-        Line(at, "[" + std::to_string(i) + "]", "", "");
-        Describe(table[i], Dump(out_, start_ + at, indent_ + 2));
-      }
-    } else {
+  void Cells(int offset, const Table<T, First, Last>& table, const std::string& index,
+             int stride = DiskSize<typename TableShape<T>::Cell>()) const {
+    if constexpr (TableShape<T>::kDepth == 0 && !Described<const T>) {
       Row(table, index);
+    } else {
+      for (int i = First; i <= Last; ++i, offset += stride) {
+        const std::string here = index + std::to_string(i);
+        if constexpr (TableShape<T>::kDepth > 0) {
+          Cells(offset, table[i], here + ", ", stride * (Last - First + 1));
+        } else {
+          Line(offset, "[" + here + "]", "", "");
+          Describe(table[i], Dump(out_, start_ + offset, indent_ + 2));
+        }
+      }
     }
   }
 
@@ -154,6 +158,12 @@ template <>
 inline constexpr std::string_view kTypeName<RealTotalsLine> = "RealTotalsLine";
 template <>
 inline constexpr std::string_view kTypeName<SeriesLine> = "SeriesLine";
+template <>
+inline constexpr std::string_view kTypeName<BoxResume> = "BoxResume";
+template <>
+inline constexpr std::string_view kTypeName<BoxLetter> = "BoxLetter";
+template <>
+inline constexpr std::string_view kTypeName<BoxScoreRow> = "BoxScoreRow";
 
 template <class T>
 std::string Bounds() {
@@ -222,7 +232,7 @@ shorter than its slot; the bytes behind it stay as they are. What lies past the 
 
 Numbers are little-endian: `u8` unsigned byte, `i16` and `i32` signed, `f32` and `f64` floating point. Fields follow
 one another without gaps. `text(n)` is n characters of one byte, left-justified, padded with blanks. `X[a..b]` is a
-table with the indexes a to b; with two or three indexes the first one runs fastest.
+table with the indexes a to b; with several indexes the first one runs fastest.
 
 A marker is a byte beside a field that older layouts did not have: it holds its value once the field has been set.
 
@@ -236,7 +246,8 @@ constexpr FileFormat Format(std::string_view name, std::filesystem::path (*path)
   return {name, path, slot, records, DumpSlot<Record>, DocumentFile<Record>};
 }
 
-constexpr std::string_view kAnyFilm = "*.flm", kPhrases = "HCpbp.HCp";
+constexpr std::string_view kAnyFilm = "*.flm", kPhrases = "HCpbp.HCp", kAnyBox = "BOX<n>.BOX",
+                           kAnyPlayLog = "BOX<n>.PLY";
 
 std::filesystem::path RecordsFile() { return LeagueFile("HCRECORDS"); }
 std::filesystem::path LeadersFile() { return LeagueFile("HcLeaders"); }
@@ -245,6 +256,8 @@ std::filesystem::path DefaultSchedule() { return LeagueFile(kDefaultScheduleFile
 std::filesystem::path ScoresFile() { return LeagueFile("SCORES"); }
 std::filesystem::path TickerFile() { return LeagueFile("HcTicker"); }
 std::filesystem::path AnyFilm() { return LeagueFile(kAnyFilm); }
+std::filesystem::path AnyBox() { return LeagueFile(kAnyBox); }
+std::filesystem::path AnyPlayLog() { return LeagueFile(kAnyPlayLog); }
 std::filesystem::path PhrasesFile() { return program.ProgramFolder / kPhrases; }
 
 const FileFormat kFormats[] = {
@@ -275,6 +288,9 @@ const FileFormat kFormats[] = {
                       "one"),
     Format<PhraseRecord>(kPhrases, PhrasesFile, kPhraseLength,
                          "6000 records, 20 to each of 300 slots; record number = (slot - 1) x 20 + variant"),
+    Format<BoxRecord>(kAnyBox, AnyBox, kBoxBytes, "1 record: game n of SCORES; TempBox has the same form"),
+    Format<BoxPlayRow>(kAnyPlayLog, AnyPlayLog, BoxPlayRow::kRecordSize,
+                       "a row for each play of the game in the box of that number"),
 };
 // Films of the first kind have the name of the others.
 const FileFormat kOldFilm =
@@ -284,6 +300,8 @@ const FileFormat kOldFilm =
 bool NamedLike(std::string_view format, const std::string& capitals) {
   return (format == kDefaultScheduleFile && capitals.ends_with(".SKD")) ||
          (format == kAnyFilm && capitals.ends_with(".FLM")) ||
+         (format == kAnyBox && (capitals.ends_with(".BOX") || capitals == "TEMPBOX")) ||
+         (format == kAnyPlayLog && capitals.ends_with(".PLY")) ||
          (format == kPhrases && (capitals.ends_with("HCP") || capitals == "HSKHPBP"));
 }
 
@@ -345,6 +363,9 @@ std::string FormatDocument() {
   DocumentLine<StatLine>(text);
   DocumentLine<RealTotalsLine>(text);
   DocumentLine<SeriesLine>(text);
+  DocumentLine<BoxResume>(text);
+  DocumentLine<BoxLetter>(text);
+  DocumentLine<BoxScoreRow>(text);
   while (text.ends_with("\n\n")) text.pop_back();
   return text;
 }

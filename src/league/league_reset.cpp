@@ -74,11 +74,13 @@ bool ZeroPools() {
   return SaveRules();
 }
 
+/// With the play logs beside them.
 std::vector<fs::path> BoxFiles() {
   std::vector<fs::path> boxes;
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(LeagueFile(""), error)) {
-    if (Upper(entry.path().extension().string()) == ".BOX") boxes.push_back(entry.path());
+    const std::string kind = Upper(entry.path().extension().string());
+    if (kind == ".BOX" || kind == ".PLY") boxes.push_back(entry.path());
   }
   return boxes;
 }

@@ -14,6 +14,7 @@
 namespace tipline {
 
 inline constexpr int kEditionYear = 2023;  ///< edition of the program: its last season, and its setup file
+inline constexpr std::string_view kVersionText = "2023 Edition 0-1-0";  ///< stands in stored games
 
 struct GameKindWords {
   static constexpr std::string_view kTexts[] = {"L", "E"};
