@@ -24,9 +24,9 @@ struct LeaderRequest {
 int ShowLeaders(const LeaderRequest& request, const Common& common);
 
 struct RecordRequest {
-  bool Season = false, Game = false;    ///< one of the blocks; both without
-  bool Teams = false, Players = false;  ///< the same of whose records
-  bool AllTime = false;                 ///< the book of all leagues
+  bool All = false, Season = false, Game = false;  ///< both blocks, or one; all without
+  bool Teams = false, Players = false;             ///< the same of whose records
+  bool AllTime = false;                            ///< the book of all leagues
 };
 int ShowRecords(const RecordRequest& request, const Common& common);
 

@@ -42,7 +42,7 @@ void AddLeaders(CLI::App& app, LeaderArguments& a, Common& common) {
 
   RecordRequest& book = a.Records;
   auto* records = app.add_subcommand("records", "the record book: the five best of every category");
-  auto* all = records->add_flag("--all", "of a game and of a season (default)");
+  auto* all = records->add_flag("--all", book.All, "of a game and of a season (default)");
   records->add_flag("--season", book.Season, "of a season alone")->excludes(all);
   records->add_flag("--game", book.Game, "of a game alone")->excludes(all)->excludes("--season");
   records->add_flag("--teams", book.Teams, "of teams alone");

@@ -8,8 +8,10 @@
 #include "league/coach_record.h"
 #include "league/daily.h"
 #include "league/era_record.h"
+#include "league/leader_tables.h"
 #include "league/office_files.h"
 #include "league/player_record.h"
+#include "league/record_row.h"
 #include "league/rules_record.h"
 #include "league/schedule_record.h"
 #include "league/setup_record.h"
@@ -23,7 +25,8 @@ template <class Record>
 class Records : public testing::Test {};
 using AllRecords = testing::Types<StatLine, RealTotalsLine, SeriesLine, TeamRecord, PlayerRecord, CoachRecord,
                                   RulesRecord, EraRecord, ScheduleRecord, TournamentPools, SetupRecord,
-                                  DailyRecord, AddressBook, DraftSettings, DraftSelections>;
+                                  DailyRecord, AddressBook, DraftSettings, DraftSelections,
+                                  RecordRow, LeaderTable, Top40Table>;
 TYPED_TEST_SUITE(Records, AllRecords);
 
 TYPED_TEST(Records, OffsetsMeetEndToEnd) {
@@ -65,6 +68,12 @@ TEST(Record, TheFirstIndexRunsFastestButInTheGridOfCalls) {
   const auto coach = Read<CoachRecord>({{56 + 3 + 5 * 18 + 100, 30}, {901 + 10 + 11 * 29, 6}});
   EXPECT_EQ(coach.RotationByRank[4][19][2], 30);
   EXPECT_EQ(coach.DefendInside[10][30], 6);
+  const auto boards = Read<LeaderTable>({{9549 + 2 * (3 + 11 * 8), 5}, {1 + 25 * (10 + 11 * 2), 'Q'}});
+  EXPECT_EQ(boards.LeaderValue[3][8], 5);
+  EXPECT_EQ(boards.LeaderName[10][2].View(), "Q");
+  const auto top = Read<Top40Table>({{1 + 4 * (39 + 40 * 11) + 3, 64}, {9121 + 20 * (1 + 40 * 2), 'Q'}});
+  EXPECT_EQ(top.TopValue[40][12], 2.0f);
+  EXPECT_EQ(top.TopGame[2][3].View(), "Q");
   const auto setup = Read<SetupRecord>({{12994, 12}, {13007, 35}});
   EXPECT_EQ(setup.PlayCallFrequency[1][2], 12);
   EXPECT_EQ(setup.PlayCallFrequency[3][5], 35);
