@@ -1,6 +1,5 @@
 // A stored game, or a snapshot, back into the tables of the game.
 #include <algorithm>
-#include <limits>
 #include <memory>
 
 #include "aftermath/box_fields.h"
@@ -23,12 +22,6 @@ constexpr int kLongestShotClock = 990;
 /// What is outside the bounds reads as `otherwise`.
 int Within(int value, int low, int high, int otherwise = 0) {
   return value < low || value > high ? otherwise : value;
-}
-
-template <class Counter>
-void Add(Counter& counter, int value, int most = std::numeric_limits<Counter>::max()) {
-  const int low = std::numeric_limits<Counter>::min();
-  counter = static_cast<Counter>(Clamp(counter + value, low, std::max<int>(most, counter)));
 }
 
 template <int Bytes>
@@ -247,14 +240,14 @@ void AddToSeason(const BoxRecord& box, PlayerRecord& p) {
        {&StatLine::G, &StatLine::GS, &StatLine::Min, &StatLine::FGA, &StatLine::FGM, &StatLine::F3A,
         &StatLine::F3M, &StatLine::FTA, &StatLine::FTM, &StatLine::Reb, &StatLine::Off, &StatLine::Ast,
         &StatLine::St, &StatLine::Bk, &StatLine::To, &StatLine::Pf, &StatLine::Dq, &StatLine::Dunks}) {
-    Add(season.*counter, line.*counter);
+    AddHeld(season.*counter, line.*counter);
   }
   for (const auto counter : {&StatLine::Technicals, &StatLine::GameMvps, &StatLine::Ejections}) {
-    Add(season.*counter, line.*counter);
+    AddHeld(season.*counter, line.*counter);
   }
-  if (box.Flagrant2Mark == kBoxMark) Add(season.Flagrant2, line.Flagrant2);
+  if (box.Flagrant2Mark == kBoxMark) AddHeld(season.Flagrant2, line.Flagrant2);
   for (const BoxCarried& field : kBoxCarried) {
-    Add((p.*field.player)[2], (p.*field.player)[3], field.most);
+    AddHeld((p.*field.player)[2], (p.*field.player)[3], field.most);
   }
 }
 

@@ -49,9 +49,11 @@ std::string ReportPage() {
   return page.size() >= kShortest ? page : "";
 }
 
-/// Lines beyond the last take its place, so that the end of the page stands.
+/// Lines beyond the last take its place, so that the end of the page stands. The line end that closes the
+/// page is no line of it.
 void TakePage(std::string_view page, BoxRecord& box) {
   int lines = 0;
+  if (page.ends_with("\n\n")) page.remove_suffix(1);
   while (!page.empty()) {
     const std::size_t end = page.find('\n');
     std::string_view line = page.substr(0, end);

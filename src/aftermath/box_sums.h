@@ -1,11 +1,21 @@
 #pragma once
 // What the box sums up from the men of a side.
+#include <algorithm>
+#include <limits>
 #include <string>
 #include <string_view>
 
+#include "base/numbers.h"
 #include "league/stat_line.h"
 
 namespace tipline {
+
+/// Adds without leaving the counter's range, nor what is given as the most.
+template <class Counter>
+void AddHeld(Counter& counter, int value, int most = std::numeric_limits<Counter>::max()) {
+  const int low = std::numeric_limits<Counter>::min();
+  counter = static_cast<Counter>(Clamp(counter + value, low, std::max<int>(most, counter)));
+}
 
 /// Counters of all men of the side, its minutes, and `Dq` as the men who have fouled out; `G` is 1.
 StatLine TotalsOf(int side);

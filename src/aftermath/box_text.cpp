@@ -1,7 +1,6 @@
 #include "aftermath/box_text.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "aftermath/box_sums.h"
 #include "base/record_file.h"
@@ -12,14 +11,6 @@
 namespace tipline {
 namespace {
 
-/// Adds without leaving the counter's range.
-template <class Counter>
-void Add(Counter& counter, int value) {
-  const int low = std::numeric_limits<Counter>::min();
-  const int high = std::numeric_limits<Counter>::max();
-  counter = static_cast<Counter>(Clamp(counter + value, low, high));
-}
-
 // clang-format off
 constexpr i16 StatLine::*kTeamCounters[] = {
     &StatLine::FGA, &StatLine::FGM, &StatLine::F3A, &StatLine::F3M, &StatLine::FTA, &StatLine::FTM,
@@ -29,12 +20,12 @@ constexpr i16 StatLine::*kTeamCounters[] = {
 
 void AddToSeason(StatLine& season, const StatLine& game) {
   constexpr u8 kMostTechnicals = 240;
-  for (const auto counter : kTeamCounters) Add(season.*counter, game.*counter);
+  for (const auto counter : kTeamCounters) AddHeld(season.*counter, game.*counter);
   for (const auto counter : {&StatLine::G, &StatLine::Min, &StatLine::Dq})
-    Add(season.*counter, game.*counter);
+    AddHeld(season.*counter, game.*counter);
   season.Technicals = std::min(season.Technicals, kMostTechnicals);
-  Add(season.Technicals, game.Technicals);
-  Add(season.Flagrant2, game.Flagrant2);
+  AddHeld(season.Technicals, game.Technicals);
+  AddHeld(season.Flagrant2, game.Flagrant2);
 }
 
 void AddTeamsToSeason() {
@@ -52,8 +43,8 @@ bool WriteReport(std::string_view text) {
 
 void CreditMvp() {
   PlayerRecord& best = PlayerAt(game.MvpSide, game.MvpSlot);
-  Add(best.Stats[3].GameMvps, 1);
-  if (program.GameKind == "L") Add(best.Stats[2].GameMvps, 1);
+  AddHeld(best.Stats[3].GameMvps, 1);
+  if (program.GameKind == "L") AddHeld(best.Stats[2].GameMvps, 1);
 }
 
 }  // namespace
@@ -64,11 +55,11 @@ StatLine TotalsOf(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
     if (!OnTeam(side, slot)) continue;
     const StatLine& line = PlayerAt(side, slot).Stats[3];
-    for (const auto counter : kTeamCounters) Add(sum.*counter, line.*counter);
-    Add(sum.Min, ManAt(side, slot).PlayerGameTime / kMinute);
-    Add(sum.Dq, FouledOut(line) ? 1 : 0);
-    Add(sum.Technicals, line.Technicals);
-    Add(sum.Flagrant2, line.Flagrant2);
+    for (const auto counter : kTeamCounters) AddHeld(sum.*counter, line.*counter);
+    AddHeld(sum.Min, ManAt(side, slot).PlayerGameTime / kMinute);
+    AddHeld(sum.Dq, FouledOut(line) ? 1 : 0);
+    AddHeld(sum.Technicals, line.Technicals);
+    AddHeld(sum.Flagrant2, line.Flagrant2);
   }
   return sum;
 }

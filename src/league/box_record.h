@@ -248,7 +248,8 @@ struct BoxRecord {
   BoxMen<u8> SuspensionGames;
   Table<i16, 1, 5> ShotPick;
   BoxLetter GameTypeCode;
-  Text<28> Reserved19972;
+  Text<26> Reserved19972;
+  Table<u8, 1, 2> Reserved19998;
 };
 
 template <class Record, class Visitor>
@@ -452,6 +453,7 @@ void Describe(Record& r, Visitor&& field) {
         "shot that each of the attackers has now: 1 inside, 2 outside, 3 three");
   field(19969, "GameTypeCode", r.GameTypeCode, "type of the game in the schedule, 'R' regular season");
   field(19972, "Reserved19972", r.Reserved19972, "spare");
+  field(19998, "Reserved19998", r.Reserved19998, "spare");
 }
 
 /// A row of the play log of a stored game, in a file beside its box.

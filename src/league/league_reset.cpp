@@ -74,13 +74,11 @@ bool ZeroPools() {
   return SaveRules();
 }
 
-/// With the play logs beside them.
 std::vector<fs::path> BoxFiles() {
   std::vector<fs::path> boxes;
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(LeagueFile(""), error)) {
-    const std::string kind = Upper(entry.path().extension().string());
-    if (kind == ".BOX" || kind == ".PLY") boxes.push_back(entry.path());
+    if (Upper(entry.path().extension().string()) == ".BOX") boxes.push_back(entry.path());
   }
   return boxes;
 }
@@ -90,8 +88,10 @@ bool DeleteBoxes(const WorkLabel& label) {
   for (std::size_t k = 0; k < boxes.size(); ++k) {
     Say(label, "Deleting box " + std::to_string(k + 1) + " of " + std::to_string(boxes.size()) + "...");
     std::error_code error;
-    fs::remove(boxes[k], error);
-    if (error && !Written(false, boxes[k])) return false;
+    for (const auto& file : {boxes[k], fs::path(boxes[k]).replace_extension(".PLY")}) {  // and its play log
+      fs::remove(file, error);
+      if (error && !Written(false, file)) return false;
+    }
   }
   return true;
 }

@@ -28,7 +28,7 @@ void FinishedGame() {
   game.GameStarted = game.GameOver = true;
   game.Period = 4;
   game.GameMonth = 5, game.GameCalendarMonth = 1, game.GameDay = 30, game.GameYear = 2011;
-  const char* names[] = {"Northport", "Springfield-on-Sea"};
+  const char* names[] = {"Northport", "Springfield on Sea"};
   for (int s = 1; s <= 2; ++s) {
     game.team[s].City = names[s - 1];
     game.team[s].Abbrev = s == 1 ? "NOR" : "SPR";
@@ -68,15 +68,15 @@ TEST(BoxPage, LooksSo) {
     const char *why, *begin, *line;
   } lines[] = {
       {"periods", "      ", "                                1   2   3   4   T"},
-      {"record of the day", " Springfield-on", " Springfield-on 13-7            31  20  25  25 101"},
-      {"visitor lost", " Northport ", " Northport      0-1             20  30  22  26  98"},
-      {"heads", " Springfield-o  ", " Springfield-o  Min     FG    3PT     FT    Reb  Ast To St Bk PF Pts"},
-      {"starter", " Home1 ", " Home1         40:05  11-21   3-8    10-11   4-12    9  5  2  1  3  35"},
-      {"bench", "  Home6 ", "  Home6        10:00   2-4    1-1     1-2    0-0     0  0  0  0  0   6"},
-      {"totals", "  TOTAL  ", "  TOTAL                0-0    0-0     0-0    0-0     0  0  0  0  0   0"},
+      {"record of the day", " Springfield on", " Springfield on 13-7           31  20  25  25 101"},
+      {"visitor lost", " Northport ", " Northport      0-1            20  30  22  26  98"},
+      {"heads", " Springfield o  ", " Springfield o  Min     FG    3PT     FT    Reb  Ast To St Bk PF Pts"},
+      {"starter", " Home1 ", " Home1         40:05  11-21   3-8   10-11   4-12   9  5  2  1  3  35"},
+      {"bench", "  Home6 ", "  Home6        10:00   2-4    1-1    1-2    0-0    0  0  0  0  0   6"},
+      {"totals", "  TOTAL  ", "  TOTAL                0-0    0-0    0-0    0-0    0  0  0  0  0   0"},
       {"no shots", "                      .", "                      .000   .000   .000"},
       {"comparison", " Shooting", " Shooting       NOR       SPR"},
-      {"points of the bench", " Bench", " Bench            0         6"},
+      {"points of the bench", " Bench", " Bench           0         6"},
       {"mvp", " Game MVP", " Game MVP: Al Home1"},
       {"idle", " DNP NOR", " DNP NOR: Vis1, Vis2, Vis3, Vis4, Vis5, Vis6, Vis7, Vis8, Vis9, Vis10"},
       {"neither out nor on the floor", "     SPR", "     SPR: Home2, Home3, Home4, Home5, Home10"}};
@@ -85,7 +85,7 @@ TEST(BoxPage, LooksSo) {
   EXPECT_EQ(page.find("Home8"), page.npos) << "0:00 is neither on the bench nor left out";
   EXPECT_EQ(Line(page, " January").substr(0, 45), " January 30, 2011                 Harbor Hall");
   EXPECT_TRUE(page.ends_with("Home1\n\n"));
-  EXPECT_NE(page.find("  TOTAL             13-25    4-9    11-13    4-12    9  5  2  1  3  41\n"
+  EXPECT_NE(page.find("  TOTAL               13-25   4-9   11-13   4-12   9  5  2  1  3  41\n"
                       "                      .520   .444   .846\n"),
             page.npos)
       << page;
@@ -97,11 +97,11 @@ TEST(BoxPage, WithoutThrees) {
   setup.PlusMinusCheck = setup.GameScoreCheck = 1;
   PlayerAt(2, 1).ShotMadeOffReb2[3] = 2, PlayerAt(2, 1).ShotAttOffReb2[3] = 13;
   const std::string page = BoxPage();
-  EXPECT_EQ(Line(page, " Springfield-o  "),
-            " Springfield-o  Min     FG     FT    Reb  Ast To St Bk PF Pts    +/-    GS");
+  EXPECT_EQ(Line(page, " Springfield o  "),
+            " Springfield o  Min     FG     FT    Reb  Ast To St Bk PF Pts    +/-    GS");
   EXPECT_EQ(Line(page, " Home1 "),
-            " Home1         40:05  11-21  10-11   4-12    9  5  2  1  3  35     +7  32.2");
-  EXPECT_NE(page.find("  TOTAL             13-25  11-13    4-12    9  5  2  1  3  41          37.7\n"
+            " Home1         40:05  11-21  10-11   4-12   9  5  2  1  3  35     +7  32.3");
+  EXPECT_NE(page.find("  TOTAL               13-25  11-13   4-12   9  5  2  1  3  41         43.4\n"
                       "                      .520   .846\n"),
             page.npos)
       << page;
@@ -139,10 +139,10 @@ TEST(BoxPage, WhatElseThereIsToTell) {
       {"hurt men", [] {}, " Injuries", " Injuries: Dunn"},
       {"men short", [] { game.side[1].ShortHanded = 4; }, " *",
        " *Northport allowed to play with 4 active players."},
-      {"the record counts it already", [] { game.BoxRebuild = true; }, " Springfield-on",
-       " Springfield-on 12-7            31  20  25  25 101"},
-      {"an exhibition", [] { program.GameKind = "E"; }, " Springfield-on",
-       " Springfield-on                 31  20  25  25 101"},
+      {"the record counts it already", [] { game.BoxRebuild = true; }, " Springfield on",
+       " Springfield on 12-7           31  20  25  25 101"},
+      {"an exhibition", [] { program.GameKind = "E"; }, " Springfield on",
+       " Springfield on                31  20  25  25 101"},
       {"while it is on: no injuries", [] { game.GameOver = false; }, " Injuries", "no line  Injuries"},
       {"nor idle men", [] {}, " DNP", "no line  DNP"},
       {"before a basket", [] { game.player[2][1].Stats[3] = game.player[2][6].Stats[3] = {}; }, " Game MVP",
@@ -274,7 +274,7 @@ TEST(ScoringList, NamesTheShots) {
     at = page.find(words, at);
     ASSERT_NE(at, page.npos) << words;
   }
-  EXPECT_NE(page.find("  1    8:20  SPR  Home1            Outside          2      0    2\n"), page.npos)
+  EXPECT_NE(page.find("  1    8:20  SPR  Home1            Outside         2      0    2\n"), page.npos)
       << page;
 }
 

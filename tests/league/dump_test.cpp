@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <memory>
 #include <sstream>
 
 #include "base/record_file.h"
 #include "harness/temporary_home.h"
+#include "league/box_record.h"
 #include "league/files.h"
 
 namespace tipline {
@@ -38,6 +40,20 @@ TEST(Dump, PrintsARecordFieldByField) {
         "\n   310    FGA                      901          field-goal attempts",
         "\n          [10, 1] 0 77\n"})
     EXPECT_NE(out.str().find(line), std::string::npos) << line << out.str();
+}
+
+TEST(Dump, CountsTheBytesOfATableOfRecords) {
+  TemporaryLeague folder;
+  const auto box = std::make_unique<BoxRecord>();
+  box->Line[3][2].FGA = 17;
+  box->ScoutCoverage[2][3][10][6] = 305;
+  for (const char* name : {"BOX4.BOX", "TempBox"}) {
+    ASSERT_TRUE(RecordFile(LeagueFile(name), kBoxBytes).Write(1, *box));
+    std::ostringstream out;
+    ASSERT_TRUE(DumpRecord(name, 1, out));
+    EXPECT_NE(out.str().find("\n  9857    FGA                      17 "), std::string::npos);
+    EXPECT_NE(out.str().find("\n          [2, 3, 10, 1] 0 0 0 0 0 305\n"), std::string::npos);
+  }
 }
 
 TEST(Dump, RefusesWhatItDoesNotKnow) {

@@ -66,7 +66,8 @@ TEST_F(Resets, ASeasonBeginsAnew) {
   pools.DateType[6][11] = "Q";
   WriteRecord(pools, league.tournamentPools.data());
   ASSERT_TRUE(SaveSchedule() && SaveRules());
-  for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "HcTicker", "BOX1.BOX", "box2.box", "GAMELOGS"})
+  for (const char* name :
+       {"HCRECORDS", "SCORES", "HcTop40", "HcTicker", "BOX1.BOX", "BOX1.PLY", "box2.box", "GAMELOGS"})
     ASSERT_TRUE(WriteWholeFile(LeagueFile(name), "something"));
   Texts labels;
   ASSERT_TRUE(ResetLeague(false, [&labels](const std::string& text) { labels.push_back(text); }));
@@ -76,6 +77,7 @@ TEST_F(Resets, ASeasonBeginsAnew) {
   for (const char* name : {"HCRECORDS", "SCORES", "HcTop40", "HcTicker"})
     EXPECT_EQ(ReadWholeFile(LeagueFile(name)), "") << name;
   EXPECT_FALSE(std::filesystem::exists(LeagueFile("BOX1.BOX")) ||
+               std::filesystem::exists(LeagueFile("BOX1.PLY")) ||
                std::filesystem::exists(LeagueFile("HcHighlights.txt")));
   EXPECT_EQ(ReadWholeFile(LeagueFile("GAMELOGS")), "something");
   EXPECT_EQ(Man(1).Stats[2].G, 0);
