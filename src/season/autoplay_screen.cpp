@@ -192,7 +192,7 @@ bool HCAUTOPLAY::BeginGame() {
   game.GameStarted = game.GameOver = game.GameDone = false;
   game.ExitRequested = false;
   game.WatchUntil = "NONE";
-  TakeDateOf(row);
+  TakeDateOf(row, league.ScheduleYear);
   for (int s = 1; s <= 2; ++s) {
     game.side[s].CoachMode = "C";
     if (row.CoachKind[s] == 'H') game.side[s].CoachMode = "H";
