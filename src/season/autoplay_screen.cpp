@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "aftermath/box_file.h"
 #include "base/random.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -310,7 +311,14 @@ void HCAUTOPLAY::FinishGameCommand() {
   if (Live && Live->JoinEnabled) Live->FinishCommand();
 }
 
-void HCAUTOPLAY::BoxCommand() { screens_.ShowBox(); }
+void HCAUTOPLAY::BoxCommand() {
+  if (PlayingRow == 0) return;
+  const std::string before = program.BoxFileName;
+  program.BoxFileName = "TempBox";
+  const bool saved = SaveBoxFile();
+  program.BoxFileName = before;
+  if (saved) screens_.ShowBox();
+}
 
 bool HCAUTOPLAY::JoinGameCommand() {
   if (!Live || PlayingRow == 0) return false;
