@@ -30,11 +30,11 @@ void PrepareAndPlay(GameScreens& screens) {
 
 }  // namespace
 
-void TakeDateOf(const ScheduleRecord& row) {
+void TakeDateOf(const ScheduleRecord& row, int seasonYear) {
   constexpr int kJanuary = 5;  // as a season month
   game.GameDay = row.Day;
   game.GameCalendarMonth = row.Month;
-  game.GameYear = league.ScheduleYear;
+  game.GameYear = seasonYear;
   game.GameMonth = SeasonMonth(row.Month);
   if (game.GameMonth >= kJanuary) ++game.GameYear;
 }
@@ -46,7 +46,7 @@ bool PlayUpcomingGame(int row, GameScreens& screens) {
   if (!screens.Preview(chosen)) return false;
   game.ScheduleRow = row;
   game.WatchUntil = "NONE";
-  TakeDateOf(chosen);
+  TakeDateOf(chosen, league.ScheduleGame[1].Year);
   program.ReplayLocked = true;
   program.GameKind = "L";
   program.TwoFolderGame = program.ScenarioGame = false;

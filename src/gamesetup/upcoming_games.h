@@ -4,9 +4,9 @@
 
 namespace tipline {
 
-/// The game's date is that of the row: season month, calendar month, day, and the year, which turns behind
-/// December.
-void TakeDateOf(const ScheduleRecord& row);
+/// The game's date is that of the row: season month, calendar month, day, and the year, which is
+/// `seasonYear` up to December and the next one behind it.
+void TakeDateOf(const ScheduleRecord& row, int seasonYear);
 
 /// Plays row `row` of `league.ScheduleGame`. False, with its message and nothing changed, when a team is not
 /// selected or one of the two is gone; false as well for no row, and when the preview is left without a

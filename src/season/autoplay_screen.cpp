@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "aftermath/box_file.h"
 #include "base/random.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -192,7 +193,7 @@ bool HCAUTOPLAY::BeginGame() {
   game.GameStarted = game.GameOver = game.GameDone = false;
   game.ExitRequested = false;
   game.WatchUntil = "NONE";
-  TakeDateOf(row);
+  TakeDateOf(row, league.ScheduleYear);
   for (int s = 1; s <= 2; ++s) {
     game.side[s].CoachMode = "C";
     if (row.CoachKind[s] == 'H') game.side[s].CoachMode = "H";
@@ -310,7 +311,14 @@ void HCAUTOPLAY::FinishGameCommand() {
   if (Live && Live->JoinEnabled) Live->FinishCommand();
 }
 
-void HCAUTOPLAY::BoxCommand() { screens_.ShowBox(); }
+void HCAUTOPLAY::BoxCommand() {
+  if (PlayingRow == 0) return;
+  const std::string before = program.BoxFileName;
+  program.BoxFileName = "TempBox";
+  const bool saved = SaveBoxFile();
+  program.BoxFileName = before;
+  if (saved) screens_.ShowBox();
+}
 
 bool HCAUTOPLAY::JoinGameCommand() {
   if (!Live || PlayingRow == 0) return false;

@@ -104,7 +104,7 @@ struct HCAUTOPLAY {
   void ContinueCommand();
   void NextPlayCommand();
   void FinishGameCommand();  ///< to the end without a pause; the timer then begins no other game
-  void BoxCommand();
+  void BoxCommand();  ///< keeps the running game in "TempBox", and shows it
   /// Takes the game over as it stands, both sides; beeps when it is decided.
   bool JoinGameCommand();
 
