@@ -21,7 +21,7 @@ bool Same(const Performance& counted, double value, std::string_view name) {
   return std::abs(counted.value - value) < 0.001 && (value == 0 || counted.name == Trimmed(name));
 }
 
-std::string Text(double value, std::string_view name) {
+std::string NameAndValue(double value, std::string_view name) {
   return std::string(Trimmed(name)) + " " + std::to_string(std::lround(value * 100) / 100.0).substr(0, 6);
 }
 
@@ -130,8 +130,8 @@ void BooksTally::Compare(const std::function<void(std::string)>& tell, long& fig
                            const Performance& counted) {
     ++figures;
     if (Same(counted, stored, storedName)) return;
-    tell(where + " is " + Text(stored, storedName) + ", the boxes have " + Text(counted.value, counted.name) +
-         ".");
+    tell(where + " is " + NameAndValue(stored, storedName) + ", the boxes have " +
+         NameAndValue(counted.value, counted.name) + ".");
   };
   if (LoadRecordBook()) {
     for (int id = 1; id <= kRecordIds; ++id) {
