@@ -1,12 +1,11 @@
 // The page of a box, top to bottom.
 #include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include "aftermath/box_sums.h"
 #include "aftermath/box_text.h"
-#include "aftermath/page.h"
 #include "base/calendar.h"
+#include "base/page.h"
 #include "engine/game_state.h"
 #include "league/player_values.h"
 #include "league/program.h"
@@ -20,19 +19,6 @@ namespace {
 constexpr int kStoredPeriods = 10;
 
 std::string NameOf(const TeamRecord& team, std::size_t width) { return team.City.Str().substr(0, width); }
-
-std::string OneDecimal(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.1f", value);
-  return std::string_view(text) == "-0.0" ? "0.0" : text;
-}
-
-/// ".487", "1.000".
-std::string Percentage(int made, int tried) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.3f", tried > 0 ? static_cast<double>(made) / tried : 0.0);
-  return text[0] == '0' ? text + 1 : text;
-}
 
 // Head --------------------------------------------------------------------------------------------------
 
@@ -132,7 +118,7 @@ void PutPlusMinus(Page& page, std::string_view value) {
   if (setup.PlusMinusCheck) page.Put("  ").Right(5, value);
 }
 void PutGameScore(Page& page, double score) {
-  if (setup.GameScoreCheck) page.Right(6, OneDecimal(score));
+  if (setup.GameScoreCheck) page.Right(6, Decimal(score, 1));
 }
 
 void WriteBoxPlayerLine(Page& page, int side, int slot) {
@@ -150,9 +136,9 @@ void WriteBoxTeamTotals(Page& page, const StatLine& sum) {
   PutCounters(page.Put("  TOTAL").Tab(21), sum, kTeamColumns[Threes()]);
   PutPlusMinus(page, "");  // the sum of the men would be five times the margin
   PutGameScore(page, GameScore(sum, 0.4));
-  page.End().Tab(23).Put(Percentage(sum.FGM, sum.FGA));
-  if (Threes()) page.Tab(30).Put(Percentage(sum.F3M, sum.F3A));
-  page.Tab(Threes() ? 37 : 30).Put(Percentage(sum.FTM, sum.FTA)).End();
+  page.End().Tab(23).Put(ShareText(sum.FGM, sum.FGA));
+  if (Threes()) page.Tab(30).Put(ShareText(sum.F3M, sum.F3A));
+  page.Tab(Threes() ? 37 : 30).Put(ShareText(sum.FTM, sum.FTA)).End();
 }
 
 int RoundedMinutes(int side, int slot) { return Round(ManAt(side, slot).PlayerGameTime / double{kMinute}); }

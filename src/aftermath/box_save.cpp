@@ -9,6 +9,7 @@
 #include "base/record_file.h"
 #include "league/files.h"
 #include "league/program.h"
+#include "league/report_file.h"
 #include "platform/clock.h"
 
 namespace tipline {
@@ -45,7 +46,7 @@ void CloseLines() {
 /// The page that is to go into the box; empty to keep what it had.
 std::string ReportPage() {
   constexpr std::size_t kShortest = 100;
-  std::string page = game.BoxPageText.empty() ? ReadWholeFile(LeagueFile("VTX.txt")) : game.BoxPageText;
+  std::string page = game.BoxPageText.empty() ? ReadWholeFile(ReportFile()) : game.BoxPageText;
   return page.size() >= kShortest ? page : "";
 }
 

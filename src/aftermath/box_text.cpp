@@ -7,6 +7,7 @@
 #include "engine/game_state.h"
 #include "league/files.h"
 #include "league/program.h"
+#include "league/report_file.h"
 
 namespace tipline {
 namespace {
@@ -35,10 +36,6 @@ void AddTeamsToSeason() {
     AddToSeason(game.team[3 - s].TeamStats[2], line);
     if (s == 2) AddToSeason(game.team[s].HomeStats[1], line);
   }
-}
-
-bool WriteReport(std::string_view text) {
-  return program.LeagueFolder.empty() || WriteWholeFile(LeagueFile("VTX.txt"), text, Saving::kUnflushed);
 }
 
 void CreditMvp() {
@@ -131,12 +128,9 @@ bool WriteBoxText() {
   game.MvpSide = best.Slot > 0 ? best.Side : 0;
   game.MvpSlot = best.Slot;
   if (first && game.GameOver && best.Slot > 0) CreditMvp();
-  return WriteReport(game.BoxPageText);
+  return WriteReportFile(game.BoxPageText);
 }
 
-bool WritePlayLogText() {
-  program.ReportName = "PLAY-BY-PLAY";
-  return WriteReport(PlayLogPage()) || Written(false, LeagueFile("VTX.txt"));
-}
+bool WritePlayLogText() { return WriteReport("PLAY-BY-PLAY", PlayLogPage()); }
 
 }  // namespace tipline

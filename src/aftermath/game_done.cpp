@@ -8,6 +8,7 @@
 #include "engine/game_state.h"
 #include "league/files.h"
 #include "league/program.h"
+#include "league/report_file.h"
 #include "platform/dialogs.h"
 #include "platform/mail.h"
 #include "platform/zip.h"
@@ -102,7 +103,7 @@ bool HCGAMEDONE::SendBoxScoreCommand() const {
   letter.To = Addresses(book_, [this](int k) { return book_.MemberAutoReport[k] == 1; });
   letter.Subject = TeamName(game.team[1]) + " at " + TeamName(game.team[2]);
   bool read = false;
-  letter.Body = ReadWholeFile(LeagueFile("VTX.txt"), &read);
+  letter.Body = ReadWholeFile(ReportFile(), &read);
   const bool sent = read && !letter.To.empty() && platform::mail().Send(letter);
   return sent || platform::RefusedWith("Unable to send boxscore!");
 }

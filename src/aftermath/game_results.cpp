@@ -1,7 +1,5 @@
 #include "aftermath/game_results.h"
 
-#include <ctime>
-
 #include "aftermath/season_lines.h"
 #include "base/calendar.h"
 #include "base/record_file.h"
@@ -10,6 +8,7 @@
 #include "league/program.h"
 #include "league/schedule.h"
 #include "league/setup.h"
+#include "platform/clock.h"
 
 namespace tipline {
 namespace {
@@ -38,15 +37,6 @@ void FillLeaders(ScheduleRecord& row) {
   row.AssistLeader = LeaderText([](const StatLine& line) { return line.Ast; });
   row.StealLeader = LeaderText([](const StatLine& line) { return line.St; });
   row.BlockLeader = LeaderText([](const StatLine& line) { return line.Bk; });
-}
-
-/// The date on which it was played, by the computer's clock: "11-23-2026".
-std::string ComputerDate() {
-  const std::time_t now = std::time(nullptr);
-  std::tm today{};
-  char text[16] = "";
-  if (localtime_r(&now, &today)) std::strftime(text, sizeof text, "%m-%d-%Y", &today);
-  return text;
 }
 
 /// Rebounds and turnovers of nobody count with those of the men.
@@ -123,7 +113,7 @@ ScheduleRecord ScoreOfGame(const std::string& boxFile) {
   }
   score.Year = static_cast<i16>(league.ScheduleYear);
   score.NeutralSite = game.NeutralGame ? 1 : 0;
-  score.Reserved12 = ComputerDate();
+  score.Reserved12 = platform::ComputerDate();
   score.BoxFile = boxFile;
   FillResult(score);
   FillTotals(score);

@@ -5,7 +5,7 @@
 
 #include "aftermath/box_sums.h"
 #include "aftermath/box_text.h"
-#include "aftermath/page.h"
+#include "base/page.h"
 #include "base/record_file.h"
 #include "league/box_record.h"
 #include "league/player_values.h"

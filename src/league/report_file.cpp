@@ -8,10 +8,14 @@ namespace tipline {
 
 std::filesystem::path ReportFile() { return LeagueFile("VTX.txt"); }
 
+bool WriteReportFile(std::string_view page) {
+  const auto file = ReportFile();
+  return file.empty() || WriteWholeFile(file, page, Saving::kUnflushed);
+}
+
 bool WriteReport(std::string_view name, std::string_view page) {
   program.ReportName = name;
-  const auto file = ReportFile();
-  return file.empty() || Written(WriteWholeFile(file, page, Saving::kUnflushed), file);
+  return Written(WriteReportFile(page), ReportFile());
 }
 
 }  // namespace tipline
