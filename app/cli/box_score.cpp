@@ -7,9 +7,9 @@
 #include "aftermath/box_text.h"
 #include "cli/columns.h"
 #include "engine/game_state.h"
-#include "league/player_values.h"
 
 namespace tipline::cli {
+
 std::string PeriodName(int period) {
   const int extra = period - league.rules.PeriodList;
   return extra <= 0 ? Str(period) : extra == 1 ? "OT" : Str(extra) + "OT";

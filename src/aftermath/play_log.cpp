@@ -114,7 +114,8 @@ std::string_view NoteWords(u8 note) {
 std::string NoteOf(const PlayLogRow& row) {
   if (row.Note == kMediaTimeout) return "Media";
   const std::string_view words = NoteWords(row.Note);
-  if (words.empty() || row.OtherSlot == 0) return "";
+  const bool himself = row.OtherSide == row.Side && row.OtherSlot == row.Slot;  // he charged
+  if (words.empty() || row.OtherSlot == 0 || himself) return "";
   return (std::string(words) + KnownName(PlayerAt(row.OtherSide, row.OtherSlot))).substr(0, 25);
 }
 

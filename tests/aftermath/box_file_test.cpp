@@ -433,7 +433,7 @@ TEST_F(BoxFile, DamageHarmsNobody) {
     ReadPlayLog(LeagueFile("BOX2.PLY"));
     ExpectWithinTables(seed);
     EXPECT_FALSE(BoxPage().empty() || ScoringPage().empty() || PlayLogPage().empty());
-    Save("BOX3.BOX");
+    Save("TempBox");
   }
   for (int seed = 1; seed <= 60; ++seed) {  // and the game goes on from it
     random.Seed(static_cast<std::uint64_t>(seed));
