@@ -36,7 +36,9 @@ int Print(const Lists& lists, const Common& common) {
     table.Print(std::cout, true);
     return 0;
   }
-  Show(PageOf(lists));
+  const bool empty =
+      std::all_of(lists.begin(), lists.end(), [](const LeaderList& l) { return l.Lines.empty(); });
+  Show(empty ? "No leaders yet." : PageOf(lists));
   return 0;
 }
 
@@ -72,13 +74,17 @@ int ShowColumns(const Common& common) {
 }
 
 int ListReports(const Common& common) {
-  Columns table({"No", "<Name", "Sections", "Top", "<Team", "<Seasons"});
+  Columns table({"No", "<Name", "Top", "<Team", "<Seasons", "<Key Column"});
   for (int number = 1; number <= kLeaderReports; ++number) {
     const LeaderReport report = LeaderReportOf(number);
     if (report.Sections.empty()) continue;
-    table.Row({Str(number), report.Name, Str(static_cast<int>(report.Sections.size())), Str(report.Rows),
+    std::string keys;
+    for (const auto& section : report.Sections) {
+      keys += (keys.empty() ? "" : ", ") + LeaderColumnOf(section.Key).Name;
+    }
+    table.Row({Str(number), report.Name, "Top " + Str(report.Rows),
                report.Team == 0 ? "All Teams" : TeamName(league.team[report.Team]),
-               report.Season == SeasonLine::kReal ? "Real Stats" : "Replay Stats"});
+               report.Season == SeasonLine::kReal ? "Real Stats" : "Replay Stats", keys});
   }
   table.Print(std::cout, common.Csv);
   return 0;
@@ -206,7 +212,7 @@ int ShowRecords(const RecordRequest& request, const Common& common) {
   if (common.Csv) {
     table.Print(std::cout, true);
   } else {
-    Show(page.empty() ? "No records yet.\n" : page);
+    Show(page.empty() ? "No records yet." : page);
   }
   return 0;
 }

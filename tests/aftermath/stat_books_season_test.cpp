@@ -119,8 +119,9 @@ TEST_F(BookSeason, HoldsWhatAllGamesTogetherSay) {
       const Night& night = *ranked[static_cast<std::size_t>(place - 1)];
       const TopRow row = TopRowOf(top, place, category);
       EXPECT_EQ(row.Value, std::max(0.0f, value(night))) << TopCategoryName(category) << place;
-      if (row.Value > 0)
+      if (row.Value > 0) {
         EXPECT_EQ(row.Name, Text<15>(night.name.View())) << TopCategoryName(category) << place;
+      }
     }
   }
 }
@@ -138,8 +139,9 @@ TEST_F(BookSeason, TheBoardsHoldTheBestMenOfTheLeague) {
     std::sort(values.rbegin(), values.rend());
     for (int place = 1; place <= kBoardPlaces; ++place) {
       const int value = table.LeaderValue[place][board];
-      if (place <= 5)
+      if (place <= 5) {
         EXPECT_EQ(value, values[static_cast<std::size_t>(place - 1)]) << BoardName(board) << place;
+      }
       if (place > 1) {
         EXPECT_LE(value, table.LeaderValue[place - 1][board]);
       }
