@@ -126,19 +126,26 @@ std::optional<FileList> ReadJournal(const fs::path& folder, std::string_view tex
 /// A file while the group is written into it.
 class Target {
  public:
-  Target(const fs::path& path, const GatheredFile& gathered)
-      : path_(path), gathered_(gathered), saver_(path) {}
+  Target(const fs::path& path, const GatheredFile& gathered) : path_(path), gathered_(gathered) {}
 
-  /// What needs room on the disk: the new file beside the old one, or all that lies beyond the old end.
+  /// What needs room on the disk: a new file, whole and beside an old one, or all that lies beyond its end.
   bool MakeRoom() {
-    if (!saver_.Holds()) return false;
-    if (gathered_.replaced) return beside_ = WriteBeside(path_, gathered_.whole, Saving::kUnflushed);
-    data_ = FileHandle(path_, Opening::kChange);
+    data_ = OpenToChange(path_);
     if (data_.Missing()) {
       data_ = FileHandle(path_, Opening::kNew);
-      made_ = data_.Open();
+      made_ = data_.Open() && data_.Hold(Holding::kAlone);
+      if (!made_) return false;
+      if (gathered_.replaced) {
+        return data_.WriteAt(0, reinterpret_cast<const u8*>(gathered_.whole.data()), gathered_.whole.size());
+      }
     }
-    if (!data_.Open() || !data_.Hold(Holding::kAlone)) return false;
+    if (!data_.Open()) return false;
+    if (gathered_.replaced) {
+      data_.Close();
+      saver_.emplace(path_);  // the file beside it is his who saves it
+      beside_ = saver_->Holds() && WriteBeside(path_, gathered_.whole, Saving::kUnflushed);
+      return beside_;
+    }
     before_ = data_.Length();
     if (before_ < 0) return false;
     for (const FilePiece& piece : gathered_.pieces) {
@@ -149,10 +156,11 @@ class Target {
   }
 
   bool Finish() {
-    if (gathered_.replaced) {
+    if (beside_) {
       beside_ = false;
       return TakePlace(path_);
     }
+    if (gathered_.replaced) return data_.Close();
     for (const FilePiece& piece : gathered_.pieces) {
       if (!Write(piece, 0, std::clamp<long long>(before_ - piece.offset, 0, SizeOf(piece)))) return false;
     }
@@ -176,7 +184,7 @@ class Target {
 
   const fs::path& path_;
   const GatheredFile& gathered_;
-  SoleSaver saver_;
+  std::optional<SoleSaver> saver_;
   FileHandle data_;
   long long before_ = -1;
   bool beside_ = false, made_ = false;

@@ -89,18 +89,55 @@ bool RecordFile::ReadBytes(int n, std::span<u8> bytes) const {
 
 bool RecordFile::ReadSlots(std::span<const int> numbers,
                            const std::function<void(std::size_t, const u8*)>& visit) const {
-  std::vector<u8> bytes(static_cast<std::size_t>(slot_));
+  const auto slot = static_cast<std::size_t>(slot_);
+  std::vector<u8> bytes;
   const View file(path_);
   bool ok = file.Ok();
-  for (std::size_t k = 0; ok && k < numbers.size(); ++k) {
-    if (numbers[k] < 1) continue;
-    ok = file.Fill((numbers[k] - 1LL) * slot_, bytes);
-    if (ok) visit(k, bytes.data());
+  for (std::size_t k = 0; ok && k < numbers.size();) {
+    // Neighbors are read at once.
+    std::size_t run = 1;
+    while (k + run < numbers.size() && numbers[k + run] == numbers[k] + static_cast<int>(run)) ++run;
+    bytes.resize(run * slot);
+    ok = numbers[k] < 1 || file.Fill((numbers[k] - 1LL) * slot_, bytes);
+    for (std::size_t n = 0; ok && n < run; ++n) {
+      if (numbers[k + n] >= 1) visit(k + n, bytes.data() + n * slot);
+    }
+    k += run;
   }
   return ok;
 }
 
+/// In a group: what changes nothing is left out, and neighbors go as one piece.
+bool RecordFile::GatherSlots(const Slots& slots) const {
+  const auto slot = static_cast<std::size_t>(slot_);
+  const View file(path_);
+  if (!file.Ok()) return false;
+  std::vector<FilePiece> pieces;
+  std::vector<u8> before;
+  long long end = 0;
+  for (std::size_t k = 0; k < slots.size();) {
+    const int first = slots[k].first;
+    std::size_t run = 1;
+    while (k + run < slots.size() && slots[k + run].first == first + static_cast<int>(run)) ++run;
+    const long long from = (first - 1LL) * slot_;
+    before.resize(run * slot);
+    if (first < 1 || !file.Fill(from, before)) return false;
+    std::vector<u8> after = before;
+    for (std::size_t n = 0; n < run; ++n) {
+      const auto& bytes = slots[k + n].second;
+      std::copy_n(bytes.begin(), std::min(bytes.size(), slot),
+                  after.begin() + static_cast<std::ptrdiff_t>(n * slot));
+    }
+    const long long behind = from + static_cast<long long>(run * slot);
+    if (after != before || behind > file.Length()) pieces.push_back({from, std::move(after)});
+    end = std::max(end, behind);
+    k += run;
+  }
+  return pieces.empty() || Gather(path_, std::move(pieces), end);
+}
+
 bool RecordFile::WriteSlots(const Slots& slots) const {
+  if (Gathering()) return GatherSlots(slots);
   std::vector<FilePiece> pieces;
   long long end = 0;
   for (const auto& [n, bytes] : slots) {

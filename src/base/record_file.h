@@ -70,6 +70,7 @@ class RecordFile {
 
  private:
   bool ReadBytes(int n, std::span<u8> bytes) const;
+  bool GatherSlots(const Slots& slots) const;
   bool ReadToRewrite(std::string& bytes) const;
 
   std::filesystem::path path_;

@@ -175,14 +175,15 @@ bool ChangeInPlace(const fs::path& file, std::span<const FilePiece> pieces, long
   if (!journal.Open()) return false;
   FileHandle data(file, Opening::kChange);
   const bool missing = data.Missing();
-  const auto before = data.Open() || missing ? LookBefore(data, pieces, length) : std::nullopt;
+  const bool held = data.Open() && data.Hold(Holding::kAlone);
+  const auto before = held || missing ? LookBefore(data, pieces, length) : std::nullopt;
   bool begun = false;
   if (before) {
     const std::string text = JournalText(*before);
     begun = journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size());
   }
   if (begun && missing) data = FileHandle(file, Opening::kNew);
-  begun = begun && data.Open() && data.Hold(Holding::kAlone);
+  begun = begun && data.Open() && (held || data.Hold(Holding::kAlone));
   if (begun && Apply(data, pieces, length) && RemoveJournal(file)) return true;
   if (begun) {
     Undo(file, journal);
@@ -219,6 +220,18 @@ FileHandle OpenToRead(const fs::path& file, bool* ok) {
     undone = UndoUnfinished(file);
   } while (undone != Undone::kNot && Clock::now() < end);
   *ok = false;
+  return {};
+}
+
+FileHandle OpenToChange(const fs::path& file) {
+  const auto end = Clock::now() + platform::kPatience;
+  while (UndoUnfinished(file) != Undone::kNot) {
+    FileHandle data(file, Opening::kChange);
+    if (!data.Open() || !data.Hold(Holding::kAlone)) return data;
+    // A saver makes his journal first, then waits for the file, and only then looks what stands there.
+    if (!data.Removed() && !IsHalfChanged(file)) return data;
+    if (Clock::now() > end) break;
+  }
   return {};
 }
 

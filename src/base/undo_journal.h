@@ -43,6 +43,10 @@ bool IsHalfChanged(const std::filesystem::path& file);
 /// Not open when there is none, then `*ok` is true, or when it can't be opened or made whole.
 platform::FileHandle OpenToRead(const std::filesystem::path& file, bool* ok);
 
+/// The file, whole and held against all others, to be written without a journal of its own; for a group whose
+/// own journal covers it. Not open when there is none (`Missing`), or others hold it for too long.
+platform::FileHandle OpenToChange(const std::filesystem::path& file);
+
 /// While it lives no other program, nor this one, changes or replaces `file`; for one rewrite.
 class SoleSaver {
  public:

@@ -154,7 +154,7 @@ TEST(UpdateRecords, PlayoffGamesAreNoMatterForTheBook) {
   EXPECT_EQ(RecordBookPage(false) + RecordBookPage(true), "");
 }
 
-class RecordFiles : public testing::Test {
+class RecordBooks : public testing::Test {
  protected:
   void SetUp() override {
     folder_ = program.LeagueFolder;
@@ -178,7 +178,7 @@ class RecordFiles : public testing::Test {
   std::filesystem::path folder_;
 };
 
-TEST_F(RecordFiles, BothBooksAreKeptApartAndFollowTheirFiles) {
+TEST_F(RecordBooks, BothBooksAreKeptApartAndFollowTheirFiles) {
   ASSERT_TRUE(EnterGame());
   EXPECT_EQ(ReadWholeFile(LeagueFile("HCRECORDS")).size(), 240000u);
   PlayerAt(2, 3).Stats[3].FGM = 20;
@@ -197,7 +197,7 @@ TEST_F(RecordFiles, BothBooksAreKeptApartAndFollowTheirFiles) {
   EXPECT_EQ(Best(AllTimeFolder()), "49 Ray NYK, 1 Brief NYK");
 }
 
-TEST_F(RecordFiles, WhatCanNotBeWrittenIsForgotten) {
+TEST_F(RecordBooks, WhatCanNotBeWrittenIsForgotten) {
   ASSERT_TRUE(EnterGame());
   PlayerAt(2, 3).Stats[3].FGM = 20;
   {
