@@ -166,7 +166,7 @@ void NarrateIncident() {
 void NarrateOpening() {
   if (!Listening()) return;
   NoteScene();
-  if (game.CommentaryOn) SpeakLineups();
+  if (!OnlyFilmed()) SpeakLineups();
   DescribeOpening();
   ShowPlayByPlay();
 }
@@ -194,7 +194,7 @@ void NarratePeriodEnd() {
   if (!Listening()) return;
   DescribePeriodEnd();
   ShowPlayByPlay();
-  if (game.CommentaryOn) SpeakPeriodEnd();
+  if (!OnlyFilmed()) SpeakPeriodEnd();
 }
 
 }  // namespace tipline

@@ -8,6 +8,8 @@ namespace tipline {
 
 /// Plays are told; what-if runs of the chances are not.
 inline bool Listening() { return (game.CommentaryOn || game.FilmOn) && !game.AnalysisMode; }
+/// They go on film alone: nothing is shown or spoken.
+inline bool OnlyFilmed() { return game.FilmOn && !game.CommentaryOn; }
 
 /// A game begins, its coaches chosen: it is filmed where the rules keep the film, heard or not.
 void BeginFilm();

@@ -5,6 +5,7 @@
 
 #include "narration/film.h"
 #include "narration/lines.h"
+#include "narration/narrator.h"
 #include "narration/speech.h"
 #include "platform/commentary_box.h"
 
@@ -84,7 +85,7 @@ void ShowPlayByPlay() {
   ClearLaterCues();
   if (WomensGame()) RewriteGender();
   AddFilmFrames();
-  if (game.CommentaryOn) {
+  if (!OnlyFilmed()) {
     ShowLines();
     if (game.commentary.TellsPlay) SpeakPlay();
   }
