@@ -88,7 +88,7 @@ std::string SideCells(const ReplaySide& side, int games) {
 /// Files that tell of games; a season begins without them.
 bool IsOfAGame(const fs::path& file) {
   const std::string ending = Upper(file.extension().string());
-  for (const char* other : {".BOX", ".FLM", ".HAL", ".HA2", ".HA3"}) {
+  for (const char* other : {".BOX", ".PLY", ".FLM", ".HAL", ".HA2", ".HA3"}) {
     if (ending == other) return true;
   }
   return false;
