@@ -33,7 +33,7 @@ class BooksTally {
   struct Leader {
     int recNo = 0, value = 0;
   };
-  std::map<int, std::vector<Leader>> boards_;  ///< at most ten, in order
+  std::map<int, std::vector<Leader>> boards_;  ///< ten places in order
 };
 
 }  // namespace tipline
