@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <utility>
-
-#include "base/replace_file.h"
 
 namespace tipline {
 namespace {
@@ -72,6 +71,7 @@ std::string NameFrom(const fs::path& folder, const fs::path& file) {
 
 std::string JournalText(const fs::path& folder, const FileList& files) {
   std::string text(kHeading);
+  Put(text, std::uint64_t{0});
   for (const auto& [path, file] : files) {
     PutText(text, NameFrom(folder, path));
     Put(text, static_cast<u8>(file.replaced));
@@ -83,6 +83,8 @@ std::string JournalText(const fs::path& folder, const FileList& files) {
       PutText(text, {reinterpret_cast<const char*>(piece.bytes.data()), piece.bytes.size()});
     }
   }
+  const std::uint64_t length = text.size() + sizeof(std::uint64_t);
+  std::memcpy(text.data() + kHeading.size(), &length, sizeof length);
   Put(text, SumOf(text));
   return text;
 }
@@ -105,14 +107,18 @@ bool TakeFile(std::string_view& text, GatheredFile& file) {
   return true;
 }
 
-/// Nothing when the journal is not whole: nothing of it was written then.
+/// Nothing when the journal is not whole, or emptied: no file is half written then.
 std::optional<FileList> ReadJournal(const fs::path& folder, std::string_view text) {
-  std::uint64_t sum = 0;
-  if (text.size() < kHeading.size() + sizeof sum || !text.starts_with(kHeading)) return {};
+  std::uint64_t length = 0, sum = 0;
+  constexpr std::size_t kHead = kHeading.size() + sizeof length;
+  if (text.size() < kHead + sizeof sum || !text.starts_with(kHeading)) return {};
+  std::memcpy(&length, text.data() + kHeading.size(), sizeof length);
+  if (length < kHead + sizeof sum || length > text.size()) return {};
+  text = text.substr(0, static_cast<std::size_t>(length));
   std::memcpy(&sum, text.data() + text.size() - sizeof sum, sizeof sum);
   text.remove_suffix(sizeof sum);
   if (SumOf(text) != sum) return {};
-  text.remove_prefix(kHeading.size());
+  text.remove_prefix(kHead);
   FileList files;
   while (!text.empty()) {
     std::string_view name;
@@ -128,66 +134,55 @@ class Target {
  public:
   Target(const fs::path& path, const GatheredFile& gathered) : path_(path), gathered_(gathered) {}
 
-  /// What needs room on the disk: a new file, whole and beside an old one, or all that lies beyond its end.
+  /// What needs room on the disk: all that lies beyond the file's old end.
   bool MakeRoom() {
     data_ = OpenToChange(path_);
     if (data_.Missing()) {
       data_ = FileHandle(path_, Opening::kNew);
-      made_ = data_.Open() && data_.Hold(Holding::kAlone);
-      if (!made_) return false;
-      if (gathered_.replaced) {
-        return data_.WriteAt(0, reinterpret_cast<const u8*>(gathered_.whole.data()), gathered_.whole.size());
-      }
+      made_ = data_.Open();
+      if (!made_ || !data_.Hold(Holding::kAlone)) return false;
     }
-    if (!data_.Open()) return false;
-    if (gathered_.replaced) {
-      data_.Close();
-      saver_.emplace(path_);  // the file beside it is his who saves it
-      beside_ = saver_->Holds() && WriteBeside(path_, gathered_.whole, Saving::kUnflushed);
-      return beside_;
-    }
-    before_ = data_.Length();
-    if (before_ < 0) return false;
-    for (const FilePiece& piece : gathered_.pieces) {
-      const long long skip = std::clamp<long long>(before_ - piece.offset, 0, SizeOf(piece));
-      if (!Write(piece, skip, SizeOf(piece))) return false;
-    }
+    before_ = data_.Open() ? data_.Length() : -1;
+    if (before_ < 0 || !WriteAll(before_, kNoEnd)) return false;
     return data_.Length() >= gathered_.length || data_.Cut(gathered_.length);
   }
 
   bool Finish() {
-    if (beside_) {
-      beside_ = false;
-      return TakePlace(path_);
-    }
-    if (gathered_.replaced) return data_.Close();
-    for (const FilePiece& piece : gathered_.pieces) {
-      if (!Write(piece, 0, std::clamp<long long>(before_ - piece.offset, 0, SizeOf(piece)))) return false;
-    }
-    return data_.Close();
+    if (!WriteAll(0, before_)) return false;
+    const auto whole = static_cast<long long>(gathered_.whole.size());
+    return (!gathered_.replaced || before_ <= whole || data_.Cut(whole)) && data_.Close();
   }
 
   /// As before MakeRoom.
   void TakeBack() {
-    if (beside_) DropBeside(path_);
     if (before_ >= 0) data_.Cut(before_);
     std::error_code ignored;
     if (made_) fs::remove(path_, ignored);
   }
 
  private:
-  static long long SizeOf(const FilePiece& piece) { return static_cast<long long>(piece.bytes.size()); }
-  bool Write(const FilePiece& piece, long long from, long long to) const {
-    return from >= to ||
-           data_.WriteAt(piece.offset + from, piece.bytes.data() + from, static_cast<std::size_t>(to - from));
+  static constexpr long long kNoEnd = std::numeric_limits<long long>::max();
+
+  /// What was gathered for the stretch of the file between two offsets.
+  bool WriteAll(long long from, long long to) const {
+    const auto write = [&](long long offset, const u8* bytes, std::size_t size) {
+      const long long first = std::max(from, offset);
+      const long long end = std::min(to, offset + static_cast<long long>(size));
+      return first >= end ||
+             data_.WriteAt(first, bytes + (first - offset), static_cast<std::size_t>(end - first));
+    };
+    if (gathered_.replaced)
+      return write(0, reinterpret_cast<const u8*>(gathered_.whole.data()), gathered_.whole.size());
+    return std::all_of(gathered_.pieces.begin(), gathered_.pieces.end(), [&](const FilePiece& piece) {
+      return write(piece.offset, piece.bytes.data(), piece.bytes.size());
+    });
   }
 
   const fs::path& path_;
   const GatheredFile& gathered_;
-  std::optional<SoleSaver> saver_;
   FileHandle data_;
   long long before_ = -1;
-  bool beside_ = false, made_ = false;
+  bool made_ = false;
 };
 
 enum class Written { kAll, kNothing, kHalf };
@@ -206,9 +201,27 @@ Written WriteFiles(const FileList& files) {
   return Written::kAll;
 }
 
-bool RemoveJournal(const fs::path& folder) {
-  std::error_code error;
-  return fs::remove(JournalOf(folder), error) && !error;
+/// The journal of the folder, held by this program alone, with nothing to carry out in it; not open when
+/// there can be none. It stays between two saves: a file that is made and removed again and again is dear.
+FileHandle OwnJournal(const fs::path& folder) {
+  for (int tries = 0; tries < 100; ++tries) {
+    FileHandle journal(JournalOf(folder), Opening::kChange);
+    if (journal.Missing()) journal = FileHandle(JournalOf(folder), Opening::kNew);
+    if (!journal.Open() && journal.Taken()) continue;
+    if (!journal.Open() || !journal.Hold(Holding::kAlone)) break;
+    if (journal.Removed()) continue;
+    char heading[kHeading.size()] = {};
+    const long long got = journal.ReadUpTo(0, reinterpret_cast<u8*>(heading), sizeof heading);
+    if (got >= 0 && std::string_view(heading, sizeof heading) != kHeading) return journal;
+    journal.Close();
+    if (!FinishGroupSave(folder)) break;
+  }
+  return {};
+}
+
+bool Empty(const FileHandle& journal) {
+  constexpr u8 kNothing[kHeading.size()] = {};
+  return journal.WriteAt(0, kNothing, sizeof kNothing);
 }
 
 }  // namespace
@@ -295,17 +308,16 @@ bool GroupSave::Keep() {
   FileList files;
   for (const fs::path& path : order_) files.emplace_back(path, std::move(files_[path.native()]));
   if (files.empty()) return true;
-  if (!FinishGroupSave(folder_)) return false;
-  const FileHandle journal(JournalOf(folder_), Opening::kNew);
-  if (!journal.Open() || !journal.Hold(Holding::kAlone) || journal.Removed()) return false;
+  const FileHandle journal = OwnJournal(folder_);
+  if (!journal.Open()) return false;
   const std::string text = JournalText(folder_, files);
   if (!journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size())) {
-    RemoveJournal(folder_);
+    Empty(journal);
     return false;
   }
   const Written written = WriteFiles(files);
   if (written == Written::kHalf) return false;
-  return RemoveJournal(folder_) && written == Written::kAll;
+  return Empty(journal) && written == Written::kAll;
 }
 
 bool FinishGroupSave(const fs::path& folder) {
@@ -319,7 +331,8 @@ bool FinishGroupSave(const fs::path& folder) {
   if (!read) return false;
   const auto files = ReadJournal(folder, text);
   if (files && WriteFiles(*files) != Written::kAll) return false;
-  return RemoveJournal(folder);
+  std::error_code error;
+  return fs::remove(JournalOf(folder), error) && !error;
 }
 
 }  // namespace tipline

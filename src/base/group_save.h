@@ -1,9 +1,9 @@
 #pragma once
 // Several files changed in one step: a finished game stands in a dozen of them. While a group is under way
 // every write of the file operations is gathered in memory, in its order, and reads see what was gathered.
-// When all is known it goes into one journal of the folder, from there into the files, and the journal goes.
-// A program that is killed before the journal is whole has changed nothing; one that is killed later leaves
-// the journal, and whoever opens the folder next carries it out.
+// When all is known it goes into one journal of the folder, from there into the files, and the journal is
+// emptied. A program that is killed before the journal is whole has changed nothing; one that is killed later
+// leaves it whole, and whoever opens the folder next carries it out.
 #include <filesystem>
 #include <map>
 #include <string>
@@ -60,8 +60,8 @@ const GatheredFile* Gathered(const std::filesystem::path& file);
 bool Gather(const std::filesystem::path& file, std::vector<FilePiece> pieces, long long length);
 bool GatherWhole(const std::filesystem::path& file, std::string bytes);
 
-/// Carries out a group save of this folder that was cut short. False when it can't be: the disk is full, or
-/// a file can't be written; the journal then stays.
+/// Carries out a group save of this folder that was cut short, and removes the journal. False when it can't
+/// be: the disk is full, or a file can't be written; the journal then stays.
 [[nodiscard]] bool FinishGroupSave(const std::filesystem::path& folder);
 
 }  // namespace tipline

@@ -94,14 +94,15 @@ bool RecordFile::ReadSlots(std::span<const int> numbers,
   const View file(path_);
   bool ok = file.Ok();
   for (std::size_t k = 0; ok && k < numbers.size();) {
-    // Neighbors are read at once.
-    std::size_t run = 1;
+    if (numbers[k] < 1) {
+      ++k;
+      continue;
+    }
+    std::size_t run = 1;  // neighbors are read at once
     while (k + run < numbers.size() && numbers[k + run] == numbers[k] + static_cast<int>(run)) ++run;
     bytes.resize(run * slot);
-    ok = numbers[k] < 1 || file.Fill((numbers[k] - 1LL) * slot_, bytes);
-    for (std::size_t n = 0; ok && n < run; ++n) {
-      if (numbers[k + n] >= 1) visit(k + n, bytes.data() + n * slot);
-    }
+    ok = file.Fill((numbers[k] - 1LL) * slot_, bytes);
+    for (std::size_t n = 0; ok && n < run; ++n) visit(k + n, bytes.data() + n * slot);
     k += run;
   }
   return ok;

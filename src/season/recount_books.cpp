@@ -120,66 +120,72 @@ void BooksTally::AddLeaders(const BoxRecord& box, const SeasonTally& season) {
           continue;
         }
         SortBoard(rows);
-        AddLeaders(box, season);
-      }
-      AddTopGames(box);
-    }
-
-    void BooksTally::Compare(const std::function<void(std::string)>& tell, long& figures) const {
-      const auto differs = [&](const std::string& where, double stored, std::string_view storedName,
-                               const Performance& counted) {
-        ++figures;
-        if (Same(counted, stored, storedName)) return;
-        tell(where + " is " + NameAndValue(stored, storedName) + ", the boxes have " +
-             NameAndValue(counted.value, counted.name) + ".");
-      };
-      if (LoadRecordBook()) {
-        for (int id = 1; id <= kRecordIds; ++id) {
-          const std::string name = RecordName(id > kTeamRecords ? id - kTeamRecords : id);
-          const auto known = records_.find(id);
-          if (name.empty() || known == records_.end()) continue;
-          auto all = known->second;
-          SortBest(all, false);
-          all.resize(kRecordPlaces);
-          const RecordRow& row =
-              league.RecordBook.Row[static_cast<std::size_t>(RecordSlot(RecordBlock::kGame, id))];
-          for (int place = 1; place <= kRecordPlaces; ++place) {
-            auto counted = all[static_cast<std::size_t>(place - 1)];
-            counted.name = std::string(Trimmed(counted.name));
-            differs("Record \"" + name + "\" (" + std::to_string(id) + "), place " + std::to_string(place),
-                    row.Value[place], row.Holder[place].View().substr(0, id > kTeamRecords ? 20 : 15),
-                    counted);
-          }
-        }
-      }
-      if (Top40Table table; ReadTop40(table)) {
-        for (int category = 1; category <= kTopCategories; ++category) {
-          auto all = Best(topGames_, category);
-          SortBest(all, true);
-          all.resize(kTopPlaces);
-          for (int place = 1; place <= kTopPlaces; ++place) {
-            const TopRow row = TopRowOf(table, place, category);
-            differs("Best game in \"" + std::string(TopCategoryName(category)) + "\", place " +
-                        std::to_string(place),
-                    row.Value, row.Name.View(), all[static_cast<std::size_t>(place - 1)]);
-          }
-        }
-      }
-      if (LeaderTable table; ReadLeaders(table)) {
-        for (int board = 1; board <= kBoards; ++board) {
-          const auto found = boards_.find(board);
-          for (int place = 1; place <= kBoardPlaces; ++place) {
-            Performance counted;
-            if (found != boards_.end() && place <= static_cast<int>(found->second.size())) {
-              const Leader& leader = found->second[static_cast<std::size_t>(place - 1)];
-              counted = {double(leader.value), std::to_string(leader.recNo), ""};
-            }
-            differs("Leader board \"" + std::string(BoardName(board)) + "\", place " + std::to_string(place),
-                    table.LeaderValue[place][board], std::to_string(table.LeaderRecNo[place][board]),
-                    counted);
-          }
-        }
       }
     }
+  }
+}
 
-  }  // namespace tipline
+void BooksTally::Add(const BoxRecord& box, const ScheduleRecord& row, const SeasonTally& season) {
+  if (row.PlayoffFlag != 'Y') {
+    AddRecords(box);
+    AddLeaders(box, season);
+  }
+  AddTopGames(box);
+}
+
+void BooksTally::Compare(const std::function<void(std::string)>& tell, long& figures) const {
+  const auto differs = [&](const std::string& where, double stored, std::string_view storedName,
+                           const Performance& counted) {
+    ++figures;
+    if (Same(counted, stored, storedName)) return;
+    tell(where + " is " + NameAndValue(stored, storedName) + ", the boxes have " +
+         NameAndValue(counted.value, counted.name) + ".");
+  };
+  if (LoadRecordBook()) {
+    for (int id = 1; id <= kRecordIds; ++id) {
+      const std::string name = RecordName(id > kTeamRecords ? id - kTeamRecords : id);
+      const auto known = records_.find(id);
+      if (name.empty() || known == records_.end()) continue;
+      auto all = known->second;
+      SortBest(all, false);
+      all.resize(kRecordPlaces);
+      const RecordRow& row =
+          league.RecordBook.Row[static_cast<std::size_t>(RecordSlot(RecordBlock::kGame, id))];
+      for (int place = 1; place <= kRecordPlaces; ++place) {
+        auto counted = all[static_cast<std::size_t>(place - 1)];
+        counted.name = std::string(Trimmed(counted.name));
+        differs("Record \"" + name + "\" (" + std::to_string(id) + "), place " + std::to_string(place),
+                row.Value[place], row.Holder[place].View().substr(0, id > kTeamRecords ? 20 : 15), counted);
+      }
+    }
+  }
+  if (Top40Table table; ReadTop40(table)) {
+    for (int category = 1; category <= kTopCategories; ++category) {
+      auto all = Best(topGames_, category);
+      SortBest(all, true);
+      all.resize(kTopPlaces);
+      for (int place = 1; place <= kTopPlaces; ++place) {
+        const TopRow row = TopRowOf(table, place, category);
+        differs(
+            "Best game in \"" + std::string(TopCategoryName(category)) + "\", place " + std::to_string(place),
+            row.Value, row.Name.View(), all[static_cast<std::size_t>(place - 1)]);
+      }
+    }
+  }
+  if (LeaderTable table; ReadLeaders(table)) {
+    for (int board = 1; board <= kBoards; ++board) {
+      const auto found = boards_.find(board);
+      for (int place = 1; place <= kBoardPlaces; ++place) {
+        Performance counted;
+        if (found != boards_.end() && place <= static_cast<int>(found->second.size())) {
+          const Leader& leader = found->second[static_cast<std::size_t>(place - 1)];
+          counted = {double(leader.value), std::to_string(leader.recNo), ""};
+        }
+        differs("Leader board \"" + std::string(BoardName(board)) + "\", place " + std::to_string(place),
+                table.LeaderValue[place][board], std::to_string(table.LeaderRecNo[place][board]), counted);
+      }
+    }
+  }
+}
+
+}  // namespace tipline
