@@ -13,6 +13,8 @@ namespace {
 using platform::FileHandle;
 using platform::Opening;
 
+constexpr std::size_t kReadAtOnce = 256 * 1024;  // bytes
+
 /// A file as a reader sees it: with what a group save under way has gathered for it.
 class View {
  public:
@@ -108,7 +110,7 @@ bool RecordFile::ReadSlots(std::span<const int> numbers,
   return ok;
 }
 
-/// In a group: what changes nothing is left out, and neighbors go as one piece.
+/// In a group: what changes nothing is left out.
 bool RecordFile::GatherSlots(const Slots& slots) const {
   const auto slot = static_cast<std::size_t>(slot_);
   const View file(path_);
@@ -117,22 +119,24 @@ bool RecordFile::GatherSlots(const Slots& slots) const {
   std::vector<u8> before;
   long long end = 0;
   for (std::size_t k = 0; k < slots.size();) {
+    // Slots that lie near one another are read at once.
     const int first = slots[k].first;
-    std::size_t run = 1;
-    while (k + run < slots.size() && slots[k + run].first == first + static_cast<int>(run)) ++run;
+    std::size_t count = 1;
+    while (k + count < slots.size() && slots[k + count].first > slots[k + count - 1].first &&
+           (slots[k + count].first - first) * slot < kReadAtOnce)
+      ++count;
+    const auto span = static_cast<std::size_t>(slots[k + count - 1].first - first + 1);
     const long long from = (first - 1LL) * slot_;
-    before.resize(run * slot);
+    before.resize(span * slot);
     if (first < 1 || !file.Fill(from, before)) return false;
-    std::vector<u8> after = before;
-    for (std::size_t n = 0; n < run; ++n) {
-      const auto& bytes = slots[k + n].second;
-      std::copy_n(bytes.begin(), std::min(bytes.size(), slot),
-                  after.begin() + static_cast<std::ptrdiff_t>(n * slot));
+    for (; count > 0; --count, ++k) {
+      const auto& [n, bytes] = slots[k];
+      const u8* old = before.data() + static_cast<std::size_t>(n - first) * slot;
+      end = std::max(end, static_cast<long long>(n) * slot_);
+      const bool same =
+          n * static_cast<long long>(slot_) <= file.Length() && std::equal(bytes.begin(), bytes.end(), old);
+      if (!same) pieces.push_back({(n - 1LL) * slot_, bytes});
     }
-    const long long behind = from + static_cast<long long>(run * slot);
-    if (after != before || behind > file.Length()) pieces.push_back({from, std::move(after)});
-    end = std::max(end, behind);
-    k += run;
   }
   return pieces.empty() || Gather(path_, std::move(pieces), end);
 }
@@ -150,14 +154,14 @@ bool RecordFile::WriteSlots(const Slots& slots) const {
 }
 
 bool RecordFile::ReadAll(int count, const std::function<void(int, const u8*)>& visit) const {
-  constexpr int kSlotsAtOnce = 64;
   const auto slot = static_cast<std::size_t>(slot_);
-  std::vector<u8> buffer(slot * kSlotsAtOnce);
+  const int atOnce = std::max(1, static_cast<int>(kReadAtOnce / slot));
+  std::vector<u8> buffer(slot * static_cast<std::size_t>(std::min(atOnce, std::max(count, 1))));
   const View file(path_);
   bool ok = file.Ok();
-  for (int n = 1; n <= count; n += kSlotsAtOnce) {
+  for (int n = 1; n <= count; n += atOnce) {
     ok = file.Fill((n - 1LL) * slot_, buffer) && ok;
-    for (int k = 0; k < kSlotsAtOnce && n + k <= count; ++k) {
+    for (int k = 0; k < atOnce && n + k <= count; ++k) {
       visit(n + k, buffer.data() + slot * static_cast<std::size_t>(k));
     }
   }
