@@ -1,7 +1,7 @@
 #pragma once
 // The words of a game: states, kinds of play, results. Their texts stand in files, on the wire and in
-// prompts; the play log of a stored game holds its kinds and results by number, so new ones of these go to the
-// end.
+// prompts; the play log of a stored game holds its kinds and results by number, so new ones of these go to
+// the end.
 #include "base/words.h"
 
 namespace tipline {
