@@ -75,7 +75,7 @@ void Open() {
   LoadAllTeams();
   if (!rules) SaveRules();
   LoadSchedule();
-  LoadScores();
+  (void)LoadScores();
   LoadLeaguePlayers();
 }
 

@@ -51,7 +51,7 @@ void Columns::PrintLine(std::ostream& out, const std::vector<std::string>& cells
 void Columns::Print(std::ostream& out, bool csv) const {
   if (csv) {
     const auto line = [&out](const std::vector<std::string>& cells) {
-      for (std::size_t i = 0; i < cells.size(); ++i) out << (i ? "," : "") << CsvField(cells[i]);
+      for (std::size_t i = 0; i < cells.size(); ++i) out << (i ? "," : "") << CsvField(Plain(cells[i]));
       out << '\n';
     };
     line(headings_);
@@ -75,6 +75,14 @@ void Columns::Print(std::ostream& out, bool csv) const {
     } else {
       PrintLine(out, row, widths);
     }
+  }
+}
+
+void PrintPlain(std::ostream& out, std::string_view page) {
+  while (!page.empty()) {
+    const auto end = std::min(page.find('\n'), page.size());
+    out << Plain(std::string(page.substr(0, end))) << '\n';
+    page.remove_prefix(std::min(end + 1, page.size()));
   }
 }
 

@@ -2,6 +2,7 @@
 // A table for people, in aligned columns, or for programs, as comma-separated text.
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tipline::cli {
@@ -30,6 +31,8 @@ class Columns {
 
 /// The text with '?' for what would steer the terminal: a damaged file, or a coach's line, may hold it.
 std::string Plain(std::string text);
+/// The same for each line of a page.
+void PrintPlain(std::ostream& out, std::string_view page);
 inline std::string Str(int value) { return std::to_string(value); }
 /// "7-15".
 inline std::string Of(int made, int tried) { return Str(made) + "-" + Str(tried); }

@@ -15,22 +15,17 @@ namespace {
 
 using Lists = std::vector<LeaderList>;
 
-/// Line by line: a damaged file may hold what would steer the terminal.
-void Show(std::string_view page) {
-  while (!page.empty()) {
-    const auto end = std::min(page.find('\n'), page.size());
-    std::cout << Plain(std::string(page.substr(0, end))) << '\n';
-    page.remove_prefix(std::min(end + 1, page.size()));
-  }
-}
-
 int Print(const Lists& lists, const Common& common) {
   if (common.Csv) {
-    Columns table({"List", "Place", "Player", "Team", "Value"});
+    Columns table({"List", "Place", "Player", "Team", "Value", "More"});
     for (const LeaderList& list : lists) {
       const std::string name = list.Title.substr(list.Title.find(": ") + 2);
       for (const auto& line : list.Lines) {
-        table.Row({name, Str(line.Place), line.Name, line.Team, line.Cells[0]});
+        std::string more;
+        for (std::size_t k = 1; k < line.Cells.size(); ++k) {
+          more += (k > 1 ? ";" : "") + list.Headings[k] + "=" + line.Cells[k];
+        }
+        table.Row({name, Str(line.Place), line.Name, line.Team, line.Cells[0], more});
       }
     }
     table.Print(std::cout, true);
@@ -38,7 +33,7 @@ int Print(const Lists& lists, const Common& common) {
   }
   const bool empty =
       std::all_of(lists.begin(), lists.end(), [](const LeaderList& l) { return l.Lines.empty(); });
-  Show(empty ? "No leaders yet." : PageOf(lists));
+  PrintPlain(std::cout, empty ? "No leaders yet." : PageOf(lists));
   return 0;
 }
 
@@ -212,7 +207,7 @@ int ShowRecords(const RecordRequest& request, const Common& common) {
   if (common.Csv) {
     table.Print(std::cout, true);
   } else {
-    Show(page.empty() ? "No records yet." : page);
+    PrintPlain(std::cout, page.empty() ? "No records yet." : page);
   }
   return 0;
 }

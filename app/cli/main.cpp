@@ -210,6 +210,8 @@ void AddStandings(CLI::App& app, Arguments& a) {
   auto* standings = app.add_subcommand("standings", "who leads each division or conference");
   auto* date = standings->add_option("--date", a.standings.Date, "as they were at the end of MM-DD");
   standings->add_option("--month", a.standings.Month, "of the games of one month, 1 to 12")->excludes(date);
+  standings->add_option("--by", a.standings.By, "from now on ordered by the total or the conference record")
+      ->check(CLI::IsMember({"total", "conference"}));
   standings->add_flag("--csv", a.common.Csv, "as comma-separated text");
   auto* power = app.add_subcommand("power", "the power rankings: margins, opponents and home court weighed");
   power->add_flag("--csv", a.common.Csv, "as comma-separated text");

@@ -107,7 +107,8 @@ void Report(int code, int played, double seconds, const Common& common) {
     return;
   }
   if (played == 0) return;
-  std::cout << '\n' << StandingsPage(OrderStandings(), true);
+  std::cout << '\n';
+  PrintPlain(std::cout, StandingsPage(OrderStandings(), true));
   LeaderRequest leaders;
   leaders.Top = 5;
   ShowLeaders(leaders, common);

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "league/program.h"
+#include "cli/columns.h"
 #include "season/power_rankings.h"
 #include "season/standings.h"
 
@@ -16,7 +16,7 @@ int ShowDated(const StandingsArguments& a, const Common& common) {
   screen.Month = a.Date.empty() ? a.Month : date.month;
   screen.Day = date.day;
   if (!screen.BuildStandingsByDate()) return 1;
-  std::cout << (common.Csv ? screen.csv : screen.page);
+  PrintPlain(std::cout, common.Csv ? screen.csv : screen.page);
   return 0;
 }
 
@@ -24,17 +24,18 @@ int ShowDated(const StandingsArguments& a, const Common& common) {
 
 int ShowStandings(const StandingsArguments& a, const Common& common) {
   if (!OpenTheLeague(common)) return 1;
+  if (!a.By.empty() && !OrderStandingsBy(a.By == "conference")) return 1;
   if (!a.Date.empty() || a.Month != 0) return ShowDated(a, common);
   if (!DisplayStandings()) return 1;
   const Standings standings = OrderStandings();
-  std::cout << (common.Csv ? StandingsCsv(standings, false) : StandingsPage(standings, false));
+  PrintPlain(std::cout, common.Csv ? StandingsCsv(standings, false) : StandingsPage(standings, false));
   return 0;
 }
 
 int ShowPower(const Common& common) {
   if (!OpenTheLeague(common) || !DisplayPowerRankings()) return 1;
   const auto lines = PowerRankings();
-  std::cout << (common.Csv ? PowerCsv(lines) : PowerPage(lines));
+  PrintPlain(std::cout, common.Csv ? PowerCsv(lines) : PowerPage(lines));
   return 0;
 }
 

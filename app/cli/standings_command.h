@@ -9,6 +9,7 @@ namespace tipline::cli {
 struct StandingsArguments {
   std::string Date;  ///< "MM-DD", "" now
   int Month = 0;     ///< of one month's games alone, 0 none
+  std::string By;    ///< "total" or "conference": the rule is set so first, "" as it is
 };
 
 /// The standings, today's or those of a date.

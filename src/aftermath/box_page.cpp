@@ -4,6 +4,7 @@
 
 #include "aftermath/box_sums.h"
 #include "aftermath/box_text.h"
+#include "aftermath/season_lines.h"
 #include "base/calendar.h"
 #include "base/page.h"
 #include "engine/game_state.h"
@@ -34,7 +35,8 @@ void PutGameType(Page& page) {
   const ScheduleRecord* row = league.Row(game.ScheduleRow);
   if (!row) return;
   for (const TypeName& type : kCupGames) {
-    if (row->GameType == type.letter) page.Put(type.words).Put(" (").Put(row->GameType.View()).Put(")");
+    if (row->GameType == type.letter)
+      page.Put(" ").Put(type.words).Put(" (").Put(row->GameType.View()).Put(")");
   }
 }
 
@@ -53,7 +55,6 @@ void PutSeries(Page& page) {
 void PutDate(Page& page) {
   const int month = game.GameCalendarMonth > 12 ? 9 : game.GameCalendarMonth;
   page.Put(" ").Put(MonthName(month)).Put(" ").Put(game.GameDay).Put(", ").Put(game.GameYear);
-  page.Put(" ");
   PutGameType(page);
   PutSeries(page);
   const ScheduleRecord* row = league.Row(game.ScheduleRow);
@@ -97,7 +98,8 @@ struct RowColumns {
   int behindShots, assistWidth;
 };
 constexpr RowColumns kManColumns[2] = {{0, 28, 35, 43, 4, 3}, {28, 35, 42, 50, 4, 3}};
-constexpr RowColumns kTeamColumns[2] = {{0, 29, 35, 42, 3, 4}, {29, 35, 42, 49, 3, 4}};  // 100 shots, or more
+constexpr RowColumns kTeamColumns[2] = {{0, 29, 35, 42, 3, 4},
+                                        {29, 35, 42, 49, 3, 4}};  // 14-30 ends before the free throws
 
 /// From the field goals to the points.
 void PutCounters(Page& page, const StatLine& s, const RowColumns& at) {
@@ -259,7 +261,7 @@ void PutIdle(Page& page) {
     page.Put(s == 1 ? " DNP " : "     ").Right(3, game.team[s].Abbrev.View()).Put(": ");
     bool first = true;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!OnTeam(s, slot) || LoadedAt(s, slot).PlayerOut || ManAt(s, slot).PlayerGameTime > 0) continue;
+      if (!OnTeam(s, slot) || LoadedAt(s, slot).PlayerOut || HasPlayed(s, slot)) continue;
       page.Put(first ? "" : ", ").Put(KnownName(PlayerAt(s, slot)));
       first = false;
     }

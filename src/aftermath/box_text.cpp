@@ -3,9 +3,7 @@
 #include <algorithm>
 
 #include "aftermath/box_sums.h"
-#include "base/record_file.h"
 #include "engine/game_state.h"
-#include "league/files.h"
 #include "league/program.h"
 #include "league/report_file.h"
 

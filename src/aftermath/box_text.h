@@ -22,7 +22,7 @@ struct GameMvp {
 };
 GameMvp PickGameMvp();
 
-/// The page, lines ended by '\n'. Reads `game` alone.
+/// The page, lines ended by '\n'. Reads `game`, `program`, `setup`, and the league's rules and schedule.
 std::string BoxPage();
 
 /// Sums the totals where that is due, works out what only the box shows (bench, paint and second-chance

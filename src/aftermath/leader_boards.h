@@ -58,7 +58,7 @@ struct TopRow {
 };
 TopRow TopRowOf(const Top40Table& table, int place, int category);
 /// Enters a performance ahead of all that are not better; the fortieth falls out. False, and nothing changed,
-/// when it is below the fortieth place, or nothing at all: 0 or less.
+/// when it is below the fortieth place; an empty place has 0.
 bool InsertTop40(Top40Table& table, int category, const TopRow& row);
 
 }  // namespace tipline

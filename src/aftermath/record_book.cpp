@@ -5,8 +5,9 @@
 #include <limits>
 #include <utility>
 
-#include "aftermath/played.h"
+#include "aftermath/box_sums.h"
 #include "aftermath/record_names.h"
+#include "aftermath/season_lines.h"
 #include "base/record_file.h"
 #include "league/data_tree.h"
 #include "league/files.h"
@@ -168,16 +169,6 @@ StatLine InTeamMinutes(StatLine line) {
   return line;
 }
 
-StatLine SumOfMen(int side) {
-  StatLine sum;
-  for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!PlayedIn(side, slot)) continue;
-    const StatLine& line = PlayerAt(side, slot).Stats[3];
-    for (const auto counter : kTeamCounters) sum.*counter = Held(sum.*counter + line.*counter);
-  }
-  return InTeamMinutes(sum);
-}
-
 /// The games on the road are those that were not at home.
 StatLine RoadLine(const TeamRecord& team) {
   StatLine line;
@@ -187,18 +178,28 @@ StatLine RoadLine(const TeamRecord& team) {
   return line;
 }
 
+/// What only a single game has; in a season's row it is the best of the team's.
+void EnterPeriods(Candidate& entry, RecordBlock block, int side) {
+  if (Lead(side) > 0) entry.Enter(block, kMarginRecord, Lead(side));
+  for (int period = 1; period <= kRecordPeriods; ++period) {
+    entry.Enter(block, kPeriodRecords + period - 1, game.side[side].PeriodScore[period]);
+    entry.Enter(block, kOppPeriodRecords + period - 1, game.side[3 - side].PeriodScore[period]);
+  }
+}
+
 void EnterTeamSeason(Candidate& entry, int side) {
   const TeamRecord& team = game.team[side];
   entry.EnterLine(RecordBlock::kSeason, 1, InTeamMinutes(team.TeamStats[1]));
   const StatLine place = side == 1 ? RoadLine(team) : team.HomeStats[1];
   entry.EnterLine(RecordBlock::kSeason, PlaceRecords(side), InTeamMinutes(place));
   entry.EnterShots(RecordBlock::kSeason, [&team](int k) -> int { return team.*kShotSplits[k].team; });
+  EnterPeriods(entry, RecordBlock::kSeason, side);
 }
 
 int ShotsOfMen(int side, int split) {
   int sum = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (PlayedIn(side, slot)) sum += (PlayerAt(side, slot).*kShotSplits[split].man)[3];
+    if (OnTeam(side, slot) && HasPlayed(side, slot)) sum += (PlayerAt(side, slot).*kShotSplits[split].man)[3];
   }
   return sum;
 }
@@ -215,18 +216,12 @@ void EnterBestStretch(Candidate& entry, const Table<int, 1, 10>& points) {
 }
 
 void EnterTeamGame(Candidate& entry, int side) {
-  const StatLine sum = SumOfMen(side);
+  const StatLine sum = InTeamMinutes(TotalsOf(side));
   entry.EnterLine(RecordBlock::kGame, 1, sum);
   entry.EnterLine(RecordBlock::kGame, PlaceRecords(side), sum);
   entry.EnterShots(RecordBlock::kGame, [side](int k) { return ShotsOfMen(side, k); });
-  if (Lead(side) > 0) entry.Enter(RecordBlock::kGame, kMarginRecord, Lead(side));
-  const auto& own = game.side[side].PeriodScore;
-  const auto& other = game.side[3 - side].PeriodScore;
-  for (int period = 1; period <= kRecordPeriods; ++period) {
-    entry.Enter(RecordBlock::kGame, kPeriodRecords + period - 1, own[period]);
-    entry.Enter(RecordBlock::kGame, kOppPeriodRecords + period - 1, other[period]);
-  }
-  EnterBestStretch(entry, own);
+  EnterPeriods(entry, RecordBlock::kGame, side);
+  EnterBestStretch(entry, game.side[side].PeriodScore);
 }
 
 bool BookIsOpen() {
@@ -283,7 +278,7 @@ void UpdatePlayerRecords() {
     man.entry.HolderTeam = game.team[side].Abbrev.View();
     man.entry.Opponent = game.team[3 - side].Abbrev.View();
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!PlayedIn(side, slot)) continue;
+      if (!OnTeam(side, slot) || !HasPlayed(side, slot)) continue;
       man.entry.Holder = PlayerAt(side, slot).LastName.View();
       EnterSeason(man, side, PlayerAt(side, slot));
       EnterGame(man, side, slot);

@@ -2,9 +2,11 @@
 #include <algorithm>
 #include <string>
 
+#include "aftermath/box_text.h"
 #include "aftermath/leader_boards.h"
-#include "aftermath/played.h"
+#include "aftermath/season_lines.h"
 #include "base/record_file.h"
+#include "engine/game_state.h"
 #include "league/files.h"
 #include "league/program.h"
 
@@ -14,11 +16,6 @@ namespace {
 constexpr int kOwnTable = 13;  // of the categories, the one that has its tables at the record's end
 
 RecordFile Top40File() { return {LeagueFile("HcTop40"), kLeaderSlotBytes}; }
-
-double GameScoreOf(const StatLine& l) {
-  return PointsOf(l) + 0.4 * l.FGM - 0.7 * l.FGA - 0.4 * (l.FTA - l.FTM) + 0.7 * l.Off +
-         0.3 * (l.Reb - l.Off) + l.St + 0.7 * l.Ast + 0.7 * l.Bk - 0.4 * l.Pf - l.To;
-}
 
 struct Category {
   std::string_view name;
@@ -31,7 +28,7 @@ constexpr Category kCategories[] = {
     {"Assists",             [](const StatLine& l) -> double { return l.Ast; }},
     {"Steals",              [](const StatLine& l) -> double { return l.St; }},
     {"Blocks",              [](const StatLine& l) -> double { return l.Bk; }},
-    {"Game Score",          GameScoreOf},
+    {"Game Score",          [](const StatLine& l) { return GameScore(l); }},
     {"Field Goals-Made",    [](const StatLine& l) -> double { return l.FGM; }},
     {"Three Pointers-Made", [](const StatLine& l) -> double { return l.F3M; }},
     {"Free Throws-Made",    [](const StatLine& l) -> double { return l.FTM; }},
@@ -71,7 +68,7 @@ bool EnterTeam(Top40Table& table, int side) {
   row.Game = GameText(side);
   bool changed = false;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!PlayedIn(side, slot)) continue;
+    if (!OnTeam(side, slot) || !HasPlayed(side, slot)) continue;
     const PlayerRecord& man = PlayerAt(side, slot);
     row.Name = man.LastName.View();
     for (int category = 1; category <= kTopCategories; ++category) {
@@ -96,7 +93,7 @@ TopRow TopRowOf(const Top40Table& t, int place, int category) {
 }
 
 bool InsertTop40(Top40Table& t, int category, const TopRow& row) {
-  if (!(row.Value > 0) || row.Value < ValueAt(t, kTopPlaces, category)) return false;
+  if (!(row.Value >= ValueAt(t, kTopPlaces, category))) return false;
   int place = 1;
   while (place <= kTopPlaces && ValueAt(t, place, category) > row.Value) ++place;
   if (place > kTopPlaces) return false;

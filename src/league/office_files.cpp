@@ -4,6 +4,7 @@
 
 #include "base/record_file.h"
 #include "league/files.h"
+#include "league/program.h"
 #include "league/schedule.h"
 
 namespace tipline {
@@ -60,12 +61,14 @@ bool SaveDraftLog(const DraftLog& log) {
   return WriteFile("DraftLog", bytes);
 }
 
-void LoadScores() {
+bool LoadScores() {
+  if (program.LeagueFolder.empty()) return true;
   const RecordFile file(LeagueFile("SCORES"), kScheduleSlotBytes);
   const int rows = std::min(file.Count(), kMostScheduleRows);
   league.Scores.assign(static_cast<std::size_t>(rows) + 1, {});
-  file.ReadAll(rows,
-               [](int n, const u8* bytes) { ReadRecord(bytes, league.Scores[static_cast<std::size_t>(n)]); });
+  const bool read = file.ReadAll(
+      rows, [](int n, const u8* bytes) { ReadRecord(bytes, league.Scores[static_cast<std::size_t>(n)]); });
+  return WasRead(read, file.Path());
 }
 
 bool SaveScores() {

@@ -86,8 +86,9 @@ bool SaveAddressBook(const AddressBook& book);
 void LoadDraftLog(DraftLog& log);
 bool SaveDraftLog(const DraftLog& log);
 
-/// The lines of SCORES, one per game played in the order of play, into `league.Scores`; at most 20000.
-void LoadScores();
+/// The lines of SCORES, one per game played in the order of play, into `league.Scores`; at most 20000. False,
+/// told, when the file can't be read. A league without a folder keeps those it has.
+bool LoadScores();
 /// Writes them over the file.
 bool SaveScores();
 

@@ -82,8 +82,8 @@ bool OpenLeague() {
   if (!LoadAllTeams()) return false;
   LoadLeaguePlayers();
   const bool schedule = LoadSchedule();
-  LoadScores();
-  return schedule && (rules || SaveRules()) && CleanUnmarkedFolder();
+  const bool scores = LoadScores();
+  return schedule && scores && (rules || SaveRules()) && CleanUnmarkedFolder();
 }
 
 bool OpenSeason(const std::string& name) {

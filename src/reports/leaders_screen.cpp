@@ -163,7 +163,7 @@ LeaderList HcLeaders2023::TopGames(int category) const {
     list.Lines.push_back({static_cast<int>(list.Lines.size()) + 1,
                           0,
                           row.Name.Str(),
-                          std::string(row.Game.View().substr(0, 3)),
+                          std::string(row.Game.View().substr(0, row.Game.View().find(" vs "))),
                           {text, row.Game.Str()}});
   }
   return list;

@@ -106,8 +106,8 @@ std::vector<StandingsLine> DisplayStandings(const std::vector<int>& divisions) {
   }
   std::vector<StandingsLine> lines;
   for (const int team : view.teams) {
-    const TeamRecord& t = league.team[team];
-    lines.push_back({team, t.Wins, t.Losses, GamesBehind(standings, view, team)});
+    const WinLoss record = OrderingRecord(standings, league.team[team]);
+    lines.push_back({team, record.wins, record.losses, GamesBehind(standings, view, team)});
   }
   return lines;
 }

@@ -36,7 +36,8 @@ struct StandingsLine {
   int Team = 0, W = 0, L = 0;
   std::string GB;  ///< "-" for the first
 };
-/// Active teams of the divisions on view in the order of the standings, games behind the first of them.
+/// Active teams of the divisions on view in the order of the standings, games behind the first of them; by
+/// the record that orders the table.
 std::vector<StandingsLine> DisplayStandings(const std::vector<int>& divisions);
 
 }  // namespace tipline

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "aftermath/box_file.h"
+#include "aftermath/box_text.h"
 #include "base/random.h"
 #include "engine/engine.h"
 #include "engine/game_state.h"
@@ -12,6 +13,7 @@
 #include "league/program.h"
 #include "league/setup.h"
 #include "platform/dialogs.h"
+#include "season/standings.h"
 
 namespace tipline {
 namespace {
@@ -315,9 +317,16 @@ void HCAUTOPLAY::BoxCommand() {
   if (PlayingRow == 0) return;
   const std::string before = program.BoxFileName;
   program.BoxFileName = "TempBox";
+  (void)WriteBoxText();  // the record takes its page from it
   const bool saved = SaveBoxFile();
   program.BoxFileName = before;
   if (saved) screens_.ShowBox();
+}
+
+bool HCAUTOPLAY::StandingsTypeMenu(bool conference) {
+  if (!OrderStandingsBy(conference)) return false;
+  screens_.Refresh();
+  return true;
 }
 
 bool HCAUTOPLAY::JoinGameCommand() {

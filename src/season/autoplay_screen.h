@@ -84,6 +84,9 @@ struct HCAUTOPLAY {
   bool InstantOption() { return SetSpeed(0); }
   bool RegularOption() { return SetSpeed(1); }  ///< shown play by play; the run then stops behind each game
 
+  /// "Display Total Record" (false) or "Display Conference Record" (true) in the standings, saved at once.
+  bool StandingsTypeMenu(bool conference);
+
   // The run.
   void GameAutoCommand(int row);  ///< marks this game as well, and runs
   /// The same on the game screen: both coaches are human when both were computers.
@@ -104,7 +107,7 @@ struct HCAUTOPLAY {
   void ContinueCommand();
   void NextPlayCommand();
   void FinishGameCommand();  ///< to the end without a pause; the timer then begins no other game
-  void BoxCommand();  ///< keeps the running game in "TempBox", and shows it
+  void BoxCommand();         ///< keeps the running game in "TempBox", and shows it
   /// Takes the game over as it stands, both sides; beeps when it is decided.
   bool JoinGameCommand();
 

@@ -1,7 +1,7 @@
 #include "season/power_rankings.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "base/csv.h"
@@ -25,10 +25,6 @@ double SampleWeight(int games) {
   if (games < 1) return 0;
   if (games == 1) return 0.5;
   return games >= 10 ? 1.0 : 0.5 + 0.055 * (games - 1);
-}
-
-double PointsPerGame(const TeamRecord& team, int whose) {
-  return GamesOf(team) > 0 ? static_cast<double>(PointsOf(team.TeamStats[whose])) / GamesOf(team) : 0;
 }
 
 /// Points a game better than the opponents, on a neutral court: a team that played more on the road gets the
@@ -63,11 +59,6 @@ double Strength(const TeamRecord& team, const TeamRecord& opponent) {
   double strength = SampleWeight(GamesOf(opponent)) * BaseMargin(opponent);
   if (team.TeamType == 'C' && opponent.TeamType == 'C') strength += 3.0 * (opponent.ScheduleStrength - 7);
   return strength;
-}
-
-bool IsCollegeLeague() {
-  return std::any_of(league.team.begin() + 1, league.team.begin() + 1 + kTeams,
-                     [](const TeamRecord& t) { return t.TeamActive == 1 && t.TeamType == 'C'; });
 }
 
 struct Figures {
@@ -161,9 +152,9 @@ std::string PowerCsv(const std::vector<PowerLine>& lines) {
 }
 
 bool DisplayPowerRankings() {
-  LoadScores();
-  for (int t = 1; t <= kTeams; ++t) {
-    if (league.team[t].TeamActive == 1 && !ReadTeam(t)) return false;
+  if (!LoadScores()) return false;
+  for (int t = 1; t <= kTeams && !program.LeagueFolder.empty(); ++t) {
+    if (league.team[t].TeamActive == 1 && !ReadTeam(t)) return WasRead(false, TeamsFile());
   }
   const auto lines = PowerRankings();
   return program.SilentReport || WriteReport("POWER RANKINGS", PowerPage(lines));

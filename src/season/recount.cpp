@@ -112,7 +112,7 @@ Recount RecountLeague() {
   SeasonTally tally;
   BooksTally books;
   tally.Begin();
-  LoadScores();
+  if (!LoadScores()) findings("The scores can't be read.");
   recount.games = static_cast<int>(league.Scores.size()) - 1;
   for (int n = 1; n <= recount.games; ++n) {
     const ScheduleRecord& row = league.Scores[static_cast<std::size_t>(n)];

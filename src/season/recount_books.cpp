@@ -81,7 +81,7 @@ void BooksTally::AddTopGames(const BoxRecord& box) {
       if (!man.Played()) continue;
       for (int category = 1; category <= kTopCategories; ++category) {
         const double value = static_cast<f32>(TopCategoryValue(category, *man.line));
-        if (value > 0) topGames_[category].push_back({value, box.BoxNames[man.slot][side].Str(), ""});
+        if (value >= 0) topGames_[category].push_back({value, box.BoxNames[man.slot][side].Str(), ""});
       }
     }
   }

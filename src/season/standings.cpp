@@ -5,12 +5,12 @@
 #include "base/numbers.h"
 #include "base/page.h"
 #include "league/program.h"
+#include "league/rules.h"
 #include "league/setup.h"
 
 namespace tipline {
 namespace {
 
-bool IsCollegeLeague() { return league.rules.PeriodList <= 2; }
 bool ByConference() { return league.rules.StandingsOption == 1; }
 
 double WinShareOf(int wins, int losses) {
@@ -61,6 +61,13 @@ void Group(Standings& standings) {
 
 }  // namespace
 
+bool IsCollegeLeague() { return league.rules.PeriodList <= 2; }
+
+double PointsPerGame(const TeamRecord& team, int whose) {
+  const int games = team.Wins + team.Losses;
+  return games > 0 ? static_cast<double>(PointsOf(team.TeamStats[whose])) / games : 0;
+}
+
 WinLoss OrderingRecord(const Standings& standings, const TeamRecord& team) {
   if (standings.byConferenceRecord) return {team.DivisionWins, team.DivisionLosses};
   return {team.Wins, team.Losses};
@@ -93,6 +100,14 @@ std::string GamesBehind(const Standings& standings, const StandingsGroup& group,
   const WinLoss leader = OrderingRecord(standings, league.team[group.teams.front()]);
   const WinLoss own = OrderingRecord(standings, league.team[team]);
   return Decimal(((leader.wins - leader.losses) - (own.wins - own.losses)) / 2.0, 1);
+}
+
+bool OrderStandingsBy(bool conference) {
+  const u8 before = league.rules.StandingsOption;
+  league.rules.StandingsOption = conference ? 1 : 0;
+  if (SaveRules()) return true;
+  league.rules.StandingsOption = before;
+  return false;
 }
 
 Standings OrderStandings() {

@@ -20,6 +20,11 @@ struct Standings {
   bool byConferenceRecord = false;     ///< a college league that is ordered by the games of the conference
 };
 
+/// A college league plays two halves.
+bool IsCollegeLeague();
+/// Of the team (1) or its opponents (2); 0 before the first game.
+double PointsPerGame(const TeamRecord& team, int whose);
+
 /// Wins and losses.
 struct WinLoss {
   int wins = 0, losses = 0;
@@ -47,6 +52,10 @@ Standings OrderStandings();
 std::string StandingsPage(const Standings& standings, bool dated);
 /// One line a team, comma-separated, with a heading.
 std::string StandingsCsv(const Standings& standings, bool dated);
+
+/// "Display Total Record" (false) or "Display Conference Record" (true): sets the rule and saves it at once.
+/// False, told, with the rule as it was, when that failed.
+bool OrderStandingsBy(bool conference);
 
 /// Orders the teams, and but for `program.SilentReport` writes the report "STANDINGS". False, told, when that
 /// failed.

@@ -2,6 +2,7 @@
 #include "base/calendar.h"
 #include "base/tables.h"
 #include "league/office_files.h"
+#include "league/program.h"
 #include "league/report_file.h"
 #include "platform/dialogs.h"
 #include "season/standings.h"
@@ -78,8 +79,8 @@ bool HcStandingsByDate::BuildStandingsByDate() {
   if (Month < 1 || Month > 12 || Day < 0 || Day > ScheduleDays(Month)) {
     return platform::RefusedWith("Please select a date to view!");
   }
+  if (!LoadScores()) return false;
   const auto before = league.team;
-  LoadScores();
   for (int t = 1; t <= kTeams; ++t) ClearRecord(league.team[t]);
   for (std::size_t n = 1; n < league.Scores.size(); ++n) {
     if (InScope(league.Scores[n], Month, Day)) Replay(league.Scores[n]);
@@ -88,7 +89,7 @@ bool HcStandingsByDate::BuildStandingsByDate() {
   page = StandingsPage(standings, true);
   csv = StandingsCsv(standings, true);
   league.team = before;
-  return WriteReport("STANDINGS", page);
+  return program.SilentReport || WriteReport("STANDINGS", page);
 }
 
 }  // namespace tipline

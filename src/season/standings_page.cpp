@@ -22,11 +22,6 @@ struct Line {
 
 std::string Pair(int wins, int losses) { return std::to_string(wins) + "-" + std::to_string(losses); }
 
-double PerGame(const TeamRecord& team, int whose) {
-  const int games = team.Wins + team.Losses;
-  return games > 0 ? static_cast<double>(PointsOf(team.TeamStats[whose])) / games : 0;
-}
-
 /// A column as wide as its heading; figures end where the heading's last letter stands.
 struct Column {
   std::string_view heading, csv;
@@ -58,9 +53,9 @@ constexpr Column kColumns[] = {
     {"Trail ",      "Trail",    [](const Line& l) { return Pair(l.team.WinsTrailingAtHalf, l.team.LossesTrailingAtHalf); }, Column::kFull},
     {" vs .500+ ",  "vs.500+",  [](const Line& l) { return Pair(l.team.WinsVsWinning, l.team.LossesVsWinning); }, Column::kFull},
     {".500- ",      "vs.500-",  [](const Line& l) { return Pair(l.team.WinsVsLosing, l.team.LossesVsLosing); }, Column::kFull},
-    {"    Pts ",    "Pts",      [](const Line& l) { return Decimal(PerGame(l.team, 1), 1); }, Column::kFull},
-    {"  Opp ",      "Opp",      [](const Line& l) { return Decimal(PerGame(l.team, 2), 1); }, Column::kFull},
-    {" Diff ",      "Diff",     [](const Line& l) { return Decimal(PerGame(l.team, 1) - PerGame(l.team, 2), 1); }, Column::kFull},
+    {"    Pts ",    "Pts",      [](const Line& l) { return Decimal(PointsPerGame(l.team, 1), 1); }, Column::kFull},
+    {"  Opp ",      "Opp",      [](const Line& l) { return Decimal(PointsPerGame(l.team, 2), 1); }, Column::kFull},
+    {" Diff ",      "Diff",     [](const Line& l) { return Decimal(PointsPerGame(l.team, 1) - PointsPerGame(l.team, 2), 1); }, Column::kFull},
 };
 // clang-format on
 
