@@ -1,5 +1,6 @@
 #include "base/page.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -34,6 +35,7 @@ std::string Decimal(double value, int places) {
 
 std::string ShareText(int part, int whole) {
   // Half a thousandth goes up: 5 of 16 are .313.
+  part = std::max(part, 0);
   const long long n = whole > 0 ? (2000LL * part + whole) / (2LL * whole) : 0;
   const std::string digits = std::to_string(n % 1000);
   return (n >= 1000 ? std::to_string(n / 1000) : "") + "." + std::string(3 - digits.size(), '0') + digits;

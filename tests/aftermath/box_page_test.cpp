@@ -128,12 +128,12 @@ TEST(BoxPage, WhatElseThereIsToTell) {
        [] {
          program.PlayoffGame = true, program.SeriesWins = {{2, 1}}, program.SeriesHome = 2;
        },
-       " January", " January 30, 2011  < Playoff Game 4   SPR 2 NOR 2 >  Neutral Court"},
+       " January", " January 30, 2011 < Playoff Game 4   SPR 2 NOR 2 >  Neutral Court"},
       {"who leads it",
        [] {
          program.SeriesWins = {{3, 0}};
        },
-       " January", " January 30, 2011  < Playoff Game 4   NOR 3 SPR 1 >  Neutral Court"},
+       " January", " January 30, 2011 < Playoff Game 4   NOR 3 SPR 1 >  Neutral Court"},
       {"names", [] {}, " Technicals", " Technicals: Ames, Bond"},
       {"no names", [] {}, " Ejections", "no line  Ejections"},
       {"hurt men", [] {}, " Injuries", " Injuries: Dunn"},

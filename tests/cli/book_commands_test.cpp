@@ -42,6 +42,7 @@ class BookCommands : public testing::Test {
     program.BoxFileName = "BOX2.BOX";
     ASSERT_TRUE(WriteBoxText() && SaveBoxFile());
     page = game.BoxPageText;
+    league.Scores.resize(1);
     for (const char* name : {"", "BOX2.BOX"}) {
       ScheduleRecord row;
       row.BoxFile = name;

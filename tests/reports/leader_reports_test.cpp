@@ -171,7 +171,7 @@ TEST(LeadersScreen, ItsPagesAndRefusals) {
   platform::ScriptedDialogs dialogs;
   HcLeaders2023 screen;
   const std::string page = screen.BuildSubs(2);
-  EXPECT_TRUE(page.starts_with("League Leaders: Scoring a Game\n          ")) << page;
+  EXPECT_TRUE(page.starts_with("League Leaders: Scoring a Game\n      Player ")) << page;
   EXPECT_NE(page.find("\n   1  Al Ash                    NYK   10.10     10"), page.npos) << page;
   screen.TeamList = 1;
   for (int report = 1; report <= kDefaultLeaderReports; ++report) {
