@@ -5,14 +5,17 @@
 
 #include "aftermath/box_file.h"
 #include "aftermath/box_text.h"
+#include "aftermath/game_done.h"
 #include "aftermath/play_log.h"
 #include "base/record_file.h"
-#include "cli/box_score.h"
 #include "cli/columns.h"
 #include "cli/terminal.h"
 #include "league/files.h"
 #include "league/program.h"
+#include "league/report_file.h"
 #include "league/schedule.h"
+#include "platform/mail.h"
+#include "platform/zip.h"
 
 namespace tipline::cli {
 namespace {
@@ -52,22 +55,49 @@ void PrintPlays() {
   table.Print(std::cout, true);
 }
 
-}  // namespace
-
-int ShowBox(const std::string& game, const Common& common) {
-  if (!OpenTheLeague(common)) return 1;
-  const std::string name = BoxNameOf(game);
-  if (name.empty()) return 1;
-  const auto box = std::make_unique<BoxRecord>();
-  if (!ReadBox(LeagueFile(name), *box) || box->BoxTextMark != kBoxMark)
-    return platform::RefusedWith("Box file is not available!"), 1;
-  const int lines = std::min<int>(box->BoxTextLines, kBoxLines);
-  for (int n = 1; n <= lines; ++n) {
-    const auto& bytes = box->BoxText[n].bytes;
+std::string PageOf(const BoxRecord& box) {
+  std::string page;
+  for (int n = 1; n <= std::min<int>(box.BoxTextLines, kBoxLines); ++n) {
+    const auto& bytes = box.BoxText[n].bytes;
     std::string line(bytes.begin(), bytes.end());
     line.erase(line.find_last_not_of(std::string_view(" \0", 2)) + 1);
-    std::cout << Plain(std::move(line)) << '\n';
+    page += line + "\n";
   }
+  return page;
+}
+
+/// As behind the game itself: the report file holds box and scoring list, the box is the current one.
+int MailGame(const BoxRequest& request, const std::string& name, const std::string& page) {
+  const auto mail = platform::DesktopMail();
+  const auto zip = platform::LibraryZip();
+  if (!mail) return Refuse("letters are sent with xdg-email, which is not installed");
+  program.BoxFileName = name;
+  if (!LoadBoxFile() || !WriteReport("BOXSCORE", page + ScoringPage())) return 1;
+  program.GameKind = "L";
+  platform::UseMail(mail.get());
+  platform::UseZip(zip.get());
+  const HCGAMEDONE screen;
+  const bool sent = (!request.Mail || screen.SendBoxScoreCommand()) &&
+                    (!request.Statistician || screen.StatisticianCommand());
+  platform::UseMail(nullptr);
+  platform::UseZip(nullptr);
+  return sent ? 0 : 1;
+}
+
+}  // namespace
+
+int ShowBox(const BoxRequest& request, const Common& common) {
+  if (!OpenTheLeague(common)) return 1;
+  const std::string name = BoxNameOf(request.Game);
+  if (name.empty()) return 1;
+  const auto box = std::make_unique<BoxRecord>();
+  if (!ReadBox(LeagueFile(name), *box) || box->BoxTextMark != kBoxMark) {
+    platform::RefusedWith("Box file is not available!");
+    return 1;
+  }
+  const std::string page = PageOf(*box);
+  if (request.Mail || request.Statistician) return MailGame(request, name, page);
+  PrintPlain(std::cout, page);
   return 0;
 }
 
@@ -76,10 +106,13 @@ int ShowLog(const std::string& number, const Common& common) {
   program.BoxFileName = BoxNameOf(number);
   if (program.BoxFileName.empty() || !LoadBoxFile()) return 1;
   const bool kept = ReadPlayLog(PlayLogBeside(LeagueFile(program.BoxFileName)));
-  if (common.Csv) return PrintPlays(), 0;
-  PrintLines(std::cout, kept ? PlayLogPage() : "No play log was kept of this game.\n");
+  if (common.Csv) {
+    PrintPlays();
+    return 0;
+  }
+  PrintPlain(std::cout, kept ? PlayLogPage() : "No play log was kept of this game.\n");
   std::cout << '\n';
-  PrintLines(std::cout, ScoringPage());
+  PrintPlain(std::cout, ScoringPage());
   return 0;
 }
 

@@ -44,14 +44,6 @@ void PrintPeriods(std::ostream& out, int last) {
   table.Print(out, false);
 }
 
-void PrintLines(std::ostream& out, std::string_view page) {
-  while (!page.empty()) {
-    const std::size_t end = std::min(page.find('\n'), page.size());
-    out << Plain(std::string(page.substr(0, end))) << '\n';
-    page.remove_prefix(std::min(end + 1, page.size()));
-  }
-}
-
-void PrintBox(std::ostream& out) { PrintLines(out, BoxPage()); }
+void PrintBox(std::ostream& out) { PrintPlain(out, BoxPage()); }
 
 }  // namespace tipline::cli

@@ -20,9 +20,6 @@ void AddTo(StatLine& sum, const StatLine& line);
 /// The score by periods, up to period `last`.
 void PrintPeriods(std::ostream& out, int last);
 
-/// A page of text, line by line.
-void PrintLines(std::ostream& out, std::string_view page);
-
 /// The box of the game, as it is printed for every game.
 void PrintBox(std::ostream& out);
 

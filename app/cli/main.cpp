@@ -45,6 +45,7 @@ struct Arguments {
   cli::SeasonArguments season;
   cli::PhraseArguments phrases;
   cli::NewsArguments news;
+  cli::BoxRequest box;
   cli::LeaderArguments leaders;
   bool speak = false, recount = false;
   cli::StandingsArguments standings;
@@ -53,10 +54,12 @@ struct Arguments {
 void AddBooks(CLI::App& app, Arguments& a) {
   const auto add = [&](const char* name, const char* help) {
     auto* command = app.add_subcommand(name, help);
-    command->add_option("game", a.file, "its number in the scores, or \"last\"")->required();
+    command->add_option("game", a.box.Game, "its number in the scores, or \"last\"")->required();
     return command;
   };
-  add("box", "the box of a game that was played");
+  auto* box = add("box", "the box of a game that was played");
+  box->add_flag("--mail", a.box.Mail, "by mail to the members of the address book who get game reports");
+  box->add_flag("--statistician", a.box.Statistician, "the game file by mail to the league's statisticians");
   add("log", "its plays, and every basket")
       ->add_flag("--csv", a.common.Csv, "the plays as comma-separated text");
 }
@@ -253,8 +256,8 @@ int RunCommand(CLI::App& app, Arguments& a) {
   if (app.got_subcommand("plan")) return cli::ShowPlan(a.coach, a.common);
   if (app.got_subcommand("play")) return cli::PlayExhibition(a.play, a.common);
   if (app.got_subcommand("film")) return cli::ShowFilm(a.file, a.speak, a.common);
-  if (app.got_subcommand("box")) return cli::ShowBox(a.file, a.common);
-  if (app.got_subcommand("log")) return cli::ShowLog(a.file, a.common);
+  if (app.got_subcommand("box")) return cli::ShowBox(a.box, a.common);
+  if (app.got_subcommand("log")) return cli::ShowLog(a.box.Game, a.common);
   if (app.got_subcommand("dump")) return cli::Dump(a.file, a.record, a.common);
   if (app.got_subcommand("schedule")) return cli::RunSchedule(app, a.schedule, a.common);
   if (app.got_subcommand("season")) return cli::RunSeason(app, a.season, a.common);

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <optional>
 
+#include "aftermath/game_done.h"
 #include "cli/box_score.h"
 #include "cli/coach_marks.h"
 #include "cli/coach_session.h"
@@ -155,6 +156,7 @@ int PlayExhibition(const PlayRequest& request, const Common& common) {
     return code;
   }
   std::cout << (terminal.Watched() ? std::string(99, '-') : "") << '\n';
+  LeaveGameScreen();
   PrintBox(std::cout);
   std::cout << "\nFinal: " << TeamName(game.team[1]) << " " << game.side[1].Score << ", "
             << TeamName(game.team[2]) << " " << game.side[2].Score << '\n';

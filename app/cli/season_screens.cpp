@@ -1,4 +1,5 @@
 #include "cli/season_screens.h"
+#include "aftermath/game_done.h"
 
 #include <unistd.h>
 
@@ -129,6 +130,7 @@ void SeasonScreens::TellResult() {
     std::cout << "The game was not finished.\n";
     return;
   }
+  LeaveGameScreen();
   std::cout << '\n';
   PrintBox(std::cout);
   std::cout << "\nFinal: ";

@@ -122,7 +122,6 @@ News BookTables() {
 
 /// Without a league folder what is no file all the same: the book of records, the row and the scores.
 bool BookFiles(const News& news, const std::vector<int>& rows) {
-  (void)PostTicker();
   return PostHighlights(news.highlights) && PostInjuries(news.injuries) && EnterAllRecords() && SaveTeams() &&
          BookResult(rows) && UpdateLeaders() && UpdateTop40();
 }
@@ -165,19 +164,32 @@ void KeepMenInMemory() {
 }
 
 bool BookInOneStep() {
+  if (program.BooksBehind) {
+    return platform::RefusedWith(
+        "The game could not be kept: the one before is not wholly in the books yet. "
+        "Open the league again.");
+  }
   const std::vector<int> rows = RowsToClose();
   const LeagueBefore before(rows);
-  News news;
+  const News news = BookTables();
+  GroupSave::Kept kept = GroupSave::Kept::kNo;
   {
     GroupSave group(program.LeagueFolder);
-    news = BookTables();
-    game.InTheBooks = BookFiles(news, rows) && group.Keep();
+    if (BookFiles(news, rows)) kept = group.Keep();
   }
+  if (kept == GroupSave::Kept::kLater) {
+    program.BooksBehind = true;
+    return platform::RefusedWith(
+        "A file of the league can't be written. The game will be in the books when the "
+        "league is opened again.");
+  }
+  game.InTheBooks = kept == GroupSave::Kept::kYes;
   if (!game.InTheBooks) {
     before.PutBack();
     (void)LoadRecordBook();
     return platform::RefusedWith("The game could not be kept: the files of the league stay as they were.");
   }
+  (void)PostTicker();
   KeepMenInMemory();
   ListHighlights(news.highlights);
   return SaveGameFilm();

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "aftermath/box_file.h"
 #include "aftermath/box_text.h"
 #include "base/calendar.h"
 #include "base/record_file.h"
@@ -34,8 +35,7 @@ template <class Want>
 std::vector<std::string> Addresses(const AddressBook& book, Want want) {
   std::vector<std::string> to;
   for (int k = 1; k <= 50; ++k) {
-    const bool known = !book.MemberEmail[k].Empty() && !book.MemberName[k].Empty();
-    if (known && want(k)) to.push_back(book.MemberEmail[k].Str());
+    if (!book.MemberEmail[k].Empty() && want(k)) to.push_back(book.MemberEmail[k].Str());
   }
   return to;
 }
@@ -65,6 +65,14 @@ fs::path PackGame(const std::string& name) {
 }
 
 }  // namespace
+
+void LeaveGameScreen() {
+  if (program.LeagueFolder.empty() || program.TwoFolderGame) return;
+  program.BoxFileName = "TempBox";
+  (void)WriteBoxText();
+  (void)SaveBoxFile();
+  (void)WriteReport("BOXSCORE", BoxPage() + ScoringPage());
+}
 
 HCGAMEDONE::HCGAMEDONE() {
   for (int s = 1; s <= 2; ++s) {
@@ -99,6 +107,7 @@ fs::path HCGAMEDONE::GameFilmCommand() const {
 }
 
 bool HCGAMEDONE::SendBoxScoreCommand() const {
+  if (!MailCommands) return false;
   platform::Letter letter;
   letter.To = Addresses(book_, [this](int k) { return book_.MemberAutoReport[k] == 1; });
   letter.Subject = TeamName(game.team[1]) + " at " + TeamName(game.team[2]);
@@ -109,8 +118,10 @@ bool HCGAMEDONE::SendBoxScoreCommand() const {
 }
 
 bool HCGAMEDONE::StatisticianCommand() const {
+  if (!MailCommands) return false;
   platform::Letter letter;
-  letter.To = Addresses(book_, [this](int k) { return book_.MemberStatistician[k] == 1; });
+  letter.To = Addresses(
+      book_, [this](int k) { return book_.MemberStatistician[k] == 1 && !book_.MemberName[k].Empty(); });
   if (letter.To.empty()) {
     return platform::RefusedWith("You must specify a statistician in your league address book!");
   }

@@ -9,6 +9,10 @@
 
 namespace tipline {
 
+/// Behind a game that was looked at: its snapshot becomes the current box, and the report file holds its box
+/// with the list of all scores, as HCGAMEDONE takes them.
+void LeaveGameScreen();
+
 /// Opened on the game in `game`; it changes nothing of the league's.
 struct HCGAMEDONE {
   struct Team {

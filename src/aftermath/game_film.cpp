@@ -33,6 +33,7 @@ std::string FilmName() {
 }
 
 bool SaveGameFilm() {
+  program.LastFilmFile.clear();
   if (!FilmIsKept() || game.commentary.Film.empty()) return true;
   const std::string name = FilmName();
   if (!SaveFilm(LeagueFile(name))) return false;

@@ -112,7 +112,7 @@ std::vector<std::string> GameHighlights() {
   std::vector<std::string> lines;
   for (int side = 1; side <= 2; ++side) {
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (OnTeam(side, slot) && HasPlayed(side, slot)) AddMan(side, slot, lines);
+      if (HasPlayed(side, slot)) AddMan(side, slot, lines);
     }
   }
   AddBuzzerBeater(lines);

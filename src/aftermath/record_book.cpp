@@ -199,7 +199,7 @@ void EnterTeamSeason(Candidate& entry, int side) {
 int ShotsOfMen(int side, int split) {
   int sum = 0;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (OnTeam(side, slot) && HasPlayed(side, slot)) sum += (PlayerAt(side, slot).*kShotSplits[split].man)[3];
+    if (HasPlayed(side, slot)) sum += (PlayerAt(side, slot).*kShotSplits[split].man)[3];
   }
   return sum;
 }
@@ -278,7 +278,7 @@ void UpdatePlayerRecords() {
     man.entry.HolderTeam = game.team[side].Abbrev.View();
     man.entry.Opponent = game.team[3 - side].Abbrev.View();
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      if (!OnTeam(side, slot) || !HasPlayed(side, slot)) continue;
+      if (!HasPlayed(side, slot)) continue;
       man.entry.Holder = PlayerAt(side, slot).LastName.View();
       EnterSeason(man, side, PlayerAt(side, slot));
       EnterGame(man, side, slot);

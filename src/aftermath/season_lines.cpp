@@ -111,6 +111,7 @@ void AddToSeries(SeriesLine& series, const StatLine& line) {
 }  // namespace
 
 bool HasPlayed(int side, int slot) {
+  if (!OnTeam(side, slot)) return false;
   if (ManAt(side, slot).PlayerGameTime > 0) return true;
   const StatLine& line = PlayerAt(side, slot).Stats[3];
   return std::any_of(std::begin(kCounters), std::end(kCounters), [&](const auto c) { return line.*c > 0; });

@@ -23,7 +23,7 @@ Field Held(int value) {
   return static_cast<Field>(Clamp(value, low, high));
 }
 
-/// He was on the floor, if only for a free throw.
+/// The man of the team was on the floor, if only for a free throw.
 bool HasPlayed(int side, int slot);
 
 /// Closes the line of the game: whole minutes, a game from one minute on, fouled out or not.

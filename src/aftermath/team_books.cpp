@@ -40,7 +40,7 @@ void CompareColumn(TeamRecord& team, int column, int side) {
 
 void AddShotTable(int side) {
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot) || !HasPlayed(side, slot)) continue;
+    if (!HasPlayed(side, slot)) continue;
     for (const ShotSplit& split : kShotSplits)
       Add(game.team[side].*split.team, (PlayerAt(side, slot).*split.man)[3]);
   }

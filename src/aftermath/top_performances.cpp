@@ -68,7 +68,7 @@ bool EnterTeam(Top40Table& table, int side) {
   row.Game = GameText(side);
   bool changed = false;
   for (int slot = 1; slot <= kRosterSlots; ++slot) {
-    if (!OnTeam(side, slot) || !HasPlayed(side, slot)) continue;
+    if (!HasPlayed(side, slot)) continue;
     const PlayerRecord& man = PlayerAt(side, slot);
     row.Name = man.LastName.View();
     for (int category = 1; category <= kTopCategories; ++category) {

@@ -66,7 +66,8 @@ using FileList = std::vector<std::pair<fs::path, GatheredFile>>;
 
 /// A league may be moved before its journal is carried out: its own files are named from the folder.
 std::string NameFrom(const fs::path& folder, const fs::path& file) {
-  return file.parent_path() == folder ? file.filename().string() : file.string();
+  return file.parent_path() == folder ? file.filename().string()
+                                      : fs::absolute(file).lexically_normal().string();
 }
 
 std::string JournalText(const fs::path& folder, const FileList& files) {
@@ -302,22 +303,22 @@ bool GatherWhole(const fs::path& file, std::string bytes) {
   return true;
 }
 
-bool GroupSave::Keep() {
-  if (joined_) return true;  // the outer one keeps it
+GroupSave::Kept GroupSave::Keep() {
+  if (joined_) return Kept::kYes;  // the outer one keeps it
   underWay = nullptr;
   FileList files;
   for (const fs::path& path : order_) files.emplace_back(path, std::move(files_[path.native()]));
-  if (files.empty()) return true;
+  if (files.empty()) return Kept::kYes;
   const FileHandle journal = OwnJournal(folder_);
-  if (!journal.Open()) return false;
+  if (!journal.Open()) return Kept::kNo;
   const std::string text = JournalText(folder_, files);
   if (!journal.WriteAt(0, reinterpret_cast<const u8*>(text.data()), text.size())) {
     Empty(journal);
-    return false;
+    return Kept::kNo;
   }
   const Written written = WriteFiles(files);
-  if (written == Written::kHalf) return false;
-  return Empty(journal) && written == Written::kAll;
+  if (written == Written::kHalf || !Empty(journal)) return Kept::kLater;
+  return written == Written::kAll ? Kept::kYes : Kept::kNo;
 }
 
 bool FinishGroupSave(const fs::path& folder) {
@@ -330,8 +331,12 @@ bool FinishGroupSave(const fs::path& folder) {
   const std::string text = journal.ReadAll(&read);
   if (!read) return false;
   const auto files = ReadJournal(folder, text);
-  if (files && WriteFiles(*files) != Written::kAll) return false;
   std::error_code error;
+  if (!files) {  // nothing is to be done, even where it can't be removed
+    fs::remove(JournalOf(folder), error);
+    return true;
+  }
+  if (WriteFiles(*files) != Written::kAll) return false;
   return fs::remove(JournalOf(folder), error) && !error;
 }
 

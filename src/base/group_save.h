@@ -35,10 +35,13 @@ class GroupSave {
   GroupSave(const GroupSave&) = delete;
   GroupSave& operator=(const GroupSave&) = delete;
 
-  /// Writes all that was gathered, in its order. False when the files are as they were: the disk is full, or
-  /// another program holds one of them for too long. When even taking back fails the journal stays, and the
-  /// next opening of the folder goes on.
-  [[nodiscard]] bool Keep();
+  enum class Kept {
+    kYes,
+    kNo,  ///< the files are as they were: the disk is full, or another program holds one of them for too long
+    kLater,  ///< some are written, and the next opening of the folder goes on
+  };
+  /// Writes all that was gathered, in its order.
+  [[nodiscard]] Kept Keep();
 
  private:
   friend const GatheredFile* Gathered(const std::filesystem::path& file);

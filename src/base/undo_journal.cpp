@@ -227,7 +227,8 @@ FileHandle OpenToChange(const fs::path& file) {
   const auto end = Clock::now() + platform::kPatience;
   while (UndoUnfinished(file) != Undone::kNot) {
     FileHandle data(file, Opening::kChange);
-    if (!data.Open() || !data.Hold(Holding::kAlone)) return data;
+    if (!data.Open()) return data;
+    if (!data.Hold(Holding::kAlone)) break;
     // A saver makes his journal first, then waits for the file, and only then looks what stands there.
     if (!data.Removed() && !IsHalfChanged(file)) return data;
     if (Clock::now() > end) break;

@@ -7,8 +7,8 @@ namespace tipline {
 
 std::filesystem::path ReportFile();  ///< empty when no league is open
 
-/// Writes a page over the last report. False when that failed; without an open league there is no file to
-/// write.
+/// Writes a page over the last report, at once also within a group save: every game has one, and nothing is
+/// lost with it. False when that failed; without an open league there is no file to write.
 [[nodiscard]] bool WriteReportFile(std::string_view page);
 /// The same, and keeps its name in `program.ReportName`. False, told, when it could not be written.
 bool WriteReport(std::string_view name, std::string_view page);

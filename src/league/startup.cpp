@@ -75,6 +75,7 @@ std::string StatusFilePath() { return StatusFile().string(); }
 bool OpenLeague() {
   const fs::path folder = program.LeagueFolder;
   if (!FinishGroupSave(folder)) return Written(false, folder);
+  program.BooksBehind = false;
   SaveSetup();
   LoadSetup();
   program.LeagueFolder = folder;

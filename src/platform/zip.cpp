@@ -26,7 +26,11 @@ class LibZip : public Zip {
     bool packed = from && zip_file_add(out, name.c_str(), from, ZIP_FL_ENC_UTF_8) >= 0;
     if (from && !packed) zip_source_free(from);
     packed = packed && zip_close(out) == 0;
-    if (!packed) zip_discard(out);
+    if (!packed) {
+      zip_discard(out);
+      std::error_code ignored;
+      std::filesystem::remove(archive, ignored);
+    }
     return packed;
   }
 };

@@ -57,18 +57,6 @@ bool SideIsHuman() { return game.side[1].CoachMode == "H" || game.side[2].CoachM
 /// The books have the game; a league in memory alone has none to be kept in.
 bool IsKept() { return game.GameOver && (game.InTheBooks || program.LeagueFolder.empty()); }
 
-/// The league's table of men is what the files hold: the next game is tuned by a sample of it, and a season
-/// that was stopped and read again has to go on in the same way.
-void FollowInMemory() {
-  for (int side = 1; side <= 2; ++side) {
-    for (int slot = 1; slot <= kRosterSlots; ++slot) {
-      const PlayerRecord& man = PlayerAt(side, slot);
-      const auto row = static_cast<std::size_t>(std::max<i16>(man.RecNo, 0));
-      if (OnTeam(side, slot) && row > 0 && row < league.player.size()) league.player[row] = man;
-    }
-  }
-}
-
 }  // namespace
 
 bool HCAUTOPLAY::Open(bool playoffs) {
@@ -262,7 +250,6 @@ void HCAUTOPLAY::AfterGame() {
   } else if (!IsKept()) {
     Abandon();
   } else {
-    FollowInMemory();
     if (!SideIsHuman() && setup.ComputerCheck == 0) return;
     DropMarks();
     AutoRunning = false;

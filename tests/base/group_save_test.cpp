@@ -32,7 +32,7 @@ class GroupSaves : public testing::Test {
         AppendToFile(Path("growing"), std::string(100, static_cast<char>(version))) &&
         WriteWholeFile(Path(("box" + std::to_string(version)).c_str()), "box");
     EXPECT_TRUE(gathered);
-    return !keep || group.Keep();
+    return !keep || group.Keep() == GroupSave::Kept::kYes;
   }
 
   /// Versions 1 to n are in the files, and nothing else.

@@ -67,7 +67,7 @@ class BookCommands : public testing::Test {
 
 TEST_F(BookCommands, PrintAStoredGame) {
   for (const char* game : {"2", "last"}) {
-    const auto [code, text] = Run([&] { return ShowBox(game, common); });
+    const auto [code, text] = Run([&] { return ShowBox({game}, common); });
     EXPECT_EQ(code, 0);
     EXPECT_EQ(text.substr(0, 2000), page.substr(0, 2000));
     EXPECT_NE(text.find("Game MVP"), text.npos);
@@ -84,15 +84,15 @@ TEST_F(BookCommands, PrintAStoredGame) {
 
 TEST_F(BookCommands, RefuseWhatIsNotThere) {
   for (const char* game : {"0", "3", "-1", "x", "", "99999999999"}) {
-    EXPECT_EQ(Run([&] { return ShowBox(game, common); }).first, 1) << game;
+    EXPECT_EQ(Run([&] { return ShowBox({game}, common); }).first, 1) << game;
     EXPECT_EQ(Run([&] { return ShowLog(game, common); }).first, 1) << game;
   }
   EXPECT_NE(faults.str().find("there is no game x: 2 games have been played"), std::string::npos);
   EXPECT_TRUE(dialogs.told.empty());
-  EXPECT_EQ(Run([&] { return ShowBox("1", common); }).first, 1);
+  EXPECT_EQ(Run([&] { return ShowBox({"1"}, common); }).first, 1);
   EXPECT_EQ(Run([&] { return ShowLog("1", common); }).first, 1);
   std::filesystem::remove(LeagueFile("BOX2.BOX"));
-  EXPECT_EQ(Run([&] { return ShowBox("2", common); }).first, 1);
+  EXPECT_EQ(Run([&] { return ShowBox({"2"}, common); }).first, 1);
   EXPECT_EQ(Run([&] { return ShowLog("2", common); }).first, 1);
   EXPECT_EQ(dialogs.told, std::vector<std::string>(4, "Box file is not available!"));
 }
