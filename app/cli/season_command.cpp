@@ -84,13 +84,15 @@ int Run(const SeasonArguments& a, HCAUTOPLAY& screen, SeasonScreens& screens, in
     if (const int signal = StopRequest::Signal()) return 128 + signal;
     if (!MayBePlayed(a, *next)) return 1;
     const GameDate date = DateOf(*next);
+    const int row = static_cast<int>(next - league.ScheduleGame.data());
     screen.ContinueRun = true;
     screen.PlayCommandChosen();
+    if (row > 0 && league.Row(row)->Status == 'P') ++played;
     if (screen.GameLost || screen.StopRun) return 1;
-    if (game.GameOver) ++played;
     screens.progress->Show(played, DateText({date.month, date.day}));
     screens.TellResult();
-    if (!game.GameOver) break;
+    const bool finished = screen.Live && screen.Live->FinishRequested;  // and no other game begun
+    if (!game.GameOver || finished) break;
   }
   return 0;
 }

@@ -17,6 +17,7 @@ using platform::Holding;
 using platform::Opening;
 
 constexpr std::string_view kHeading = "TIPGROUP";
+constexpr long long kMostBytes = 1LL << 40;  // of a file
 
 GroupSave* underWay = nullptr;
 
@@ -64,10 +65,19 @@ bool TakeText(std::string_view& from, std::string_view& text) {
 
 using FileList = std::vector<std::pair<fs::path, GatheredFile>>;
 
-/// A league may be moved before its journal is carried out: its own files are named from the folder.
+/// Files are named from the folder: a league may be moved before its journal is carried out.
 std::string NameFrom(const fs::path& folder, const fs::path& file) {
-  return file.parent_path() == folder ? file.filename().string()
-                                      : fs::absolute(file).lexically_normal().string();
+  if (file.parent_path() == folder) return file.filename().string();
+  return fs::absolute(file).lexically_relative(fs::absolute(folder).lexically_normal()).string();
+}
+
+/// A journal comes with its folder, perhaps from somebody else: it may name files of the folder, and of the
+/// two above it where all leagues lie.
+bool IsSound(const fs::path& name) {
+  auto part = name.begin();
+  for (int up = 0; up < 2 && part != name.end() && *part == ".."; ++up) ++part;
+  return part != name.end() && std::next(part) == name.end() && *part != ".." && *part != "." &&
+         part->has_filename() && !part->has_root_path();
 }
 
 std::string JournalText(const fs::path& folder, const FileList& files) {
@@ -96,12 +106,14 @@ bool TakeFile(std::string_view& text, GatheredFile& file) {
   std::uint64_t count = 0;
   if (!Take(text, replaced) || !Take(text, file.length) || !TakeText(text, whole) || !Take(text, count))
     return false;
+  if (file.length < 0 || file.length > kMostBytes) return false;
   file.replaced = replaced != 0;
   file.whole = whole;
   for (std::uint64_t k = 0; k < count; ++k) {
     FilePiece piece;
     std::string_view bytes;
-    if (!Take(text, piece.offset) || !TakeText(text, bytes) || piece.offset < 0) return false;
+    if (!Take(text, piece.offset) || !TakeText(text, bytes) || piece.offset < 0 || piece.offset > kMostBytes)
+      return false;
     piece.bytes.assign(bytes.begin(), bytes.end());
     file.pieces.push_back(std::move(piece));
   }
@@ -124,7 +136,7 @@ std::optional<FileList> ReadJournal(const fs::path& folder, std::string_view tex
   while (!text.empty()) {
     std::string_view name;
     GatheredFile file;
-    if (!TakeText(text, name) || !TakeFile(text, file)) return {};
+    if (!TakeText(text, name) || !IsSound(fs::path(name)) || !TakeFile(text, file)) return {};
     files.emplace_back(folder / fs::path(name), std::move(file));
   }
   return files;
@@ -261,7 +273,7 @@ GroupSave::~GroupSave() {
 }
 
 GatheredFile& GroupSave::Of(const fs::path& file) {
-  const auto [entry, isNew] = files_.try_emplace(file.native());
+  const auto [entry, isNew] = files_.try_emplace(file.lexically_normal().native());
   if (isNew) order_.push_back(file);
   return entry->second;
 }
@@ -270,7 +282,7 @@ bool Gathering() { return underWay != nullptr; }
 
 const GatheredFile* Gathered(const fs::path& file) {
   if (!underWay) return nullptr;
-  const auto entry = underWay->files_.find(file.native());
+  const auto entry = underWay->files_.find(file.lexically_normal().native());
   return entry == underWay->files_.end() ? nullptr : &entry->second;
 }
 
@@ -307,7 +319,8 @@ GroupSave::Kept GroupSave::Keep() {
   if (joined_) return Kept::kYes;  // the outer one keeps it
   underWay = nullptr;
   FileList files;
-  for (const fs::path& path : order_) files.emplace_back(path, std::move(files_[path.native()]));
+  for (const fs::path& path : order_)
+    files.emplace_back(path, std::move(files_[path.lexically_normal().native()]));
   if (files.empty()) return Kept::kYes;
   const FileHandle journal = OwnJournal(folder_);
   if (!journal.Open()) return Kept::kNo;

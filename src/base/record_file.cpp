@@ -135,7 +135,17 @@ bool RecordFile::GatherSlots(const Slots& slots) const {
       end = std::max(end, static_cast<long long>(n) * slot_);
       const bool same =
           n * static_cast<long long>(slot_) <= file.Length() && std::equal(bytes.begin(), bytes.end(), old);
-      if (!same) pieces.push_back({(n - 1LL) * slot_, bytes});
+      if (same) continue;
+      // A whole slot, so that neighbors make one piece.
+      std::vector<u8> whole(old, old + slot);
+      std::copy_n(bytes.begin(), std::min(bytes.size(), slot), whole.begin());
+      const long long at = (n - 1LL) * slot_;
+      if (!pieces.empty() &&
+          pieces.back().offset + static_cast<long long>(pieces.back().bytes.size()) == at) {
+        pieces.back().bytes.insert(pieces.back().bytes.end(), whole.begin(), whole.end());
+      } else {
+        pieces.push_back({at, std::move(whole)});
+      }
     }
   }
   return pieces.empty() || Gather(path_, std::move(pieces), end);

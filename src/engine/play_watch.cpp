@@ -8,6 +8,7 @@ void ShowToWatcher(int side, int period, bool posted) {
   if (!game.Watcher || game.AnalysisMode) return;
   PlayMoment moment;
   moment.Side = side;
+  moment.Posted = posted;
   if (posted) {
     moment.Slot = game.play.PostedSlot;
     moment.PlayResult = game.play.Posted;

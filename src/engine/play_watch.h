@@ -13,6 +13,7 @@ struct PlayMoment {
   int Period = 1;                  ///< in which it was made
   i32 Clock = 0;                   ///< tenths left in that period
   bool PeriodEnded = false;
+  bool Posted = true;  ///< false for a pass alone: `game.play` still holds the play before it
 };
 
 class PlayWatcher {

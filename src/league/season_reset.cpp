@@ -114,6 +114,7 @@ void ZeroPlayer(PlayerRecord& player, int block) {
   for (auto& period : player.QuarterPoints) period[block] = 0;
   if (block == 1) return;
   player.Flagrants[2] = 0;
+  ClearLine(player.GameHighs[2]);
   for (const ShotSplit& split : kShotSplits) player.*split.man = {};
   ClearSeasonCounters(player);
   if (!program.ReplayLocked) ClearLine(player.SeriesStats);

@@ -1,5 +1,6 @@
 #include "platform/worker.h"
 
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,8 +9,6 @@
 #include <exception>
 #ifdef __linux__
 #include <sys/prctl.h>
-
-#include <csignal>
 #endif
 
 namespace tipline::platform {
@@ -57,6 +56,10 @@ bool Worker::Collect(bool wait) {
   succeeded_ = ended == process_ && WIFEXITED(status) && WEXITSTATUS(status) == 0;
   process_ = 0;
   return true;
+}
+
+void Worker::Stop() {
+  if (process_ > 0) kill(process_, SIGKILL);
 }
 
 bool Worker::Running() { return !Collect(false); }

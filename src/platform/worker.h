@@ -15,6 +15,7 @@ class Worker {
   Worker& operator=(const Worker&) = delete;
 
   bool Running();
+  void Stop();  ///< ends the work where it stands
   /// Waits for the end; false when the work failed, or its copy of the program was ended.
   bool Wait();
 

@@ -240,11 +240,10 @@ void HCAUTOPLAY::PlayHumanGame() {
 
 /// A game that is over and kept leaves its row played; any other leaves it as it was.
 void HCAUTOPLAY::AfterGame() {
-  ScheduleRecord& row = RowAt(PlayingRow);
   program.ReplayLocked = false;
   game.ExitRequested = false;
   if (!game.GameOver) {
-    if (row.Status == 'N') row.Status = "U";
+    DropMarks();
     AutoRunning = false;
     Reselected();
   } else if (!IsKept()) {

@@ -191,6 +191,7 @@ class Replays {
   bool PlayReplay(int job, int replay);
   bool PlaySeason(int replay, bool here);
   bool Merge();
+  bool TakeLastReplay();
 
   HCAUTOPLAY& screen_;
   AutoplayScreens& screens_;
@@ -222,8 +223,9 @@ bool Replays::PlaySeason(int replay, bool here) {
     if (here) screens_.BulkProgress(merged_, ++games);
     season.Timer1();
   }
-  const bool complete = !season.AutoRunning && !season.StopRun && !season.GameLost;
-  if (program.LeagueFolder == league_) {
+  // Games whose teams are not decided yet end the season; a stop leaves it running.
+  const bool complete = !season.AutoRunning && !season.GameLost;
+  if (replay == replays_) {
     DropMarks();
     for (std::size_t n = 1; n < coaches.size() && n < league.ScheduleGame.size(); ++n) {
       league.ScheduleGame[n].CoachKind = coaches[n];
@@ -234,15 +236,16 @@ bool Replays::PlaySeason(int replay, bool here) {
 }
 
 bool Replays::PlayReplay(int job, int replay) {
-  const bool last = replay == replays_;
-  const fs::path folder = last ? league_ : scratch_.Folder() / ("copy-" + std::to_string(job));
-  if (!last && !CopyLeague(Base(), folder)) {
+  const fs::path folder = scratch_.Folder() / ("copy-" + std::to_string(job));
+  if (!CopyLeague(Base(), folder)) {
     return platform::RefusedWith("The league could not be copied to " + scratch_.Folder().string() + "!");
   }
   if (!OpenFolder(folder) || !ClearSeason()) return false;
   if (!EverybodyIsFit() || !LoadAllTeams()) return false;
-  if (!last) league.rules.AllTimeRecordCheck = 0;  // what a copy sees is no record of all time
+  const u8 allTime =
+      std::exchange(league.rules.AllTimeRecordCheck, u8{0});  // a replay is no record of all time
   if (!PlaySeason(replay, job == 0)) return false;
+  league.rules.AllTimeRecordCheck = allTime;
   ReplayTotals season;
   AddSeason(season);
   return tipline::Written(WriteWholeFile(ResultOf(replay), Written(season), Saving::kUnflushed),
@@ -284,11 +287,44 @@ bool Replays::Run() {
     std::deque<platform::Worker> others;
     for (int job = 1; job < jobs_; ++job) others.emplace_back([this, job] { return PlayShare(job); });
     done = PlayShare(0);
+    for (auto& other : others) {
+      if (!done) other.Stop();
+    }
     for (auto& other : others) done = other.Wait() && done;
   }
-  done = Merge() && done;
-  if (program.LeagueFolder != league_ || !done) OpenFolder(league_);
-  return done && merged_ == replays_;
+  done = Merge() && done && merged_ == replays_ && TakeLastReplay();
+  OpenFolder(league_);
+  return done;
+}
+
+/// The league becomes the last replay: a folder beside it is made whole and takes its place.
+bool Replays::TakeLastReplay() {
+  const auto beside = [this](const char* ending) { return fs::path(league_.string() + ending); };
+  const fs::path made = beside(".new"), old = beside(".old");
+  std::error_code error;
+  fs::remove_all(made, error);
+  bool copied = CopyLeague(league_, made);
+  for (const auto& entry : fs::directory_iterator(league_, error)) {  // films and games laid by stay
+    const std::string ending = Upper(entry.path().extension().string());
+    if (!entry.is_regular_file() || !IsOfAGame(entry.path()) || ending == ".BOX" || ending == ".PLY")
+      continue;
+    copied = copied && fs::copy_file(entry.path(), made / entry.path().filename(), error);
+  }
+  for (const auto& entry : fs::directory_iterator(scratch_.Folder() / "copy-0", error)) {
+    if (entry.path().filename() == "BulkReplay.csv") continue;  // the league has the newer one
+    copied = copied && fs::copy_file(entry.path(), made / entry.path().filename(),
+                                     fs::copy_options::overwrite_existing, error);
+  }
+  if (copied && !error) fs::rename(league_, old, error);
+  if (copied && !error) fs::rename(made, league_, error);
+  if (copied && !error) {
+    fs::remove_all(old, error);
+    return true;
+  }
+  std::error_code ignored;
+  if (!fs::exists(league_, ignored)) fs::rename(old, league_, ignored);
+  fs::remove_all(made, ignored);
+  return platform::RefusedWith("The last replay could not be brought into " + league_.string() + "!");
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 // A league measured over many replays of its whole schedule.
 //
 // Every replay begins with the league as it stands when the first one begins: it is played on a copy of the
-// league's files, the last one in the league itself. So a replay does not depend on those before it, several
-// may be played side by side, and with the same seed the totals are the same whoever played which. A run that
-// is stopped leaves the league as it was.
+// league's files, and the last copy takes the league's place when all are done. So a replay does not depend
+// on those before it, several may be played side by side, and with the same seed the totals are the same
+// whoever played which. A run that is stopped leaves the league as it was.
 #include <cstdint>
 #include <filesystem>
 #include <string>

@@ -186,7 +186,7 @@ bool NowPlaying::CheckNowPlayingPause(const PlayMoment& moment) {
   ShowNowPlaying();
   if (FinishRequested) return false;
   bool pause = false;
-  if (!game.GameOver) {
+  if (!game.GameOver && moment.Posted) {
     pause = SomethingReached(moment);
     pause = SomebodyHurtOrOut() || pause;
   }

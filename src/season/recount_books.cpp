@@ -34,6 +34,12 @@ void ForFigures(const StatLine& line, int side, const std::function<void(int, in
   }
 }
 
+/// Categories of which a box tells: not those by the kind of shot, nor of a man's quarter or half.
+bool IsCounted(int id, bool team) {
+  if (id >= kMarginRecord && id < kQuarterRecords) return team;
+  return id < kShotRecords || (id >= kRoadRecords && id < kMarginRecord);
+}
+
 const auto& Best(const std::map<int, std::vector<Performance>>& all, int id) {
   static const std::vector<Performance> kNone;
   const auto found = all.find(id);
@@ -144,9 +150,8 @@ void BooksTally::Compare(const std::function<void(std::string)>& tell, long& fig
   if (LoadRecordBook()) {
     for (int id = 1; id <= kRecordIds; ++id) {
       const std::string name = RecordName(id > kTeamRecords ? id - kTeamRecords : id);
-      const auto known = records_.find(id);
-      if (name.empty() || known == records_.end()) continue;
-      auto all = known->second;
+      if (name.empty() || !IsCounted(id > kTeamRecords ? id - kTeamRecords : id, id > kTeamRecords)) continue;
+      auto all = Best(records_, id);
       SortBest(all, false);
       all.resize(kRecordPlaces);
       const RecordRow& row =
@@ -158,6 +163,8 @@ void BooksTally::Compare(const std::function<void(std::string)>& tell, long& fig
                 row.Value[place], row.Holder[place].View().substr(0, id > kTeamRecords ? 20 : 15), counted);
       }
     }
+  } else {
+    tell("The record book can't be read.");
   }
   if (Top40Table table; ReadTop40(table)) {
     for (int category = 1; category <= kTopCategories; ++category) {
@@ -171,6 +178,8 @@ void BooksTally::Compare(const std::function<void(std::string)>& tell, long& fig
             row.Value, row.Name.View(), all[static_cast<std::size_t>(place - 1)]);
       }
     }
+  } else {
+    tell("The best games can't be read.");
   }
   if (LeaderTable table; ReadLeaders(table)) {
     for (int board = 1; board <= kBoards; ++board) {
@@ -185,6 +194,8 @@ void BooksTally::Compare(const std::function<void(std::string)>& tell, long& fig
                 table.LeaderValue[place][board], std::to_string(table.LeaderRecNo[place][board]), counted);
       }
     }
+  } else {
+    tell("The leader boards can't be read.");
   }
 }
 

@@ -164,7 +164,7 @@ TEST_F(Books, WhatCantBeKeptChangesNothing) {
   const auto team = RecordBytes(league.team[game.GameTeam[1]]);
   NewGame();
   EXPECT_FALSE(game.InTheBooks);
-  EXPECT_EQ(Changed(before), std::set<std::string>{});
+  EXPECT_EQ(Changed(before), std::set<std::string>{"VTX.txt"}) << "the page of the box is no book";
   ASSERT_FALSE(dialogs.told.empty());
   EXPECT_TRUE(dialogs.told.back().starts_with("The game could not be kept: "));
   EXPECT_EQ(RecordBytes(league.team[game.GameTeam[1]]), team);
