@@ -293,8 +293,7 @@ bool Replays::Run() {
     for (auto& other : others) done = other.Wait() && done;
   }
   done = Merge() && done && merged_ == replays_ && TakeLastReplay();
-  OpenFolder(league_);
-  return done;
+  return OpenFolder(league_) && screen_.Open(program.PlayoffGame) && done;
 }
 
 /// The league becomes the last replay: a folder beside it is made whole and takes its place.

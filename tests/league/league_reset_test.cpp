@@ -283,8 +283,8 @@ TEST(SeasonReset, APlayerLosesOneBlock) {
   EXPECT_EQ(replay.Stats[3].FGA, 257) << "so does the last game";
   EXPECT_EQ(replay.Flagrants[3], 1);
   EXPECT_EQ(replay.SeriesStats.FGA, 0);
-  ExpectKept(replay, 53,
-             {"FirstName", "Status", "GameHighs", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
+  ExpectKept(replay, 54,
+             {"FirstName", "Status", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
               "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"});
 
   auto inGame = Full<PlayerRecord>();
