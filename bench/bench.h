@@ -36,6 +36,10 @@ int Incidents(std::ostream& out, const BenchOptions& options);
 /// A season of a new league played on disk; with `season` one of a college league of 360 teams as well.
 int Season(std::ostream& out, const BenchOptions& options);
 
+/// Whole seasons of all presets from five seeds, read as a fan does: records, leaders, highs, beside what
+/// real leagues show.
+int Sanity(std::ostream& out, const BenchOptions& options);
+
 /// How varied the commentary is, what is wrong in it, what is never said, and what it costs.
 int Commentary(std::ostream& out, const BenchOptions& options);
 

@@ -25,6 +25,7 @@ int Usage() {
                "  incidents  injuries, technicals and the like in a hundred games; games missed in a season\n"
                "  commentary  N games (50) of each preset: variety, faults, what is never said, cost\n"
                "  season     a season played on disk, game by game; --season for 360 college teams too\n"
+               "  sanity     seasons of all presets, five seeds: records, leaders, highs, beside real ones\n"
                "  realism    leagues from 1950 to 2022 beside their eras; --season for a full season\n";
   return 2;
 }
@@ -64,6 +65,7 @@ int Run(std::string_view command, const BenchOptions& options) {
   if (command == "incidents") return Incidents(std::cout, options);
   if (command == "commentary") return Commentary(std::cout, options);
   if (command == "season") return Season(std::cout, options);
+  if (command == "sanity") return Sanity(std::cout, options);
   if (command == "realism") return Realism(std::cout, options);
   if (command == "players") {
     UseShippedEras();

@@ -12,7 +12,6 @@
 #include "bench.h"
 #include "harness/disk_league.h"
 #include "harness/temporary_home.h"
-#include "league/league.h"
 
 namespace tipline {
 namespace {
@@ -34,21 +33,6 @@ void PrintParts(std::ostream& out, const std::vector<double>& times) {
     out << ' ' << std::fixed << std::setprecision(2) << sum / static_cast<double>(each) * 1000;
   }
   out << '\n';
-}
-
-/// Teams' records, and how they spread: a league in which everybody wins half of his games says nothing.
-void PrintSanity(std::ostream& out) {
-  double best = 0, worst = 1;
-  int games = 0;
-  for (int t = 1; t <= kTeams; ++t) {
-    const TeamRecord& team = league.team[t];
-    if (team.TeamActive != 1 || team.Wins + team.Losses == 0) continue;
-    const double share = static_cast<double>(team.Wins) / (team.Wins + team.Losses);
-    best = std::max(best, share), worst = std::min(worst, share);
-    games += team.Wins + team.Losses;
-  }
-  out << std::setprecision(3) << "team games " << games << ", best team " << best << ", worst " << worst
-      << '\n';
 }
 
 int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request,
@@ -74,7 +58,6 @@ int OneSeason(std::ostream& out, const char* title, const LeagueRequest& request
   out << "processor time " << std::setprecision(2) << busy / static_cast<double>(times.size()) * 1000
       << " milliseconds a game\n";
   PrintParts(out, times);
-  PrintSanity(out);
   out << "peak memory " << usage.ru_maxrss / 1024 << " MiB\n";
   return rate < kAim ? 1 : 0;
 }
