@@ -117,6 +117,7 @@ bool RecordFile::GatherSlots(const Slots& slots) const {
   if (!file.Ok()) return false;
   std::vector<FilePiece> pieces;
   std::vector<u8> before;
+  const long long length = file.Length();
   long long end = 0;
   for (std::size_t k = 0; k < slots.size();) {
     // Slots that lie near one another are read at once.
@@ -134,7 +135,7 @@ bool RecordFile::GatherSlots(const Slots& slots) const {
       const u8* old = before.data() + static_cast<std::size_t>(n - first) * slot;
       end = std::max(end, static_cast<long long>(n) * slot_);
       const bool same =
-          n * static_cast<long long>(slot_) <= file.Length() && std::equal(bytes.begin(), bytes.end(), old);
+          n * static_cast<long long>(slot_) <= length && std::equal(bytes.begin(), bytes.end(), old);
       if (same) continue;
       // A whole slot, so that neighbors make one piece.
       std::vector<u8> whole(old, old + slot);
