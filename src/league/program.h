@@ -38,7 +38,7 @@ struct Program {
   bool ResumingGame = false;   ///< a load of a box does not add its lines to the season lines
   std::string LastFilmFile;    ///< film of the last game that left one
   std::string ReportName;      ///< what stands in the report file
-  bool BooksBehind = false;     ///< a game is in the journal that could not be brought into all files
+  bool BooksBehind = false;    ///< a game is in the journal that could not be brought into all files
   bool SilentReport = false;   ///< a report is worked out and not written
   bool PlayoffGame = false;
   int CurrentRound = 0;           ///< playoff round 1 to 4, 0 none

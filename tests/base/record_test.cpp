@@ -23,10 +23,10 @@ namespace {
 
 template <class Record>
 class Records : public testing::Test {};
-using AllRecords = testing::Types<StatLine, RealTotalsLine, SeriesLine, TeamRecord, PlayerRecord, CoachRecord,
-                                  RulesRecord, EraRecord, ScheduleRecord, TournamentPools, SetupRecord,
-                                  DailyRecord, AddressBook, DraftSettings, DraftSelections,
-                                  RecordRow, LeaderTable, Top40Table>;
+using AllRecords =
+    testing::Types<StatLine, RealTotalsLine, SeriesLine, TeamRecord, PlayerRecord, CoachRecord, RulesRecord,
+                   EraRecord, ScheduleRecord, TournamentPools, SetupRecord, DailyRecord, AddressBook,
+                   DraftSettings, DraftSelections, RecordRow, LeaderTable, Top40Table>;
 TYPED_TEST_SUITE(Records, AllRecords);
 
 TYPED_TEST(Records, OffsetsMeetEndToEnd) {
