@@ -284,8 +284,8 @@ TEST(SeasonReset, APlayerLosesOneBlock) {
   EXPECT_EQ(replay.Flagrants[3], 1);
   EXPECT_EQ(replay.SeriesStats.FGA, 0);
   ExpectKept(replay, 54,
-             {"FirstName", "Status", "SuspensionGames", "InjuryType", "InjuryReturnMonth",
-              "RatePassing", "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"});
+             {"FirstName", "Status", "SuspensionGames", "InjuryType", "InjuryReturnMonth", "RatePassing",
+              "RotationGrid", "ShareMark", "RecNo", "TeamNo", "AltForm1", "Salary"});
 
   auto inGame = Full<PlayerRecord>();
   program.ReplayLocked = true;
