@@ -19,7 +19,7 @@ TEST(Fuzz, DamagedLeaguesAreOpenedPlayedAndSaved) {
   const TemporaryHome home;
   UseShippedEras();
   const LeagueImage sound = MakeSmallImage();
-  const int leagues = Setting("TIPLINE_FUZZ", 2000), first = Setting("TIPLINE_FUZZ_SEED", 1);
+  const int leagues = Setting("TIPLINE_FUZZ", 800), first = Setting("TIPLINE_FUZZ_SEED", 1);
   int refused = 0, played = 0;
   for (int seed = first; seed < first + leagues; ++seed) {
     const DamagedRun run = RunDamagedLeague(sound, static_cast<std::uint64_t>(seed));
